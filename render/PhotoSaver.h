@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+/// JPEG data of a picture at the encoder's default quality, marked as sRGB. `exif` is the source's raw EXIF block (see
+/// LoadedPhoto): it is kept with orientation 1, the picture's size and no thumbnail; an empty one writes none.
+/// Empty data when the picture cannot be encoded.
+QByteArray encodeJpeg(const QImage& image, const QByteArray& exif);
+
+/// Writes `data` to `path` (any bytes) so that a file that stands there is replaced whole or left as it was.
+/// False and a `reason` for people when it could not be written.
+bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "core/GrowArray.h"
+
+#include <QImage>
+#include <functional>
+
+/// What one render applies to its source.
+struct RenderSettings {
+    int filter = -1; ///< a filter number, or -1 for every entry of `filterIDs` in order
+    const GrowArray<int>* filterIDs = nullptr; ///< the applied list, read when `filter` is -1
+    int cropFilter = 14; ///< whose crop aspect is taken; 14: none
+    int borderFilter = 14; ///< whose margins and border are drawn; 14: none
+    bool asThumbnail = false; ///< square, without the border, though fitted inside its margins
+};
+
+/// Told before each step of a render with the step's name for people ("Fit", a look's name, "Border").
+using RenderProgress = std::function<void(const char* step)>;
+
+/// Renders a photo: crops and fits it, applies the filters and finishes the border. The one road of previews, thumbnails and
+/// saved files. `source` is not changed. A null source gives a null picture.
+QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {});
