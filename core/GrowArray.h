@@ -2,9 +2,9 @@
 
 /// A growable sequence of plain values (numbers, characters, pointers that it does not own).
 ///
-/// The three fields are public and are read directly; `0 <= numThings <= maxThings` always holds, and `theArray` is null
-/// exactly when `maxThings` is 0. The array owns its block and nothing else. Nothing is allocated before the first add;
-/// the capacity then runs 2, 4, 8 and so on and never shrinks but by `clear()`. A failed allocation throws
+/// The three fields are public and are read directly; `0 <= numThings <= maxThings` always holds, and `theArray` is
+/// null exactly when `maxThings` is 0. The array owns its block and nothing else. Nothing is allocated before the first
+/// add; the capacity then runs 2, 4, 8 and so on and never shrinks but by `clear()`. A failed allocation throws
 /// `std::bad_alloc`. Indexes are not checked.
 template <class T> class GrowArray {
 public:

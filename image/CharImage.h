@@ -7,9 +7,10 @@
 /// A picture of 8-bit channels, and every operation of the engine on it.
 ///
 /// Pixels stand row by row, the top row first, without padding: the pixel at column x, row y starts at byte
-/// `(y * width + x) * bytesPerPixel`. Its bytes 0, 1 and 2 are red, green and blue, each 0 .. 255; byte 3 is carried along
-/// and never interpreted. Every operation works in place. None checks its arguments or reports a failure; a failed
-/// allocation throws `std::bad_alloc`. The static members are shared by all images and unguarded: one thread only.
+/// `(y * width + x) * bytesPerPixel`. Its bytes 0, 1 and 2 are red, green and blue, each 0 .. 255; byte 3 is carried
+/// along and never interpreted. Every operation works in place. None checks its arguments or reports a failure; a
+/// failed allocation throws `std::bad_alloc`. The static members are shared by all images and unguarded: one thread
+/// only.
 class CharImage {
 public:
     int width = 0; ///< pixels per row
@@ -57,33 +58,59 @@ public:
     static const GrowArray<int>* customFilters(int filter);
     /// Applies one filter number. A number without an effect prints "applying original filter".
     void applyFilter(int filter);
+    /// Prints "applying original filter" and changes nothing.
     void applyOriginalFilter();
+    void applyCustomFilterA();
+    void applyCustomFilterB();
+    void applyCustomFilterC();
+    /// White, with one black dot per column along the S-shaped tone curve of the square root: a visual check of curve
+    /// code.
+    void drawTestPattern();
 
-    // ---- Looks ----
+    // ---- Looks: each stands in image/looks/, in a file of its name ----
+    void applyCrossProcessFilter();
+    void applyHelgaFilter();
+    void applyLoloFilter();
+    void applyMagazineFilter();
+    void applyInstantFilter();
     void applyMonoFilter();
+    void apply1962Filter();
+    void apply1974Filter();
+    void applyCinemaFilter();
+    void applyInfraredFilter();
+    void makeFisheye();
+    void applyFisheyeFilter();
+    void applyLightleakFilter();
+    void applyDeliciousFilter();
+    void deliciousColorCore2();
+    void applyArcticFilter();
+    void applyBlowoutFilter();
 
     // ---- Toolkit: tone levels ----
-    /// Counts the luminances (0 .. 255) of every tenth pixel into the empty `hist`, up to the highest one met, and gives the
-    /// lowest one met. The last 11 pixels are never sampled; an image of 11 pixels or fewer gives an empty list and 0.
+    /// Counts the luminances (0 .. 255) of every tenth pixel into the empty `hist`, up to the highest one met, and
+    /// gives the lowest one met. The last 11 pixels are never sampled; an image of 11 pixels or fewer gives an empty
+    /// list and 0.
     void getHistogram(GrowArray<int>* hist, int* minLum) const;
-    /// Stretches red, green and blue alike so that the luminances at which the fractions (0 .. 1) of the sampled pixels are
-    /// cut off at the dark and at the bright end land on the two levels (0 .. 255).
-    /// A clamp flag holds the result at that level instead of at 0 or 255.
+    /// Stretches red, green and blue alike so that the luminances at which the fractions (0 .. 1) of the sampled pixels
+    /// are cut off at the dark and at the bright end land on the two levels (0 .. 255). A clamp flag holds the result
+    /// at that level instead of at 0 or 255.
     void fillHistogram(float lowFraction, float highFraction, float lowLevel, float highLevel, bool clampToLowLevel,
         bool clampToHighLevel);
 
     // ---- Toolkit: blur and vignette ----
-    /// Separable blur with a kernel of about `size` pixels (3 at least) that rises to its centre by the power `exponent`; a box
-    /// when the exponent is 0 or less. Each tap is truncated to a whole number, which darkens slightly.
+    /// Separable blur with a kernel of about `size` pixels (3 at least) that rises to its centre by the power
+    /// `exponent`; a box when the exponent is 0 or less. Each tap is truncated to a whole number, which darkens
+    /// slightly.
     void makeBlurry(int size, float exponent);
     /// Darkens from `innerRadius` (pixels from the centre) outwards to full `strength` (0 .. 1) at `outerRadius`.
     /// `boostSaturation` pushes darkened pixels away from grey, `softenEdges` mixes in a blurred copy.
-    void vignette(float innerRadius, float outerRadius, float exponent, float strength, bool boostSaturation,
-        bool softenEdges);
+    void vignette(
+        float innerRadius, float outerRadius, float exponent, float strength, bool boostSaturation, bool softenEdges);
 
     // ---- Toolkit: grain and maps ----
     /// Adds `count` squares of `spotSize` pixels at random places, each brighter or darker by one random amount of
-    /// -amplitude/2 .. amplitude/2 (amplitude at least 1). Sums wrap round modulo 256; squares are clipped to the image.
+    /// -amplitude/2 .. amplitude/2 (amplitude at least 1). Sums wrap round modulo 256; squares are clipped to the
+    /// image.
     void addNoise(int count, int spotSize, int amplitude);
     /// Writes the strength of the brightness edges, one byte a pixel, to `map` (width x height bytes).
     void fillEdgeDetectMap(unsigned char* map) const;

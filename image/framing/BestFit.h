@@ -1,5 +1,5 @@
 #pragma once
 
-/// The largest size of the aspect width : height that fits the box, in pixels. The side that touches the box is taken as it
-/// is, the other is rounded half up.
+/// The largest size of the aspect width : height that fits the box, in pixels. The side that touches the box is taken
+/// as it is, the other is rounded half up.
 void findBestFit(float width, float height, float boxWidth, float boxHeight, float* outWidth, float* outHeight);

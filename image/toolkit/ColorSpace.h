@@ -1,8 +1,8 @@
 #pragma once
 
-// One pixel between RGB and two cylindrical models. RGB is on 0 .. 255 as floats, neither rounded nor clamped on the way
-// out. HSL hue is a fraction of a turn (0 .. 1), HSV hue is in degrees (0 .. 360). Each function reads all of its inputs
-// before it writes, so an output array may be the input array.
+// One pixel between RGB and two cylindrical models. RGB is on 0 .. 255 as floats, neither rounded nor clamped on the
+// way out. HSL hue is a fraction of a turn (0 .. 1), HSV hue is in degrees (0 .. 360). Each function reads all of its
+// inputs before it writes, so an output array may be the input array.
 
 /// RGB (clamped to 0 .. 255 first) to hue, saturation and lightness, each 0 .. 1, after K. Fishkin ("A Fast HSL-to-RGB
 /// Transform", Graphics Gems). A colour whose maximum is red and whose green equals its blue has the hue 1.0, not 0.

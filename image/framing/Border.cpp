@@ -1,0 +1,87 @@
+#include "image/CharImage.h"
+#include "image/toolkit/Arithmetic.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+/// Paints the pixels of columns `from` .. `to` - 1 in a row, bytes 0 to 2.
+void paint(CharImage& image, int row, int from, int to, const unsigned char* colour)
+{
+    unsigned char* pixel = image.data + (std::size_t(row) * image.width + from) * image.bytesPerPixel;
+    for (int x = from; x < to; x++, pixel += image.bytesPerPixel)
+        std::memcpy(pixel, colour, 3);
+}
+
+/// Black from the integer centre's distance `radius` outwards.
+void maskDisc(CharImage& image, float radius)
+{
+    const unsigned char black[3] = {0, 0, 0};
+    const int cx = image.width / 2, cy = image.height / 2;
+    for (int y = 0; y < image.height; y++)
+        for (int x = 0; x < image.width; x++) {
+            const float dx = float(x - cx), dy = float(y - cy);
+            if (std::sqrt(dx * dx + dy * dy) >= radius)
+                paint(image, y, x, x + 1, black);
+        }
+}
+
+} // namespace
+
+void CharImage::addBorder(int left, int right, int top, int bottom, float red, float green, float blue)
+{
+    const int newWidth = left + width + right, newHeight = top + height + bottom;
+    const std::size_t newRow = std::size_t(newWidth) * bytesPerPixel, row = std::size_t(width) * bytesPerPixel;
+    CharImage framed(new unsigned char[newRow * newHeight], newWidth, newHeight);
+    const unsigned char colour[3] = {truncateAndWrap(red), truncateAndWrap(green), truncateAndWrap(blue)};
+    framed.fillBorder(left, right, top, bottom, colour);
+    for (int y = 0; y < height; y++)
+        std::memcpy(framed.data + (top + y) * newRow + std::size_t(left) * bytesPerPixel, data + y * row, row);
+    std::swap(data, framed.data);
+    width = newWidth;
+    height = newHeight;
+}
+
+void CharImage::fillBorder(int left, int right, int top, int bottom, const unsigned char* colour)
+{
+    for (int y = 0; y < height; y++) {
+        if (y < top || y >= height - bottom) {
+            paint(*this, y, 0, width, colour);
+            continue;
+        }
+        paint(*this, y, 0, std::clamp(left, 0, width), colour);
+        paint(*this, y, std::clamp(width - right, 0, width), width, colour);
+    }
+}
+
+void CharImage::applyFilterBorder(int border, int maxSide)
+{
+    if (const GrowArray<int>* list = customFilters(border)) {
+        if (list->numThings > 0)
+            applyFilterBorder(list->theArray[list->numThings - 1], maxSide);
+        return;
+    }
+    float left, right, top, bottom;
+    getBorderReqsForFilter(border, &left, &right, &top, &bottom);
+    const int l = truncateToInt(maxSide * left), r = truncateToInt(maxSide * right);
+    const int t = truncateToInt(maxSide * top), b = truncateToInt(maxSide * bottom);
+    const unsigned char black[3] = {0, 0, 0}, offWhite[3] = {245, 245, 245}, white[3] = {255, 255, 255};
+    if (l > 0 || r > 0 || t > 0 || b > 0) {
+        const unsigned char outline[3] = {200, 200, 200};
+        const unsigned char* colour = border == 8 ? black : border == 4 ? offWhite : white;
+        fillBorder(l, r, t, b, colour);
+        if (colour == white)
+            fillBorder(1, 1, 1, 1, outline);
+    }
+    if (border == 10) {
+        const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
+        const float radius = std::min(halfWidth, halfHeight);
+        vignette(radius - 3.0f, radius, 3.0f, 1.0f, false, false);
+        vignette(float(radius * 0.3), radius, 3.0f, 0.4f, true, false);
+        // Far outside the circle the vignette's curve turns back to light: the corners are painted over.
+        maskDisc(*this, radius);
+    }
+    if (border == 7 || border == 29)
+        fillRoundedBorder(l, r, t, b, int(maxSide * 0.05), white);
+}

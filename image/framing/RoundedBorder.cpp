@@ -1,0 +1,42 @@
+#include "image/CharImage.h"
+#include "image/toolkit/Arithmetic.h"
+
+namespace {
+
+/// The share of the colour at the distance `q` (1: on the circle) from a corner's centre; 0 or less inside.
+float colourShare(float q, float hardness)
+{
+    const float q2 = q * q, q3 = q * q2, q5 = q2 * q3;
+    const float q10 = q5 * q5, q20 = q10 * q10, q40 = q20 * q20, q80 = q40 * q40;
+    const float a = q80 > 1.0f ? 1.0f : q80;
+    return 1.0f - (1.0f - a) * hardness;
+}
+
+} // namespace
+
+void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int radius, const unsigned char* colour)
+{
+    const float softness = float(radius * 0.02);
+    const float hardness = softness >= 1.0f ? softness : 1.0f;
+    const int farLeft = width - right - radius, farTop = height - bottom - radius;
+    const auto within = [radius](int v, int start) { return v >= start && v < start + radius; };
+    for (int y = 0; y < height; y++)
+        for (int x = 0; x < width; x++) {
+            // Squares that overlap in a small picture: the last one decides, bottom before top and right before left.
+            const bool isRight = within(x, farLeft), isBottom = within(y, farTop);
+            if (!(isRight || within(x, left)) || !(isBottom || within(y, top)))
+                continue;
+            const int cx = isRight ? farLeft : left + radius - 1;
+            const int cy = isBottom ? farTop : top + radius - 1;
+            const float dx = float(x - cx), dy = float(y - cy);
+            const float q = std::sqrt(dx * dx + dy * dy) / float(radius);
+            if (!(q > 0.0f))
+                continue;
+            const float w = colourShare(q, hardness);
+            if (!(w > 0.1f))
+                continue;
+            unsigned char* pixel = data + (std::size_t(y) * width + x) * bytesPerPixel;
+            for (int channel = 0; channel < 3; channel++)
+                pixel[channel] = truncateAndWrap(w * float(colour[channel]) + (1.0f - w) * float(pixel[channel]));
+        }
+}

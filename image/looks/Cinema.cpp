@@ -1,0 +1,46 @@
+#include "image/looks/Cinema.h"
+
+#include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Variation.h"
+
+CinemaParameters CinemaParameters::fixed()
+{
+    return {{30, 30, 40}, 0.7f};
+}
+
+CinemaParameters CinemaParameters::varied(const float* random)
+{
+    CinemaParameters p = fixed();
+    for (int k = 0; k < 3; k++)
+        p.tint[k] = static_cast<unsigned char>(p.tint[k] * (random[96 - k] * 0.1 + 0.9)); // never lighter, on purpose
+    const float s = float(random[93] * 0.9 + 0.4);
+    p.weight = s <= 1.0f ? s * 0.7f : 0.7f;
+    return p;
+}
+
+/// Bright highlights, contrast, muted colours under a dark blue tint, lifted shadows.
+void CharImage::applyCinemaFilter()
+{
+    const CinemaParameters p = currentParameters<CinemaParameters>();
+    const Rgb tint = {float(p.tint[0]), float(p.tint[1]), float(p.tint[2])};
+    fillHistogram(0.05f, 0.0f, 5.0f, 255.0f, true, true);
+    forEachPixel(*this, [=](Rgb c) {
+        const float boost = float(luminance(c) * per255);
+        c = eachChannel(c, [=](float v) { return v * (1.0f - boost) + v * boost * 1.5f; });
+        c = eachChannel(c, [](float v) { return float((v - 128.0) * double(1.1f) + 128.0); });
+
+        const float level = luminance(c) * (1.0f - 0.85f);
+        c = eachChannel(c, [=](float v) { return v * 0.85f + level; });
+
+        const float l = float(luminance(c) * per255);
+        const auto tinted = [=](float v, float t) {
+            const float cast = p.weight * (t * l);
+            return v * (1.0f - p.weight) + (cast + cast);
+        };
+        c = {tinted(c.r, tint.r), tinted(c.g, tint.g), tinted(c.b, tint.b)};
+
+        c = eachChannel(c, [](float v) { return v * 1.5f; });
+        const float d = float(luminance(c) * -per255 + 1.0);
+        return eachChannel(c, [=](float v) { return v * (1.0f - d) + v * d * 1.5f; });
+    });
+}

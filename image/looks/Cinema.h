@@ -1,0 +1,9 @@
+#pragma once
+
+struct CinemaParameters {
+    unsigned char tint[3]; ///< red, green, blue: dark and slightly blue
+    float weight; ///< of the tint, 0 .. 1
+
+    static CinemaParameters fixed();
+    static CinemaParameters varied(const float* random);
+};

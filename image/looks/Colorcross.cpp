@@ -1,0 +1,44 @@
+#include "image/looks/Colorcross.h"
+
+#include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Variation.h"
+
+#include <cstdio>
+
+ColorcrossParameters ColorcrossParameters::fixed()
+{
+    return {{2.83954f, 2.758001f, 0.683486f}};
+}
+
+ColorcrossParameters ColorcrossParameters::varied(const float* random)
+{
+    ColorcrossParameters p;
+    for (int k = 0; k < 3; k++)
+        p.exponent[k] = float(std::pow(random[20 + 2 * k], 1.7f) * 2.5 + 0.6);
+    setApart(p.exponent, random[66]);
+    return p;
+}
+
+void setApart(float (&exponent)[3], float choice)
+{
+    const float mean = float((exponent[2] + (exponent[0] + exponent[1])) * (1.0 / 3.0));
+    for (const float e : exponent)
+        if (std::fabs(e - mean) >= 0.3)
+            return;
+    float& chosen = exponent[int(choice * 1000.0f) % 3];
+    chosen = chosen > 2.0f ? chosen * 0.5f : float(chosen * 1.6);
+}
+
+/// Cross-processed film: each channel under an S-curve of its own, off pure black and pure white.
+void CharImage::applyCrossProcessFilter()
+{
+    const ColorcrossParameters p = currentParameters<ColorcrossParameters>();
+    std::printf("powers %f %f %f\n", p.exponent[0], p.exponent[1], p.exponent[2]);
+    const auto curve = [](float v, float exponent) {
+        const float z = sCurve(float(v * per255), exponent) * 255.0f;
+        return z < 20.0f ? 20.0f : z > 250.0f ? 250.0f : z;
+    };
+    forEachPixel(*this, [&](Rgb c) {
+        return Rgb{curve(c.r, p.exponent[0]), curve(c.g, p.exponent[1]), curve(c.b, p.exponent[2])};
+    });
+}

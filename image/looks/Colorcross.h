@@ -1,0 +1,11 @@
+#pragma once
+
+struct ColorcrossParameters {
+    float exponent[3]; ///< of the red, green and blue curve: above 1 steep, below 1 flat
+
+    static ColorcrossParameters fixed();
+    static ColorcrossParameters varied(const float* random);
+};
+
+/// Sets apart three exponents that lie within 0.3 of their mean, by changing the one that `choice` (0 .. 1) picks.
+void setApart(float (&exponent)[3], float choice);

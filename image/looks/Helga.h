@@ -1,0 +1,12 @@
+#pragma once
+
+struct HelgaParameters {
+    float tint[3]; ///< red, green, blue of the cool tint
+    float edgeExponent; ///< shapes the fall-off towards the edges
+    float contrast;
+    int blackFloor; ///< no channel ends below it
+    int lowLevel; ///< where the levels step puts the dark cut-off
+
+    static HelgaParameters fixed();
+    static HelgaParameters varied(const float* random);
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+struct InstantParameters {
+    float exponent[3]; ///< of the red, green and blue curve
+    float lowFraction; ///< what the levels step cuts off at the dark end
+    float contrast; ///< 1 leaves it alone
+
+    static InstantParameters fixed();
+    static InstantParameters varied(const float* random);
+};

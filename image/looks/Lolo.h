@@ -1,0 +1,9 @@
+#pragma once
+
+struct LoloParameters {
+    float darkLevel, brightLevel; ///< where the levels step puts its cut-offs, 0 .. 255
+    float saturation; ///< 1 leaves colours alone
+
+    static LoloParameters fixed();
+    static LoloParameters varied(const float* random);
+};

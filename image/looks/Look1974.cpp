@@ -1,0 +1,38 @@
+#include "image/looks/Look1974.h"
+
+#include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Variation.h"
+
+Look1974Parameters Look1974Parameters::fixed()
+{
+    return {{151, 93, 17}, 0.43f};
+}
+
+Look1974Parameters Look1974Parameters::varied(const float* random)
+{
+    Look1974Parameters p = fixed();
+    for (int k = 0; k < 3; k++)
+        p.tint[k] = static_cast<unsigned char>(p.tint[k] * (random[79 + k] * 0.14 + 0.93));
+    p.amount = float((random[77] * 0.5 + 0.8) * 0.43);
+    return p;
+}
+
+/// A hard colour print under a brown wash that is strongest in the shadows.
+void CharImage::apply1974Filter()
+{
+    const Look1974Parameters p = currentParameters<Look1974Parameters>();
+    const Rgb tint = {float(p.tint[0]), float(p.tint[1]), float(p.tint[2])};
+    forEachPixel(*this, [=](Rgb c) {
+        const float lum = luminance(c);
+        // The factor is extreme on purpose: most values leave 0 .. 255 here and come back in the end.
+        c = eachChannel(c, [](float v) { return float((v - 128.0) * 3.05 + 128.0); });
+
+        const float shade = std::pow(float(lum * per255), 1.5f);
+        const float w = float(p.amount * (1.0 - shade) + 0.27);
+        c = {tint.r * w + c.r * (1.0f - w), tint.g * w + c.g * (1.0f - w), tint.b * w + c.b * (1.0f - w)};
+
+        const float washed = luminance(c);
+        return eachChannel(c, [=](float v) { return v * 0.51f + washed * 0.49f; });
+    });
+    fillHistogram(0.0f, 0.005f, 20.0f, 250.0f, true, true);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+struct Look1974Parameters {
+    unsigned char tint[3]; ///< red, green, blue of the brown wash
+    float amount; ///< its strength in the shadows
+
+    static Look1974Parameters fixed();
+    static Look1974Parameters varied(const float* random);
+};

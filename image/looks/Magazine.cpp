@@ -1,0 +1,42 @@
+#include "image/looks/Magazine.h"
+
+#include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Variation.h"
+
+MagazineParameters MagazineParameters::fixed()
+{
+    return {135.0f, 1.0f, 0.8f};
+}
+
+MagazineParameters MagazineParameters::varied(const float* random)
+{
+    return {random[27] * 100.0f + 80.0f, random[66] + 1.0f, float(random[67] * -0.2 + 0.8)};
+}
+
+/// Warmed towards orange, tones parted at a pivot, colours strengthened.
+void CharImage::applyMagazineFilter()
+{
+    const MagazineParameters p = currentParameters<MagazineParameters>();
+    forEachPixel(*this, [=](Rgb c) {
+        const float lum = luminance(c);
+        const float l = float(lum * per255);
+        const float w = float(lum * -per255 * 0.27 + 0.27 + 0.2);
+        const auto tinted = [=](float v, float tint) {
+            const float cast = w * (l * tint);
+            return v * (1.0f - w) + (cast + cast);
+        };
+        c = {tinted(c.r, 232.0f), tinted(c.g, 135.0f), tinted(c.b, 44.0f)};
+
+        if (p.pivot > lum) {
+            const float f = 1.0f - std::pow((p.pivot - lum) / p.pivot, p.shadowExponent);
+            c = eachChannel(c, [=](float v) { return v * f; });
+        } else {
+            const float f = 1.0f - std::pow((lum - p.pivot) / (255.0f - p.pivot), p.highlightExponent);
+            c = eachChannel(c, [=](float v) { return float((v - 255.0) * f + 255.0); });
+        }
+
+        const float level = luminance(c) * (1.0f - 1.23f);
+        return eachChannel(c, [=](float v) { return v * 1.23f + level; });
+    });
+    fillHistogram(0.001f, 0.01f, 0.0f, 255.0f, true, false);
+}

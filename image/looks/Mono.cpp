@@ -1,0 +1,31 @@
+#include "image/looks/Mono.h"
+
+#include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Variation.h"
+
+MonoParameters MonoParameters::fixed()
+{
+    return {{255.0f, 255.0f, 128.0f}};
+}
+
+MonoParameters MonoParameters::varied(const float* random)
+{
+    MonoParameters p;
+    for (int k = 0; k < 3; k++) {
+        const int v = int(random[27 + k] * 270.0);
+        p.gain[k] = v < 50 ? 50.0f : v > 255 ? 255.0f : float(v);
+    }
+    return p;
+}
+
+/// Black and white from a weighted mix of the channels, stretched to the full range.
+void CharImage::applyMonoFilter()
+{
+    const auto [gain] = currentParameters<MonoParameters>();
+    forEachPixel(*this, [&gain = gain](Rgb c) {
+        const Rgb weighted = {
+            float(c.r * gain[0] * per255), float(c.g * gain[1] * per255), float(c.b * gain[2] * per255)};
+        return grey(luminance(weighted));
+    });
+    fillHistogram(0.01f, 0.01f, 0.0f, 255.0f, true, true);
+}

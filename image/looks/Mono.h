@@ -1,0 +1,8 @@
+#pragma once
+
+struct MonoParameters {
+    float gain[3]; ///< of red, green and blue, on 0 .. 255; a weak blue prints skies darker
+
+    static MonoParameters fixed();
+    static MonoParameters varied(const float* random);
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <climits>
+#include <cmath>
+
+// The arithmetic that every look shares. Channels are floats while they are worked on; decimal constants such as 0.3
+// are double, so that a product with one is formed in double and rounded once, when it is stored. Both are part of the
+// looks.
+
+/// 1/255, the factor that stands for every division by 255.
+inline constexpr double per255 = 0.00392156862745098;
+
+/// One pixel's colour while it is worked on, each channel on 0 .. 255 (and beyond, until it is stored).
+struct Rgb {
+    float r, g, b;
+};
+
+/// A neutral colour.
+inline Rgb grey(float level)
+{
+    return {level, level, level};
+}
+
+/// The same function on each channel.
+template <class Function> inline Rgb eachChannel(Rgb c, Function f)
+{
+    return {f(c.r), f(c.g), f(c.b)};
+}
+
+/// Luminance of Rec. 601 weights, shortened to two places.
+inline float luminance(Rgb c)
+{
+    return float(c.r * 0.3 + c.g * 0.59 + c.b * 0.11);
+}
+
+/// The shared S-curve on 0 .. 1 through (0.5, 0.5): an exponent above 1 steepens the middle, below 1 flattens it.
+inline float sCurve(float x, float exponent)
+{
+    if (x < 0.5f)
+        return std::pow(x + x, exponent) * 0.5f;
+    return float(1.0 - 0.5 * std::pow(float(2.0 - 2.0 * x), exponent));
+}
+
+/// Truncation as the processor does it: NaN, infinities and values out of range give INT_MIN.
+inline int truncateToInt(float value)
+{
+    return value >= -2147483648.0f && value < 2147483648.0f ? int(value) : INT_MIN;
+}
+
+/// Truncates toward zero, then holds at 0 .. 255. NaN, infinities and values beyond an int count as INT_MIN: they give
+/// 0.
+inline unsigned char truncateAndClamp(float value)
+{
+    float inRange = value >= 0.0f && value < 2147483648.0f ? value : 0.0f;
+    return static_cast<unsigned char>(int(inRange < 255.0f ? inRange : 255.0f));
+}
+
+/// Truncates toward zero, then wraps modulo 256. NaN, infinities and values beyond an int give 0.
+inline unsigned char truncateAndWrap(float value)
+{
+    return static_cast<unsigned char>(truncateToInt(value));
+}

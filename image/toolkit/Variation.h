@@ -1,0 +1,9 @@
+#pragma once
+
+#include "image/CharImage.h"
+
+/// A look's parameters for this run: varied by the random table when the variation is switched on, else the fixed ones.
+template <class Parameters> Parameters currentParameters()
+{
+    return CharImage::useRandom ? Parameters::varied(CharImage::random) : Parameters::fixed();
+}
