@@ -9,7 +9,7 @@ float colourShare(float q, float hardness)
     const float q2 = q * q, q3 = q * q2, q5 = q2 * q3;
     const float q10 = q5 * q5, q20 = q10 * q10, q40 = q20 * q20, q80 = q40 * q40;
     const float a = q80 > 1.0f ? 1.0f : q80;
-    return 1.0f - (1.0f - a) * hardness;
+    return float(1.0 - (1.0 - a) * hardness);
 }
 
 } // namespace
@@ -33,7 +33,7 @@ void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int 
             if (!(q > 0.0f))
                 continue;
             const float w = colourShare(q, hardness);
-            if (!(w > 0.1f))
+            if (!(w > 0.1))
                 continue;
             unsigned char* pixel = data + (std::size_t(y) * width + x) * bytesPerPixel;
             for (int channel = 0; channel < 3; channel++)

@@ -17,7 +17,7 @@ void rgbToHsl(float* rgb, float* h, float* s, float* l)
     const float delta = max - min;
     if (!(delta > 0.0f))
         return;
-    *s = delta / (*l <= 0.5f ? max + min : 2.0f - max - min);
+    *s = *l <= 0.5f ? delta / (max + min) : float(delta / (2.0 - max - min));
     const float r2 = (max - r) / delta, g2 = (max - g) / delta, b2 = (max - b) / delta;
     float sextants; // 0 .. 6, where 6 is red that did not wrap
     if (max == r)
