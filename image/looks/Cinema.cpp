@@ -23,8 +23,9 @@ void CharImage::applyCinemaFilter()
 {
     const CinemaParameters p = currentParameters<CinemaParameters>();
     const Rgb tint = {float(p.tint[0]), float(p.tint[1]), float(p.tint[2])};
-    fillHistogram(0.05f, 0.0f, 5.0f, 255.0f, true, true);
+    const Levels levels = levelsOf(*this, 0.05f, 0.0f, 5.0f, 255.0f, true, true);
     forEachPixel(*this, [=](Rgb c) {
+        c = eachChannel(c, levels);
         const float boost = float(luminance(c) * per255);
         c = eachChannel(c, [=](float v) { return v * (1.0f - boost) + v * boost * 1.5f; });
         c = eachChannel(c, [](float v) { return float((v - 128.0) * double(1.1f) + 128.0); });
@@ -33,10 +34,7 @@ void CharImage::applyCinemaFilter()
         c = eachChannel(c, [=](float v) { return v * 0.85f + level; });
 
         const float l = float(luminance(c) * per255);
-        const auto tinted = [=](float v, float t) {
-            const float cast = p.weight * (t * l);
-            return v * (1.0f - p.weight) + (cast + cast);
-        };
+        const auto tinted = [=](float v, float t) { return withDoubledCast(v, p.weight, p.weight * (t * l)); };
         c = {tinted(c.r, tint.r), tinted(c.g, tint.g), tinted(c.b, tint.b)};
 
         c = eachChannel(c, [](float v) { return v * 1.5f; });

@@ -34,11 +34,6 @@ void CharImage::applyCrossProcessFilter()
 {
     const ColorcrossParameters p = currentParameters<ColorcrossParameters>();
     std::printf("powers %f %f %f\n", p.exponent[0], p.exponent[1], p.exponent[2]);
-    const auto curve = [](float v, float exponent) {
-        const float z = sCurve(float(v * per255), exponent) * 255.0f;
-        return z < 20.0f ? 20.0f : z > 250.0f ? 250.0f : z;
-    };
-    forEachPixel(*this, [&](Rgb c) {
-        return Rgb{curve(c.r, p.exponent[0]), curve(c.g, p.exponent[1]), curve(c.b, p.exponent[2])};
-    });
+    forEachPixel(
+        *this, filmCurve(p.exponent[0]), filmCurve(p.exponent[1]), filmCurve(p.exponent[2]), [](Rgb c) { return c; });
 }

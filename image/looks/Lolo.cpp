@@ -23,8 +23,9 @@ LoloParameters LoloParameters::varied(const float* random)
 void CharImage::applyLoloFilter()
 {
     const LoloParameters p = currentParameters<LoloParameters>();
-    fillHistogram(0.005f, 0.01f, p.darkLevel, p.brightLevel, true, true);
+    const Levels levels = levelsOf(*this, 0.005f, 0.01f, p.darkLevel, p.brightLevel, true, true);
     forEachPixel(*this, [=](Rgb c) {
+        c = eachChannel(c, levels);
         const float lum = luminance(c);
         c = eachChannel(c, [=](float v) { return p.saturation * v + lum * (1.0f - p.saturation); });
         c = eachChannel(c, [](float v) { return float((v - 128.0) * 1.5 + 128.0); });

@@ -25,9 +25,10 @@ Look1962Parameters Look1962Parameters::varied(const float* random)
 void CharImage::apply1962Filter()
 {
     const Look1962Parameters p = currentParameters<Look1962Parameters>();
-    fillHistogram(p.darkFraction, p.brightFraction, p.darkLevel, 245.0f, false, false);
-    forEachPixel(*this, [&](Rgb c) {
+    const Levels levels = levelsOf(*this, p.darkFraction, p.brightFraction, p.darkLevel, 245.0f, false, false);
+    forEachPixel(*this, [=](Rgb c) {
+        c = eachChannel(c, levels);
         const float level = luminance({c.r * p.gain[0], c.g * p.gain[1], c.b * p.gain[2]});
-        return grey(p.contrast * (level - p.pivot) + p.pivot);
+        return p.contrast * (level - p.pivot) + p.pivot;
     });
 }

@@ -22,13 +22,13 @@ void CharImage::apply1974Filter()
 {
     const Look1974Parameters p = currentParameters<Look1974Parameters>();
     const Rgb tint = {float(p.tint[0]), float(p.tint[1]), float(p.tint[2])};
-    forEachPixel(*this, [=](Rgb c) {
-        const float lum = luminance(c);
+    const ToneTable washes([=](float lum) {
+        const float shade = std::pow(float(lum * per255), 1.5f);
+        return float(p.amount * (1.0 - shade) + 0.27);
+    });
+    forEachPixel(*this, washes, [=](Rgb c, float w) {
         // The factor is extreme on purpose: most values leave 0 .. 255 here and come back in the end.
         c = eachChannel(c, [](float v) { return float((v - 128.0) * 3.05 + 128.0); });
-
-        const float shade = std::pow(float(lum * per255), 1.5f);
-        const float w = float(p.amount * (1.0 - shade) + 0.27);
         c = {tint.r * w + c.r * (1.0f - w), tint.g * w + c.g * (1.0f - w), tint.b * w + c.b * (1.0f - w)};
 
         const float washed = luminance(c);

@@ -17,24 +17,18 @@ MagazineParameters MagazineParameters::varied(const float* random)
 void CharImage::applyMagazineFilter()
 {
     const MagazineParameters p = currentParameters<MagazineParameters>();
-    forEachPixel(*this, [=](Rgb c) {
+    const ToneTable strengths([=](float lum) {
+        return 1.0f
+            - (p.pivot > lum ? std::pow((p.pivot - lum) / p.pivot, p.shadowExponent)
+                             : std::pow((lum - p.pivot) / (255.0f - p.pivot), p.highlightExponent));
+    });
+    forEachPixel(*this, strengths, [=](Rgb c, float strength) {
         const float lum = luminance(c);
         const float l = float(lum * per255);
         const float w = float(lum * -per255 * 0.27 + 0.27 + 0.2);
-        const auto tinted = [=](float v, float tint) {
-            const float cast = w * (l * tint);
-            return v * (1.0f - w) + (cast + cast);
-        };
+        const auto tinted = [=](float v, float tint) { return withDoubledCast(v, w, w * (l * tint)); };
         c = {tinted(c.r, 232.0f), tinted(c.g, 135.0f), tinted(c.b, 44.0f)};
-
-        if (p.pivot > lum) {
-            const float f = 1.0f - std::pow((p.pivot - lum) / p.pivot, p.shadowExponent);
-            c = eachChannel(c, [=](float v) { return v * f; });
-        } else {
-            const float f = 1.0f - std::pow((lum - p.pivot) / (255.0f - p.pivot), p.highlightExponent);
-            c = eachChannel(c, [=](float v) { return float((v - 255.0) * f + 255.0); });
-        }
-
+        c = partedTones(c, p.pivot > lum, strength);
         const float level = luminance(c) * (1.0f - 1.23f);
         return eachChannel(c, [=](float v) { return v * 1.23f + level; });
     });

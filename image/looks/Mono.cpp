@@ -22,10 +22,7 @@ MonoParameters MonoParameters::varied(const float* random)
 void CharImage::applyMonoFilter()
 {
     const auto [gain] = currentParameters<MonoParameters>();
-    forEachPixel(*this, [&gain = gain](Rgb c) {
-        const Rgb weighted = {
-            float(c.r * gain[0] * per255), float(c.g * gain[1] * per255), float(c.b * gain[2] * per255)};
-        return grey(luminance(weighted));
-    });
+    const auto weighted = [](float weight) { return channelCurve([=](int v) { return float(v * weight * per255); }); };
+    forEachPixel(*this, weighted(gain[0]), weighted(gain[1]), weighted(gain[2]), [](Rgb c) { return luminance(c); });
     fillHistogram(0.01f, 0.01f, 0.0f, 255.0f, true, true);
 }

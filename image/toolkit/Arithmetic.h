@@ -41,6 +41,22 @@ inline float sCurve(float x, float exponent)
     return float(1.0 - 0.5 * std::pow(float(2.0 - 2.0 * x), exponent));
 }
 
+/// Moves a channel towards a cast that is counted twice, by `weight` (0 .. 1, already part of the cast).
+inline float withDoubledCast(float v, float weight, float cast)
+{
+    return v * (1.0f - weight) + (cast + cast);
+}
+
+/// Parts the tones: dark colours keep the share `strength` (0 .. 1) of their distance from black, light ones of that
+/// from white.
+inline Rgb partedTones(Rgb c, bool dark, float strength)
+{
+    return eachChannel(c, [=](float v) {
+        const float sunk = v * strength, lifted = float((v - 255.0) * strength + 255.0);
+        return dark ? sunk : lifted;
+    });
+}
+
 /// Truncation as the processor does it: NaN, infinities and values out of range give INT_MIN.
 inline int truncateToInt(float value)
 {
@@ -49,10 +65,11 @@ inline int truncateToInt(float value)
 
 /// Truncates toward zero, then holds at 0 .. 255. NaN, infinities and values beyond an int count as INT_MIN: they give
 /// 0.
-inline unsigned char truncateAndClamp(float value)
+inline int truncateAndClamp(float value)
 {
-    float inRange = value >= 0.0f && value < 2147483648.0f ? value : 0.0f;
-    return static_cast<unsigned char>(int(inRange < 255.0f ? inRange : 255.0f));
+    const float notBelow = value > 0.0f ? value : 0.0f;
+    const float held = notBelow < 255.0f ? notBelow : 255.0f;
+    return int(value < 2147483648.0f ? held : 0.0f);
 }
 
 /// Truncates toward zero, then wraps modulo 256. NaN, infinities and values beyond an int give 0.

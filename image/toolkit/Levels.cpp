@@ -1,7 +1,6 @@
 #include "image/toolkit/Levels.h"
 
-#include "image/CharImage.h"
-#include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/PixelPass.h"
 
 namespace {
 
@@ -39,24 +38,23 @@ int brightCutOff(const GrowArray<int>& histogram, float total, float fraction)
 
 } // namespace
 
-ByteCurve levelsCurve(const GrowArray<int>& histogram, int minLum, float lowFraction, float highFraction,
-    float lowLevel, float highLevel, bool clampToLowLevel, bool clampToHighLevel)
+Levels levelsOf(const CharImage& image, float lowFraction, float highFraction, float lowLevel, float highLevel,
+    bool clampToLowLevel, bool clampToHighLevel)
 {
+    GrowArray<int> histogram;
+    int minLum;
+    image.getHistogram(&histogram, &minLum);
     const float total = float(sumOf(histogram));
     const int lowIndex = darkCutOff(histogram, total, lowFraction);
     const int highIndex = brightCutOff(histogram, total, highFraction);
-    // A flat image makes the scale infinite; what follows is then what the arithmetic gives.
-    const float scale = (highLevel - lowLevel) / float(highIndex - lowIndex);
-    const float floor = clampToLowLevel ? lowLevel : 0.0f;
-    const float ceiling = clampToHighLevel ? highLevel : 255.0f;
-    ByteCurve curve;
-    for (int c = 0; c < 256; c++) {
-        // The darkest sample is subtracted on top of the dark cut-off, which darkens pictures without black: on
-        // purpose.
-        const float x = scale * float(c - minLum - lowIndex) + lowLevel;
-        curve.at[c] = truncateAndWrap(x < floor ? floor : x >= ceiling ? ceiling : x);
-    }
-    return curve;
+    Levels levels;
+    // The darkest sample counts on top of the dark cut-off, which darkens pictures without black: on purpose.
+    levels.offset = float(minLum + lowIndex);
+    levels.scale = (highLevel - lowLevel) / float(highIndex - lowIndex);
+    levels.lowLevel = lowLevel;
+    levels.floor = clampToLowLevel ? lowLevel : 0.0f;
+    levels.ceiling = clampToHighLevel ? highLevel : 255.0f;
+    return levels;
 }
 
 void CharImage::getHistogram(GrowArray<int>* hist, int* minLum) const
@@ -66,7 +64,7 @@ void CharImage::getHistogram(GrowArray<int>* hist, int* minLum) const
     const std::size_t count = pixelCount();
     for (std::size_t i = 0; i + 11 < count; i += 10) {
         const unsigned char* pixel = data + i * bytesPerPixel;
-        const int lum = int(luminance({float(pixel[0]), float(pixel[1]), float(pixel[2])}));
+        const int lum = int(luminance(pixelAt(pixel)));
         counts[lum]++;
         lowest = lum < lowest ? lum : lowest;
         highest = lum > highest ? lum : highest;
@@ -79,16 +77,7 @@ void CharImage::getHistogram(GrowArray<int>* hist, int* minLum) const
 void CharImage::fillHistogram(
     float lowFraction, float highFraction, float lowLevel, float highLevel, bool clampToLowLevel, bool clampToHighLevel)
 {
-    GrowArray<int> histogram;
-    int minLum;
-    getHistogram(&histogram, &minLum);
-    const ByteCurve curve = levelsCurve(
-        histogram, minLum, lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel);
-    const std::size_t count = pixelCount();
-    for (std::size_t i = 0; i < count; i++) {
-        unsigned char* pixel = data + i * bytesPerPixel;
-        pixel[0] = curve.at[pixel[0]];
-        pixel[1] = curve.at[pixel[1]];
-        pixel[2] = curve.at[pixel[2]];
-    }
+    const Levels levels =
+        levelsOf(*this, lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel);
+    forEachPixel(*this, [=](Rgb c) { return eachChannel(c, levels); });
 }

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "image/toolkit/Arithmetic.h"
+
+#include <algorithm>
+
+// The colour-space conversions of ColorSpace.h for use inside a pixel function: values chosen, not branched on.
+// Quotients of zero are formed and then passed over.
+
+struct Hsl {
+    float h, s, l; ///< a fraction of a turn (1.0 for a red that does not wrap), 0 .. 1, 0 .. 1
+};
+
+struct Hsv {
+    float h, s, v; ///< degrees, 0 .. 1, 0 .. 1
+};
+
+inline float largest(Rgb c)
+{
+    return std::max(std::max(c.r, c.g), c.b);
+}
+
+inline float smallest(Rgb c)
+{
+    return std::min(std::min(c.r, c.g), c.b);
+}
+
+/// A colour on 0 .. 255 scaled to 0 .. 1.
+inline Rgb scaledToOne(Rgb c)
+{
+    return eachChannel(c, [](float v) { return float(v * per255); });
+}
+
+/// The lightness of a colour on 0 .. 255 without the rest of the conversion.
+inline float lightnessOf(Rgb c)
+{
+    const Rgb unit = scaledToOne(c);
+    return (largest(unit) + smallest(unit)) * 0.5f;
+}
+
+inline Hsl hslOf(Rgb c)
+{
+    const Rgb u = scaledToOne(eachChannel(c, [](float v) { return v < 0.0f ? 0.0f : v > 255.0f ? 255.0f : v; }));
+    const float max = largest(u), min = smallest(u);
+    const float delta = max - min, sum = max + min;
+    const float l = sum * 0.5f;
+    const float s = l <= 0.5f ? delta / sum : float(delta / (2.0 - max - min));
+    const float r2 = (max - u.r) / delta, g2 = (max - u.g) / delta, b2 = (max - u.b) / delta;
+    const float fromRed = min == u.g ? 5.0f + b2 : 1.0f - g2;
+    const float fromGreen = min == u.b ? 1.0f + r2 : 3.0f - b2;
+    const float fromBlue = min == u.r ? 3.0f + g2 : 5.0f - r2;
+    const float sextants = max == u.r ? fromRed : max == u.g ? fromGreen : fromBlue;
+    const bool coloured = l > 0.0f && delta > 0.0f;
+    return {coloured ? float(sextants * 0.16666666666666666) : 0.0f, coloured ? s : 0.0f, l};
+}
+
+/// Whole sextants to the channels of their colour: `rising` and `falling` are the middle values on the way up and down.
+inline Rgb ofSextant(float sextant, float high, float rising, float falling, float low, Rgb otherwise)
+{
+    Rgb c = otherwise;
+    c = sextant == 0.0f ? Rgb{high, rising, low} : c;
+    c = sextant == 1.0f ? Rgb{falling, high, low} : c;
+    c = sextant == 2.0f ? Rgb{low, high, rising} : c;
+    c = sextant == 3.0f ? Rgb{low, falling, high} : c;
+    c = sextant == 4.0f ? Rgb{rising, low, high} : c;
+    return c;
+}
+
+inline Rgb rgbOf(Hsl c)
+{
+    const float v = c.l <= 0.5f ? c.s * c.l + c.l : c.l + c.s - c.l * c.s;
+    const float m = 2.0f * c.l - v;
+    const float sv = (v - m) / v;
+    const float h6 = c.h * 6.0f;
+    const float sextant = float(truncateToInt(h6));
+    const float vsf = v * sv * (h6 - sextant);
+    const Rgb rest = sextant == 5.0f ? Rgb{v, m, v - vsf} : grey(c.l);
+    const Rgb coloured = ofSextant(sextant, v, m + vsf, v - vsf, m, rest);
+    return eachChannel(v > 0.0f ? coloured : grey(c.l), [](float u) { return u * 255.0f; });
+}
+
+inline Hsv hsvOf(Rgb c)
+{
+    const Rgb u = scaledToOne(c);
+    const float max = largest(u), min = smallest(u), delta = max - min;
+    const float fromRed = 60.0f * (u.g - u.b) / delta;
+    const float fromGreen = 120.0f + 60.0f * (u.b - u.r) / delta;
+    const float fromBlue = 240.0f + 60.0f * (u.r - u.g) / delta;
+    float degrees = max == u.r ? fromRed : max == u.g ? fromGreen : fromBlue;
+    degrees = degrees < 0.0f ? degrees + 360.0f : degrees;
+    degrees = degrees >= 360.0f ? degrees - 360.0f : degrees;
+    const bool neutral = delta == 0.0f;
+    return {neutral ? 0.0f : degrees, neutral ? 0.0f : delta / max, max};
+}
+
+/// The largest whole number not above `x`.
+inline float wholeBelow(float x)
+{
+    const float whole = float(truncateToInt(x));
+    const float below = whole > x ? whole - 1.0f : whole;
+    return std::fabs(x) < 8388608.0f ? below : x; // from 2^23 on every float is whole
+}
+
+inline Rgb rgbOf(Hsv c)
+{
+    const float h6 = float(c.h * 0.002777777777777778) * 6.0f;
+    const float sextant = wholeBelow(h6);
+    const float f = h6 - sextant;
+    const float p = c.v * (1.0f - c.s), q = c.v * (1.0f - c.s * f), t = c.v * (1.0f - c.s * (1.0f - f));
+    const Rgb coloured = ofSextant(sextant, c.v, t, q, p, Rgb{c.v, p, q});
+    return eachChannel(c.s == 0.0f ? grey(c.v) : coloured, [](float u) { return u * 255.0f; });
+}
