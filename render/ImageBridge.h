@@ -7,22 +7,22 @@ class CharImage;
 // Pictures of the platform to CharImage and back. A pixel exchange block is an array-new block of width x height x 4
 // bytes, rows top first without padding, red, green, blue and a spare byte per pixel. Points equal pixels.
 
-/// Crops `image` round its centre to `aspect` (width / height; negative: no crop), scales it into the box (pixels; negative:
-/// the picture's own side; 0: the same, but a box of two zeros takes the picture's size as it is) and gives a new CharImage
-/// that the caller deletes. Margins, `fast` and `orientation` are those of getRGBACharImageArray.
-CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth, int boxHeight, int left, int right, int top,
-    int bottom, bool fast, int orientation);
+/// Crops `image` round its centre to `aspect` (width / height; negative: no crop), scales it into the box (pixels;
+/// negative: the picture's own side; 0: the same, but a box of two zeros takes the picture's size as it is) and gives a
+/// new CharImage that the caller deletes. Margins, `fast` and `orientation` are those of getRGBACharImageArray.
+CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth, int boxHeight, int left, int right,
+    int top, int bottom, bool fast, int orientation);
 
-/// Draws `image` into a new exchange block of outWidth x outHeight pixels that the caller owns. The picture fills the area
-/// inside the margins (pixels) on its tighter side and overflows equally on both ends of the other. `orientation`: 3
-/// upright, 1 half turn, 0 a quarter turn of the drawing by -90 degrees, 2 by +90 degrees (counter-clockwise is positive).
-/// `fast` takes the nearest pixel; otherwise shrinking averages areas. A picture drawn at its own size is copied byte for
-/// byte. Transparency is laid on white.
-unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outHeight, int orientation, int left, int right,
-    int top, int bottom, bool fast);
+/// Draws `image` into a new exchange block of outWidth x outHeight pixels that the caller owns. The picture fills the
+/// area inside the margins (pixels) on its tighter side and overflows equally on both ends of the other. `orientation`:
+/// 3 upright, 1 half turn, 0 a quarter turn of the drawing by -90 degrees, 2 by +90 degrees (counter-clockwise is
+/// positive). `fast` takes the nearest pixel; otherwise shrinking averages areas. A picture drawn at its own size is
+/// copied byte for byte. Transparency is laid on white.
+unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outHeight, int orientation, int left,
+    int right, int top, int bottom, bool fast);
 
-/// A picture over an exchange block without a copy. The picture takes the block over and frees it; the spare bytes are set
-/// to 255, as the format asks.
+/// A picture over an exchange block without a copy. The picture takes the block over and frees it; the spare bytes are
+/// set to 255, as the format asks.
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height);
 
 /// A picture of `image`, which is not changed and may be deleted afterwards.

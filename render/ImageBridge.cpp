@@ -1,0 +1,144 @@
+#include "render/ImageBridge.h"
+
+#include "image/CharImage.h"
+#include "image/framing/BestFit.h"
+#include "render/OnWhite.h"
+#include "render/Resample.h"
+
+#include <QColorSpace>
+#include <QTransform>
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <memory>
+
+namespace {
+
+constexpr int upright = 3, halfTurn = 1, turnRight = 0, turnLeft = 2;
+
+bool isQuarterTurn(int orientation)
+{
+    return orientation == turnRight || orientation == turnLeft;
+}
+
+std::size_t blockSize(int width, int height)
+{
+    return std::size_t(width) * std::size_t(height) * 4;
+}
+
+QImage turned(const QImage& image, int orientation)
+{
+    // QTransform turns clockwise, its y axis points down.
+    switch (orientation) {
+    case turnRight:
+        return image.transformed(QTransform().rotate(90));
+    case turnLeft:
+        return image.transformed(QTransform().rotate(-90));
+    case halfTurn:
+        return image.transformed(QTransform().rotate(180));
+    default:
+        return image;
+    }
+}
+
+struct Margins {
+    int left, right, top, bottom;
+
+    bool none() const { return left == 0 && right == 0 && top == 0 && bottom == 0; }
+};
+
+/// The rectangle that a picture of the aspect fills: as wide or as high as the area inside the margins, whichever side
+/// is tighter. Its own sides are whole; the overflow is cut off equally at both ends and may leave half pixels.
+PlacedRect fillArea(float aspect, int outWidth, int outHeight, const Margins& margins)
+{
+    double x, y, width, height; // y of the lower edge, upwards
+    if (aspect < float(outWidth) / float(outHeight)) {
+        width = outWidth - margins.left - margins.right;
+        height = std::trunc(float(width) / aspect);
+        x = margins.left;
+        y = (outHeight - height) * 0.5 + (margins.bottom - margins.top) * 0.5;
+    } else {
+        height = outHeight - margins.top - margins.bottom;
+        width = std::trunc(aspect * float(height));
+        y = margins.bottom;
+        x = (outWidth - width) * 0.5 + (margins.left - margins.right) * 0.5;
+    }
+    return {x, outHeight - (y + height), width, height};
+}
+
+void freeBlock(void* pixels)
+{
+    delete[] static_cast<unsigned char*>(pixels);
+}
+
+} // namespace
+
+CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth, int boxHeight, int left, int right,
+    int top, int bottom, bool fast, int orientation)
+{
+    const int width = image.width(), height = image.height();
+    const bool quarterTurn = isQuarterTurn(orientation);
+    if (aspect < 0.0f)
+        aspect = float(width) / float(height);
+    if (boxWidth < 0)
+        boxWidth = width;
+    if (boxHeight < 0)
+        boxHeight = height;
+    int outWidth = quarterTurn ? height : width, outHeight = quarterTurn ? width : height;
+    if (boxWidth >= 1 || boxHeight >= 1) {
+        if (boxWidth < 1)
+            boxWidth = outWidth;
+        else if (boxHeight < 1)
+            boxHeight = outHeight;
+        float fitWidth, fitHeight;
+        findBestFit(aspect, 1.0f, float(boxWidth), float(boxHeight), &fitWidth, &fitHeight);
+        outWidth = int(fitWidth);
+        outHeight = int(fitHeight);
+    }
+    // A strip may round to nothing: it keeps a line of pixels.
+    outWidth = std::max(outWidth, 1);
+    outHeight = std::max(outHeight, 1);
+    unsigned char* block =
+        getRGBACharImageArray(image, outWidth, outHeight, orientation, left, right, top, bottom, fast);
+    return new CharImage(block, outWidth, outHeight);
+}
+
+unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outHeight, int orientation, int left,
+    int right, int top, int bottom, bool fast)
+{
+    std::unique_ptr<unsigned char[]> block(new unsigned char[blockSize(outWidth, outHeight)]);
+    std::memset(block.get(), 255, blockSize(outWidth, outHeight));
+    if (image.isNull())
+        return block.release();
+    const QImage source = turned(onWhite(image), orientation);
+    const Margins margins{left, right, top, bottom};
+    // Single precision can lose a pixel of the picture's own aspect; a picture of the output's size fills it.
+    PlacedRect rect{0, 0, double(outWidth), double(outHeight)};
+    if (!margins.none() || source.width() != outWidth || source.height() != outHeight)
+        rect = fillArea(float(source.width()) / float(source.height()), outWidth, outHeight, margins);
+    // Turning the drawing to the left or by half takes the rectangle to the other side of the centre.
+    if (orientation == turnLeft || orientation == halfTurn) {
+        rect.x = outWidth - (rect.x + rect.width);
+        rect.y = outHeight - (rect.y + rect.height);
+    }
+    drawScaled(source, rect, fast, block.get(), outWidth, outHeight);
+    return block.release();
+}
+
+QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height)
+{
+    const std::size_t size = blockSize(width, height);
+    for (std::size_t i = 3; i < size; i += 4)
+        pixels[i] = 255;
+    QImage picture(pixels, width, height, qsizetype(width) * 4, QImage::Format_RGBX8888, freeBlock, pixels);
+    picture.setColorSpace(QColorSpace::SRgb);
+    return picture;
+}
+
+QImage NSImageFromCharImage(const CharImage* image)
+{
+    const std::size_t size = image->pixelCount() * 4;
+    auto* block = new unsigned char[size];
+    std::memcpy(block, image->data, size);
+    return getImageRefFromRGBACharArray(block, image->width, image->height);
+}
