@@ -17,6 +17,6 @@ struct RenderSettings {
 /// Told before each step of a render with the step's name for people ("Fit", a look's name, "Border").
 using RenderProgress = std::function<void(const char* step)>;
 
-/// Renders a photo: crops and fits it, applies the filters and finishes the border. The one road of previews, thumbnails and
-/// saved files. `source` is not changed. A null source gives a null picture.
+/// Renders a photo: crops and fits it, applies the filters and finishes the border. The one road of previews,
+/// thumbnails and saved files. `source` is not changed. A null source gives a null picture.
 QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {});
