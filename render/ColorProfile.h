@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QImage>
+
+/// The picture in sRGB, by the colour profile that it carries. A picture without a profile is taken as sRGB, and so is
+/// one whose profile is broken or of another colour model.
+QImage inSRgb(QImage image);

@@ -1,0 +1,150 @@
+#include "render/PhotoLoader.h"
+
+#include "render/ColorProfile.h"
+#include "render/FreeMemory.h"
+#include "render/JpegMarkers.h"
+#include "render/OnWhite.h"
+
+#include <QFile>
+#include <QImageIOHandler>
+#include <QImageReader>
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <memory>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+QString text(const char* words)
+{
+    return QString::fromLatin1(words);
+}
+
+LoadedPhoto refusal(const QString& reason)
+{
+    LoadedPhoto refused;
+    refused.reason = reason;
+    return refused;
+}
+
+QString openFailure(int error)
+{
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return text("The file does not exist.");
+    case EACCES:
+    case EPERM:
+        return text("There is no permission to read the file.");
+    default:
+        return text("The file cannot be opened: %1.").arg(qt_error_string(error));
+    }
+}
+
+/// Opens a regular file that is not empty; gives the reason otherwise. Never waits for a pipe or a device.
+QString openRegularFile(const QByteArray& path, QFile& file)
+{
+    const int descriptor = open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        return openFailure(errno);
+    struct stat status = {};
+    const bool known = fstat(descriptor, &status) == 0;
+    if (!known || !S_ISREG(status.st_mode) || status.st_size == 0) {
+        close(descriptor);
+        if (known && S_ISREG(status.st_mode))
+            return text("The file is empty.");
+        return text(S_ISDIR(status.st_mode) ? "It is a folder, not a picture." : "It is not a file with a picture.");
+    }
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        close(descriptor);
+        return openFailure(EIO);
+    }
+    return {};
+}
+
+/// The reader of this project that takes the file, to be asked before the platform's; null when none does.
+std::unique_ptr<QImageIOHandler> ownHandler(QIODevice&)
+{
+    return nullptr;
+}
+
+/// Why a picture of that size is not decoded; empty when it is. `bytesPerPixel` is what its decoder makes of it.
+QString sizeRefusal(const QSize& size, int bytesPerPixel)
+{
+    const qint64 pixels = qint64(size.width()) * size.height();
+    const QString sides = text("%1 x %2 pixels").arg(size.width()).arg(size.height());
+    if (pixels > maxPhotoPixels)
+        return text("The picture is too large: %1. At most %2 megapixels can be opened.")
+            .arg(sides)
+            .arg(maxPhotoPixels / 1000000);
+    if (pixels * bytesPerPixel > freeMemory() / blocksPerPhoto)
+        return text("There is not enough free memory for a picture of %1.").arg(sides);
+    return {};
+}
+
+int bytesPerPixel(QImage::Format format)
+{
+    return std::max(QImage::toPixelFormat(format).bitsPerPixel() / 8, 4);
+}
+
+/// Decodes the first picture of the file; gives the reason when there is none.
+QString decode(QIODevice& file, QImage& image)
+{
+    if (const auto handler = ownHandler(file)) {
+        handler->setDevice(&file);
+        const QString refusal = sizeRefusal(handler->option(QImageIOHandler::Size).toSize(), 4);
+        if (!refusal.isEmpty())
+            return refusal;
+        return handler->read(&image) ? QString() : text("The picture is damaged or of a kind that cannot be read.");
+    }
+    // For decoders that do not tell the size first.
+    const qint64 limit = std::min(maxPhotoPixels * 8, freeMemory() / blocksPerPhoto);
+    QImageReader::setAllocationLimit(std::max(int(limit >> 20), 1));
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (!reader.canRead())
+        return text("The file is not a picture of a kind that can be read.");
+    const QSize size = reader.size();
+    if (size.isValid()) {
+        const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()));
+        if (!refusal.isEmpty())
+            return refusal;
+    }
+    image = reader.read();
+    return image.isNull() ? text("The picture is damaged and cannot be read.") : QString();
+}
+
+LoadedPhoto load(const QByteArray& path)
+{
+    QFile file;
+    QString reason = openRegularFile(path, file);
+    if (!reason.isEmpty())
+        return refusal(reason);
+    LoadedPhoto photo;
+    const JpegMarkers markers = readJpegMarkers(file);
+    if (markers.scans > maxJpegScans)
+        return refusal(text("The picture is damaged: it has too many parts."));
+    photo.exif = markers.exif;
+    file.seek(0);
+    QImage image;
+    reason = decode(file, image);
+    if (!reason.isEmpty())
+        return refusal(reason);
+    photo.image = onWhite(inSRgb(std::move(image)));
+    return photo.image.isNull() ? refusal(text("There is not enough free memory for the picture.")) : photo;
+}
+
+} // namespace
+
+LoadedPhoto loadPhoto(const QByteArray& path)
+{
+    try {
+        return load(path);
+    } catch (const std::bad_alloc&) {
+        return refusal(text("There is not enough free memory for the picture."));
+    }
+}
