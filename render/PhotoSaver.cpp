@@ -1,0 +1,19 @@
+#include "render/PhotoSaver.h"
+
+#include "render/KeptExif.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageWriter>
+
+QByteArray encodeJpeg(const QImage& image, const QByteArray& exif)
+{
+    QImage marked = image;
+    if (marked.colorSpace() != QColorSpace(QColorSpace::SRgb))
+        marked.setColorSpace(QColorSpace::SRgb);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!QImageWriter(&buffer, "jpeg").write(marked))
+        return {};
+    return exif.isEmpty() ? buffer.data() : withExif(buffer.data(), exif, image.size());
+}
