@@ -81,7 +81,7 @@ private:
             theArray = new T[2];
             return;
         }
-        T* bigger = new T[2 * maxThings];
+        T* bigger = new T[2u * unsigned(maxThings)];
         for (int i = 0; i < maxThings; i++)
             bigger[i] = theArray[i];
         delete[] theArray;

@@ -47,7 +47,7 @@ QString lookCells()
     for (const LookText& look : looks) {
         if (column == 0)
             html += "<tr>";
-        html += QStringLiteral("<td width=\"33%\" valign=\"bottom\"><img src=\"look:%1\"><br>"
+        html += QStringLiteral("<td width=\"33%\" bgcolor=\"#e4e6ea\"><img src=\"look:%1\"><br>"
                                "<span class=\"look\">%2</span><br><span class=\"says\">%3</span></td>")
                     .arg(look.filter)
                     .arg(CharImage::getFilterName(look.filter), look.says);
@@ -73,8 +73,8 @@ protected:
             return QTextDocument::loadResource(type, url);
         const int filter = url.path().toInt();
         QImage picture = renderPhoto(photo, {.filter = filter, .cropFilter = filter, .borderFilter = filter});
-        picture = picture.scaled(390, 270, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        picture.setDevicePixelRatio(2.4); // printed finer than a screen shows it
+        picture = picture.scaled(390, 272, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        picture.setDevicePixelRatio(2.2); // printed finer than a screen shows it
         return picture;
     }
 

@@ -1,0 +1,127 @@
+#include "image/CharImage.h"
+#include "tests/reference/Looks.h"
+#include "tests/reference/Toolkit.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const char* const names[] = {"Colorcross", "Helga", "Lolo", "Magazine", "Instant", "Mono", "1962", "1974", "Cinema",
+    "Infrared", "Fisheye", "Custom A", "Custom B", "Custom C", "Original", "Filter", "Test", "Lightleak", "Delicious",
+    "Arctic", "Blowout", "Square", "Widescreen", "6x4", "7x6", "4x3", "Thin", "Medium", "Thick", "Rounded"};
+
+void fill(GrowArray<int>& list, std::initializer_list<int> filters)
+{
+    list.clear();
+    for (int filter : filters)
+        list.add(filter);
+}
+
+class CustomLists : public testing::Test {
+protected:
+    void TearDown() override
+    {
+        const GrowArray<int> none;
+        CharImage::setCustomFilterA(none);
+        CharImage::setCustomFilterB(none);
+        CharImage::setCustomFilterC(none);
+    }
+};
+
+} // namespace
+
+TEST(FilterCatalogue, KnowsEveryNameBothWays)
+{
+    EXPECT_EQ(CharImage::getFilterCount(), 15);
+    for (int i = 0; i < 30; i++) {
+        EXPECT_STREQ(CharImage::getFilterName(i), names[i]);
+        EXPECT_EQ(CharImage::getFilterFromName(names[i]), i);
+    }
+}
+
+TEST(FilterCatalogue, FallsBackOnUnknownNamesAndNumbers)
+{
+    EXPECT_EQ(CharImage::getFilterFromName("Cinema"), 8);
+    EXPECT_EQ(CharImage::getFilterFromName("cinema"), 14);
+    EXPECT_EQ(CharImage::getFilterFromName("Filter"), 15);
+    EXPECT_EQ(CharImage::getFilterFromName(""), 14);
+    for (int filter : {15, 30, -1, 1000})
+        EXPECT_STREQ(CharImage::getFilterName(filter), "Filter");
+}
+
+TEST(FilterCatalogue, OnlyPrintsForNumbersWithoutAnEffect)
+{
+    const Picture picture = randomPicture(9, 7, 4);
+    for (int filter : {14, 15, 21, 22, 23, 24, 25, 26, 27, 28, 29, -5, 99}) {
+        const auto image = imageOf(picture);
+        testing::internal::CaptureStdout();
+        image->applyFilter(filter);
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "applying original filter\n") << filter;
+        expectSame(*image, picture, std::to_string(filter));
+    }
+}
+
+TEST_F(CustomLists, DoNothingWhenEmpty)
+{
+    const Picture picture = randomPicture(9, 7, 4);
+    for (int filter : {11, 12, 13}) {
+        const auto image = imageOf(picture);
+        testing::internal::CaptureStdout();
+        image->applyFilter(filter);
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+        expectSame(*image, picture, std::to_string(filter));
+    }
+}
+
+TEST_F(CustomLists, LeaveOutListsAndApplyTheRestInOrder)
+{
+    CharImage::useRandom = 0;
+    GrowArray<int> filters;
+    fill(filters, {5, 11, 2, 13, 5});
+    CharImage::setCustomFilterA(filters);
+    ASSERT_EQ(CharImage::customFilterFiltersA.numThings, 3);
+    EXPECT_EQ(CharImage::customFilterFiltersA.maxThings, 4);
+    const int kept[] = {5, 2, 5};
+    for (int i = 0; i < 3; i++)
+        EXPECT_EQ(CharImage::customFilterFiltersA.theArray[i], kept[i]);
+
+    Picture picture = randomPicture(40, 30, 6);
+    const auto image = imageOf(picture);
+    image->applyFilter(11);
+    reference::mono(picture);
+    reference::lolo(picture);
+    reference::mono(picture);
+    expectSame(*image, picture, "Mono, Lolo, Mono");
+}
+
+TEST_F(CustomLists, StandEachForItself)
+{
+    GrowArray<int> filters;
+    fill(filters, {12, 3});
+    CharImage::setCustomFilterB(filters);
+    fill(filters, {8});
+    CharImage::setCustomFilterC(filters);
+    EXPECT_EQ(CharImage::customFilterFiltersA.numThings, 0);
+    EXPECT_EQ(CharImage::customFilterFiltersB.theArray[0], 3);
+    EXPECT_EQ(CharImage::customFilterFiltersC.theArray[0], 8);
+    EXPECT_EQ(CharImage::customFilters(14), nullptr);
+}
+
+TEST(TestPattern, MatchesItsTwin)
+{
+    for (const NamedPicture& sample : samplePictures()) {
+        Picture expected = sample.picture;
+        reference::testPattern(expected);
+        const auto image = imageOf(sample.picture);
+        image->applyFilter(16);
+        expectSame(*image, expected, sample.name);
+    }
+}
+
+TEST(TestPattern, StartsAColumnAtTheBottom)
+{
+    const auto image = imageOf(flatPicture(1, 6, 9, 9, 9));
+    image->applyFilter(16);
+    for (int y = 0; y < 6; y++)
+        EXPECT_EQ(image->data[4 * y], y == 5 ? 0 : 255);
+}

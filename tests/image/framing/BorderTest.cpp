@@ -1,0 +1,175 @@
+#include "image/CharImage.h"
+#include "tests/reference/Framing.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace {
+
+const unsigned char* at(const CharImage& image, int x, int y)
+{
+    return image.data + (std::size_t(y) * image.width + x) * 4;
+}
+
+void expectColour(const CharImage& image, int x, int y, int level)
+{
+    for (int k = 0; k < 3; k++)
+        EXPECT_EQ(at(image, x, y)[k], level) << "at " << x << ", " << y;
+}
+
+} // namespace
+
+TEST(Border, AddsNothingButANewBlockWithoutMargins)
+{
+    const Picture picture = randomPicture(7, 5, 1);
+    const auto image = imageOf(picture);
+    image->addBorder(0, 0, 0, 0, 255, 255, 255);
+    expectSame(*image, picture, "no margins", false);
+}
+
+TEST(Border, GrowsTheCanvas)
+{
+    const auto image = imageOf(flatPicture(4, 3, 9, 9, 9));
+    image->addBorder(1, 2, 3, 4, 10.9f, 20.0f, 300.0f);
+    EXPECT_EQ(image->width, 7);
+    EXPECT_EQ(image->height, 10);
+    EXPECT_EQ(at(*image, 0, 5)[0], 10);
+    EXPECT_EQ(at(*image, 6, 0)[1], 20);
+    EXPECT_EQ(at(*image, 3, 9)[2], 44);
+    expectColour(*image, 1, 3, 9);
+    expectColour(*image, 4, 5, 9);
+}
+
+TEST(Border, DrawsCinemaBarsWithoutAnOutline)
+{
+    const auto image = imageOf(flatPicture(20, 400, 90, 90, 90));
+    image->applyFilterBorder(8, 1000);
+    expectColour(*image, 0, 124, 0);
+    expectColour(*image, 0, 125, 90);
+    expectColour(*image, 19, 274, 90);
+    expectColour(*image, 19, 275, 0);
+}
+
+TEST(Border, OutlinesThinMargins)
+{
+    const auto image = imageOf(flatPicture(100, 80, 90, 90, 90));
+    image->applyFilterBorder(26, 100); // margins of one pixel, which the outline covers
+    expectColour(*image, 0, 0, 200);
+    expectColour(*image, 99, 40, 200);
+    expectColour(*image, 50, 79, 200);
+    expectColour(*image, 1, 1, 90);
+    const auto wider = imageOf(flatPicture(100, 80, 90, 90, 90));
+    wider->applyFilterBorder(26, 300);
+    expectColour(*wider, 0, 40, 200);
+    expectColour(*wider, 1, 40, 255);
+    expectColour(*wider, 3, 40, 255);
+    expectColour(*wider, 4, 40, 90);
+}
+
+TEST(Border, FramesInstantInOffWhite)
+{
+    const auto image = imageOf(flatPicture(100, 130, 90, 90, 90));
+    image->applyFilterBorder(4, 100);
+    expectColour(*image, 0, 0, 245);
+    expectColour(*image, 50, 111, 245);
+    expectColour(*image, 50, 110, 90);
+}
+
+TEST(Border, DrawsNothingForNumbersWithoutOne)
+{
+    const Picture picture = randomPicture(30, 20, 8);
+    for (int border : {14, 0, 11, 99}) {
+        const auto image = imageOf(picture);
+        image->applyFilterBorder(border, 30);
+        expectSame(*image, picture, std::to_string(border));
+    }
+}
+
+TEST(Border, FollowsTheLastEntryOfACustomList)
+{
+    GrowArray<int> list;
+    list.add(5);
+    list.add(8);
+    CharImage::setCustomFilterB(list);
+    const auto image = imageOf(flatPicture(20, 40, 90, 90, 90));
+    image->applyFilterBorder(12, 40);
+    expectColour(*image, 10, 4, 0);
+    list.clear();
+    CharImage::setCustomFilterB(list);
+}
+
+TEST(Border, MasksEverythingOutsideTheFisheyesCircle)
+{
+    const auto image = imageOf(flatPicture(300, 200, 250, 250, 250));
+    image->applyFilterBorder(10, 300);
+    EXPECT_EQ(image->width, 300);
+    for (int y = 0; y < 200; y++)
+        for (int x = 0; x < 300; x++) {
+            const int dx = x - 150, dy = y - 100;
+            if (dx * dx + dy * dy >= 100 * 100) {
+                expectColour(*image, x, y, 0);
+            }
+        }
+    EXPECT_GT(at(*image, 150, 100)[0], 240);
+}
+
+TEST(Border, RoundsTheInnerCornersOnly)
+{
+    const Picture picture = flatPicture(200, 150, 40, 40, 40);
+    const auto image = imageOf(picture);
+    const unsigned char white[3] = {255, 255, 255};
+    image->fillRoundedBorder(10, 20, 5, 15, 30, white);
+    expectColour(*image, 10, 5, 255);
+    expectColour(*image, 179, 134, 255);
+    expectColour(*image, 39, 34, 40); // the circle's centre
+    expectColour(*image, 40, 5, 40); // beyond the corner square
+    expectColour(*image, 9, 5, 40);
+}
+
+TEST(Border, StaysInTheCornerSquaresOfANarrowPicture)
+{
+    const unsigned char white[3] = {255, 255, 255};
+    Picture expected = randomPicture(30, 100, 3);
+    const auto image = imageOf(expected);
+    image->fillRoundedBorder(2, 2, 2, 2, 20, white);
+    reference::fillRoundedBorder(expected, 2, 2, 2, 2, 20, white);
+    expectSame(*image, expected, "narrow");
+    expectSame(*image, expected, "rows between the squares", true);
+    EXPECT_EQ(at(*image, 15, 50)[0], expected.at(15, 50)[0]);
+}
+
+TEST(Border, MatchesItsTwin)
+{
+    const unsigned char colour[3] = {250, 10, 77};
+    for (const NamedPicture& sample : samplePictures()) {
+        Picture added = sample.picture;
+        reference::addBorder(added, 3, 0, 5, 2, 12.7f, 300.0f, -1.0f);
+        const auto grown = imageOf(sample.picture);
+        grown->addBorder(3, 0, 5, 2, 12.7f, 300.0f, -1.0f);
+        expectSame(*grown, added, sample.name + ", added", false);
+
+        Picture filled = sample.picture;
+        reference::fillBorder(filled, 2, 40, 1, 3, colour);
+        const auto painted = imageOf(sample.picture);
+        painted->fillBorder(2, 40, 1, 3, colour);
+        expectSame(*painted, filled, sample.name + ", filled");
+
+        for (int radius : {0, 1, 7, 60, 150}) {
+            Picture rounded = sample.picture;
+            reference::fillRoundedBorder(rounded, 3, 1, 2, 4, radius, colour);
+            const auto image = imageOf(sample.picture);
+            image->fillRoundedBorder(3, 1, 2, 4, radius, colour);
+            expectSame(*image, rounded, sample.name + ", radius " + std::to_string(radius));
+        }
+        for (int border : {2, 3, 4, 5, 7, 8, 10, 26, 27, 28, 29}) {
+            float margins[4];
+            CharImage::getBorderReqsForFilter(border, &margins[0], &margins[1], &margins[2], &margins[3]);
+            const int maxSide = std::max(sample.picture.width, sample.picture.height);
+            Picture expected = sample.picture;
+            reference::applyFilterBorder(expected, border, maxSide, margins);
+            const auto image = imageOf(sample.picture);
+            image->applyFilterBorder(border, maxSide);
+            expectSame(*image, expected, sample.name + ", border " + std::to_string(border));
+        }
+    }
+}

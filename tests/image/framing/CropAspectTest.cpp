@@ -1,0 +1,99 @@
+#include "image/CharImage.h"
+#include "image/framing/BestFit.h"
+
+#include <array>
+#include <gtest/gtest.h>
+
+namespace {
+
+std::array<float, 4> margins(int filter)
+{
+    std::array<float, 4> m = {9, 9, 9, 9};
+    CharImage::getBorderReqsForFilter(filter, &m[0], &m[1], &m[2], &m[3]);
+    return m;
+}
+
+std::array<float, 4> even(float fraction)
+{
+    return {fraction, fraction, fraction, fraction};
+}
+
+std::array<float, 2> fit(float width, float height, float boxWidth, float boxHeight)
+{
+    std::array<float, 2> out;
+    findBestFit(width, height, boxWidth, boxHeight, &out[0], &out[1]);
+    return out;
+}
+
+void setListA(std::initializer_list<int> filters)
+{
+    GrowArray<int> list;
+    for (int filter : filters)
+        list.add(filter);
+    CharImage::setCustomFilterA(list);
+}
+
+} // namespace
+
+TEST(CropAspect, TurnsWithThePicture)
+{
+    for (int filter : {6, 7, 24}) {
+        EXPECT_EQ(CharImage::getFilterAspect(filter, 1.0f), 1.1666666f);
+        EXPECT_EQ(CharImage::getFilterAspect(filter, 0.999f), 0.85714287f);
+    }
+    for (int filter : {3, 23}) {
+        EXPECT_EQ(CharImage::getFilterAspect(filter, 2.0f), 1.5f);
+        EXPECT_EQ(CharImage::getFilterAspect(filter, 0.5f), 0.6666667f);
+    }
+    EXPECT_EQ(CharImage::getFilterAspect(25, 1.5f), 1.3333334f);
+    EXPECT_EQ(CharImage::getFilterAspect(25, 0.5f), 0.75f);
+}
+
+TEST(CropAspect, KeepsSquaresAndWideStrips)
+{
+    for (float aspect : {0.5f, 2.0f}) {
+        for (int filter : {21, 1, 4, 2, 10})
+            EXPECT_EQ(CharImage::getFilterAspect(filter, aspect), 1.0f);
+        for (int filter : {8, 22})
+            EXPECT_EQ(CharImage::getFilterAspect(filter, aspect), 1.7777778f);
+        for (int filter : {14, 0, 5, 9, 17, 18, 19, 20, 26, 15, 16, -1, 99})
+            EXPECT_EQ(CharImage::getFilterAspect(filter, aspect), -1.0f);
+    }
+}
+
+TEST(CropAspect, FollowsTheLastEntryOfACustomList)
+{
+    EXPECT_EQ(CharImage::getFilterAspect(11, 1.5f), -1.0f);
+    EXPECT_EQ(margins(11), even(0));
+    setListA({21, 8});
+    EXPECT_EQ(CharImage::getFilterAspect(11, 0.5f), 1.7777778f);
+    EXPECT_EQ(margins(11), (std::array<float, 4>{0, 0, 0.125f, 0.125f}));
+    setListA({});
+}
+
+TEST(BorderRequirements, StandInTheTable)
+{
+    for (int filter : {26, 3})
+        EXPECT_EQ(margins(filter), even(0.014285714f));
+    for (int filter : {27, 5})
+        EXPECT_EQ(margins(filter), even(0.025f));
+    for (int filter : {28, 2})
+        EXPECT_EQ(margins(filter), even(0.0625f));
+    for (int filter : {29, 7})
+        EXPECT_EQ(margins(filter), even(0.022222223f));
+    EXPECT_EQ(margins(4), (std::array<float, 4>{0.04f, 0.04f, 0.04f, 0.19999999f}));
+    EXPECT_EQ(double(margins(4)[3]), 0.19999998807907104);
+    EXPECT_EQ(int(3000 * margins(4)[3]), 599);
+    EXPECT_EQ(margins(8), (std::array<float, 4>{0, 0, 0.125f, 0.125f}));
+    for (int filter : {0, 14, 10, 21, -1, 99})
+        EXPECT_EQ(margins(filter), even(0));
+}
+
+TEST(BestFit, TouchesTheTighterSide)
+{
+    EXPECT_EQ(fit(3000, 2000, 1000, 1000), (std::array<float, 2>{1000, 667}));
+    EXPECT_EQ(fit(2000, 3000, 1000, 1000), (std::array<float, 2>{667, 1000}));
+    EXPECT_EQ(fit(100, 100, 640, 480), (std::array<float, 2>{480, 480}));
+    EXPECT_EQ(fit(4, 3, 400, 300), (std::array<float, 2>{400, 300}));
+    EXPECT_EQ(fit(3, 2, 100.5f, 200), (std::array<float, 2>{100.5f, 67})); // the touching side is not rounded
+}

@@ -1,0 +1,35 @@
+#include "tests/image/looks/LookProperties.h"
+
+namespace {
+
+void arcticLevels(Picture& picture)
+{
+    reference::fillHistogram(picture, 0.001f, 0.01f, 0.0f, 255.0f, true, false);
+}
+
+// White may lose one in the saturation step, which adds two rounded products.
+constexpr Colour white = {254, 254, 254};
+
+} // namespace
+
+TEST(Arctic, MatchesItsTwin)
+{
+    expectLookMatchesTwin(19, reference::arctic);
+}
+
+TEST(Arctic, KeepsBlackAndWhite)
+{
+    expectBeforeLevels(19, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, white, arcticLevels);
+    expectBeforeLevels(19, {255, 255, 255}, white, {0, 0, 0}, white, arcticLevels);
+}
+
+TEST(Arctic, GivesThePivotItsColdCastAlone)
+{
+    expectBeforeLevels(19, {135, 135, 135}, {92, 92, 118}, {0, 0, 0}, white, arcticLevels);
+}
+
+TEST(Arctic, DarkensAMidGreyIntoBlue)
+{
+    // k = 1 - (35/135)^1.1 = 0.773; r1 = g1 = 68.80, b1 = 86.22; saturated: 53.0 and 67.8.
+    expectBeforeLevels(19, {100, 100, 100}, {53, 53, 67}, {0, 0, 0}, white, arcticLevels);
+}

@@ -1,0 +1,24 @@
+#include "tests/image/looks/LookProperties.h"
+
+namespace {
+
+void blowoutLevels(CharImage& image)
+{
+    image.fillHistogram(0.01f, 0.1f, 20.0f, 255.0f, false, true);
+}
+
+} // namespace
+
+TEST(Blowout, MatchesItsTwin)
+{
+    expectLookMatchesTwin(20, reference::blowout);
+}
+
+TEST(Blowout, BrightensByLightness)
+{
+    EXPECT_EQ(afterLevels(20, {128, 128, 128}, blowoutLevels), (Colour{192, 192, 192}));
+    EXPECT_EQ(afterLevels(20, {255, 0, 0}, blowoutLevels), (Colour{255, 0, 0}));
+    EXPECT_EQ(afterLevels(20, {20, 20, 20}, blowoutLevels), (Colour{21, 21, 21}));
+    EXPECT_EQ(afterLevels(20, {0, 0, 0}, blowoutLevels), (Colour{0, 0, 0}));
+    EXPECT_EQ(afterLevels(20, {255, 255, 255}, blowoutLevels), (Colour{255, 255, 255}));
+}

@@ -1,0 +1,58 @@
+#include "tests/image/looks/LookProperties.h"
+
+#include "image/looks/Colorcross.h"
+
+TEST(Colorcross, MatchesItsTwin)
+{
+    expectLookMatchesTwin(0, reference::colorcross);
+}
+
+TEST(Colorcross, StaysOffBlackAndWhite)
+{
+    EXPECT_EQ(underLook(0, {0, 0, 0}), (Colour{20, 20, 20}));
+    EXPECT_EQ(underLook(0, {255, 255, 255}), (Colour{250, 250, 250}));
+}
+
+TEST(Colorcross, KeepsTheMiddleForEveryExponent)
+{
+    CharImage::useRandom = 1;
+    for (unsigned seed = 0; seed < 20; seed++) {
+        std::srand(seed);
+        CharImage::renewRandomNumbers();
+        const auto image = imageOf(flatPicture(1, 1, 128, 128, 128));
+        image->applyFilter(0);
+        for (int k = 0; k < 3; k++)
+            EXPECT_NEAR(image->data[k], 128, 2);
+    }
+}
+
+TEST(Colorcross, PrintsItsPowers)
+{
+    testing::internal::CaptureStdout();
+    underLook(0, {1, 2, 3});
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "powers 2.839540 2.758001 0.683486\n");
+}
+
+TEST(Colorcross, IsALookupPerChannel)
+{
+    CharImage::useRandom = 0;
+    const Colour once = underLook(0, {77, 77, 77}), again = underLook(0, {77, 3, 200});
+    EXPECT_EQ(once[0], again[0]);
+}
+
+TEST(Colorcross, SetsApartExponentsThatAreTooAlike)
+{
+    float alike[3] = {1.0f, 1.1f, 1.2f};
+    setApart(alike, 0.001f); // 1 modulo 3: green
+    EXPECT_EQ(alike[0], 1.0f);
+    EXPECT_EQ(alike[1], float(1.1f * 1.6));
+    EXPECT_EQ(alike[2], 1.2f);
+    float high[3] = {2.5f, 2.6f, 2.7f};
+    setApart(high, 0.0f);
+    EXPECT_EQ(high[0], 1.25f);
+    float apart[3] = {1.0f, 1.5f, 2.0f};
+    setApart(apart, 0.0f);
+    EXPECT_EQ(apart[0], 1.0f);
+    EXPECT_EQ(apart[1], 1.5f);
+    EXPECT_EQ(apart[2], 2.0f);
+}

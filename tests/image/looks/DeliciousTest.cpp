@@ -1,0 +1,71 @@
+#include "tests/image/looks/LookProperties.h"
+
+#include "image/looks/Delicious.h"
+
+TEST(Delicious, MatchesItsTwin)
+{
+    expectLookMatchesTwin(18, reference::delicious);
+}
+
+TEST(Delicious, FlattensDeepShadows)
+{
+    const auto image = imageOf(flatPicture(30, 20, 40, 45, 50));
+    image->applyFilter(18);
+    EXPECT_EQ(image->data[0], image->data[1]);
+    EXPECT_EQ(image->data[0], image->data[2]);
+    EXPECT_LT(image->data[0], 50);
+}
+
+TEST(Delicious, TurnsPureRedGrey)
+{
+    const auto image = imageOf(flatPicture(30, 20, 255, 0, 0));
+    image->applyFilter(18);
+    EXPECT_EQ(image->data[0], image->data[1]);
+    EXPECT_EQ(image->data[0], image->data[2]);
+}
+
+TEST(Delicious, BandsTones)
+{
+    const int centres[] = {21, 63, 106, 148, 191, 233, 255};
+    for (const int centre : centres)
+        EXPECT_EQ(bandedTone(static_cast<unsigned char>(centre)), centre);
+    // The bands' borders: the last tone of one band stays below the first of the next, and neither moves far.
+    const int firsts[] = {43, 85, 128, 170, 213, 255};
+    for (int q = 0; q < 6; q++) {
+        const int last = bandedTone(static_cast<unsigned char>(firsts[q] - 1));
+        const int first = bandedTone(static_cast<unsigned char>(firsts[q]));
+        EXPECT_GT(last, centres[q]);
+        EXPECT_LE(first, centres[q + 1]);
+        EXPECT_LE(last, first);
+    }
+    EXPECT_EQ(bandedTone(110), 106); // near its centre a tone snaps to it
+}
+
+TEST(Delicious, DrawsNoOutlinesOnOneColour)
+{
+    const auto image = imageOf(flatPicture(30, 20, 90, 160, 200));
+    image->applyFilter(18);
+    for (int i = 1; i < 600; i++)
+        ASSERT_TRUE(std::equal(image->data, image->data + 3, image->data + 4 * i));
+}
+
+TEST(Delicious, IgnoresTheVariation)
+{
+    const auto fixed = imageOf(photoLikePicture(90, 70)), varied = imageOf(photoLikePicture(90, 70));
+    CharImage::useRandom = 0;
+    fixed->applyFilter(18);
+    CharImage::useRandom = 1;
+    varied->applyFilter(18);
+    EXPECT_TRUE(std::equal(fixed->data, fixed->data + 90 * 70 * 4, varied->data));
+}
+
+TEST(Delicious, PrintsBothKernels)
+{
+    const auto image = imageOf(flatPicture(4, 4, 90, 160, 200));
+    testing::internal::CaptureStdout();
+    image->applyFilter(18);
+    const std::string out = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(out.find("9 gauss kernel values\n   val 0.040000\n"), 0u);
+    EXPECT_NE(
+        out.find("3 gauss kernel values\n   val 0.250000\n   val 0.500000\n   val 0.250000\n"), std::string::npos);
+}

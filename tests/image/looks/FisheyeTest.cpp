@@ -1,0 +1,40 @@
+#include "tests/image/looks/LookProperties.h"
+
+TEST(Fisheye, MatchesItsTwin)
+{
+    expectLookMatchesTwin(10, reference::fisheye);
+}
+
+TEST(Fisheye, KeepsTheCentrePixelsPlace)
+{
+    Picture picture = flatPicture(101, 101, 10, 10, 10);
+    for (int y = 49; y <= 52; y++)
+        for (int x = 49; x <= 52; x++)
+            picture.at(x, y)[0] = 200;
+    const auto image = imageOf(picture);
+    image->makeFisheye();
+    EXPECT_EQ(image->data[4 * (50 * 101 + 50)], 200);
+}
+
+TEST(Fisheye, SamplesTwelvePixelsInAtTheLeftEdgeAndBlackensTheCorners)
+{
+    Picture picture = flatPicture(1000, 1000, 0, 0, 0);
+    for (int y = 0; y < 1000; y++)
+        for (int x = 0; x < 1000; x++)
+            picture.at(x, y)[0] = static_cast<unsigned char>(x < 250 ? x : 250), picture.at(x, y)[1] = 99;
+    const auto image = imageOf(picture);
+    image->applyFisheyeFilter();
+    EXPECT_NEAR(image->data[4 * (500 * 1000)], 12, 1);
+    EXPECT_EQ(image->data[4 * (500 * 1000) + 1], 99);
+    for (const int corner : {0, 999, 999000, 999999})
+        EXPECT_EQ(image->data[4 * corner + 1], 0);
+}
+
+TEST(Fisheye, DistortsASingleColumn)
+{
+    // One pixel wide, both neighbours are the same column with the full share.
+    const auto image = imageOf(flatPicture(1, 1, 90, 80, 70));
+    image->makeFisheye();
+    EXPECT_EQ(image->data[0], 90);
+    EXPECT_EQ(image->data[2], 70);
+}

@@ -1,0 +1,61 @@
+#include "tests/image/looks/LookProperties.h"
+
+namespace {
+
+void infraredLevels(Picture& picture)
+{
+    reference::fillHistogram(picture, 0.01f, 0.01f, 0.0f, 255.0f, true, true);
+    reference::makeBlurry(picture, 4, 3.0f);
+}
+
+Colour greyOf(int level)
+{
+    return {level, level, level};
+}
+
+} // namespace
+
+TEST(Infrared, MatchesItsTwin)
+{
+    expectLookMatchesTwin(9, reference::infrared);
+}
+
+TEST(Infrared, GivesTheReferenceColoursTheirGreys)
+{
+    const Colour colours[] = {
+        {0, 0, 0}, {0, 255, 0}, {228, 152, 76}, {150, 150, 255}, {255, 255, 255}, {128, 128, 128}};
+    const int greys[] = {7, 138, 239, 0, 5, 84};
+    for (int i = 0; i < 6; i++) {
+        // A picture of that colour but for its sampled pixels, black and the warm reference, which span the levels.
+        Picture picture = sampledPicture({0, 0, 0}, {228, 152, 76}), before = sampledPicture(greyOf(7), greyOf(239));
+        for (int x = 0; x < 400; x++)
+            if (x % 10 != 0)
+                for (int k = 0; k < 3; k++) {
+                    picture.at(x, 0)[k] = static_cast<unsigned char>(colours[i][k]);
+                    before.at(x, 0)[k] = static_cast<unsigned char>(greys[i]);
+                }
+        infraredLevels(before);
+        const auto image = imageOf(picture);
+        image->applyFilter(9);
+        expectSame(*image, before, "colour " + std::to_string(i));
+    }
+}
+
+TEST(Infrared, IsNeutral)
+{
+    const auto image = imageOf(randomPicture(50, 40, 8));
+    image->applyFilter(9);
+    for (int i = 0; i < 2000; i++) {
+        ASSERT_EQ(image->data[4 * i], image->data[4 * i + 1]);
+        ASSERT_EQ(image->data[4 * i], image->data[4 * i + 2]);
+    }
+}
+
+TEST(Infrared, BlursASinglePixelByTheLeastKernel)
+{
+    Picture twin = flatPicture(1, 1, 0, 255, 0);
+    const auto image = imageOf(twin);
+    reference::infrared(twin);
+    image->applyFilter(9);
+    expectSame(*image, twin, "1x1");
+}

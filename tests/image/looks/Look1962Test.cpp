@@ -1,0 +1,45 @@
+#include "tests/image/looks/LookProperties.h"
+
+#include "image/looks/Look1962.h"
+
+namespace {
+
+void levels1962(CharImage& image)
+{
+    image.fillHistogram(0.1f, 0.1f, 15.0f, 245.0f, false, false);
+}
+
+} // namespace
+
+TEST(Look1962, MatchesItsTwin)
+{
+    expectLookMatchesTwin(6, reference::look1962);
+}
+
+TEST(Look1962, LeavesThePivotAndSpreadsTheRest)
+{
+    // The weighted greys are 100.1, 200.1 and 25.1: blue counts one and a half times.
+    EXPECT_EQ(afterLevels(6, {100, 100, 67}, levels1962), (Colour{100, 100, 100}));
+    EXPECT_EQ(afterLevels(6, {200, 200, 134}, levels1962)[0], 233);
+    EXPECT_EQ(afterLevels(6, {25, 25, 17}, levels1962)[0], 0);
+}
+
+TEST(Look1962, MakesSaturatedBlueDark)
+{
+    EXPECT_EQ(afterLevels(6, {0, 0, 255}, levels1962), (Colour{22, 22, 22}));
+}
+
+TEST(Look1962, ClampsAGreyBeyondWhite)
+{
+    EXPECT_EQ(afterLevels(6, {255, 255, 255}, levels1962), (Colour{255, 255, 255}));
+}
+
+TEST(Look1962, VariesWithinItsBands)
+{
+    const Look1962Parameters low = Look1962Parameters::varied(allRandom(0.0f).data());
+    EXPECT_EQ(low.gain[2], 0.8f);
+    EXPECT_EQ(low.darkFraction, float(0.2 * 0.1));
+    EXPECT_EQ(low.darkLevel, 7.0f);
+    EXPECT_EQ(low.contrast, float(0.8 * 1.33));
+    EXPECT_EQ(low.pivot, 50.0f);
+}

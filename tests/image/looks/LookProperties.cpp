@@ -1,0 +1,101 @@
+#include "tests/image/looks/LookProperties.h"
+
+#include <cstdlib>
+
+namespace {
+
+Colour colourAt(const CharImage& image, int i)
+{
+    return {image.data[4 * i], image.data[4 * i + 1], image.data[4 * i + 2]};
+}
+
+void setColour(Picture& picture, int i, Colour c)
+{
+    for (int k = 0; k < 3; k++)
+        picture.at(i, 0)[k] = static_cast<unsigned char>(c[k]);
+}
+
+} // namespace
+
+void expectLookMatchesTwin(int filter, void (*twin)(Picture&))
+{
+    for (const NamedPicture& sample : samplePictures())
+        for (unsigned seed = 0; seed < 4; seed++) {
+            CharImage::useRandom = seed > 0;
+            std::srand(seed);
+            CharImage::renewRandomNumbers();
+            Picture expected = sample.picture;
+            std::srand(seed + 100); // what a look draws for itself
+            twin(expected);
+            const auto image = imageOf(sample.picture);
+            std::srand(seed + 100);
+            testing::internal::CaptureStdout();
+            image->applyFilter(filter);
+            testing::internal::GetCapturedStdout();
+            expectSame(*image, expected, sample.name + ", seed " + std::to_string(seed));
+            if (testing::Test::HasFatalFailure())
+                return;
+        }
+}
+
+Picture sampledPicture(Colour dark, Colour bright)
+{
+    Picture picture(400, 1);
+    for (int i = 0; i < 400; i += 10)
+        setColour(picture, i, i / 10 % 2 ? bright : dark);
+    return picture;
+}
+
+void expectBeforeLevels(int filter, Colour colour, Colour expected, Colour blackBecomes, Colour whiteBecomes,
+    const std::function<void(Picture&)>& levels)
+{
+    CharImage::useRandom = 0;
+    Picture picture = sampledPicture({0, 0, 0}, {255, 255, 255});
+    setColour(picture, 1, colour);
+    const auto image = imageOf(picture);
+    image->applyFilter(filter);
+
+    Picture stretched = sampledPicture(blackBecomes, whiteBecomes);
+    setColour(stretched, 1, expected);
+    levels(stretched);
+    EXPECT_EQ(colourAt(*image, 1), (Colour{stretched.at(1, 0)[0], stretched.at(1, 0)[1], stretched.at(1, 0)[2]}));
+}
+
+Colour afterLevels(int filter, Colour colour, const std::function<void(CharImage&)>& levels)
+{
+    CharImage::useRandom = 0;
+    Picture picture = sampledPicture({60, 60, 60}, {190, 190, 190});
+    Picture ramp = picture;
+    const auto place = [](int v) { return v / 9 * 10 + v % 9 + 1; }; // never a sampled pixel
+    for (int v = 0; v < 256; v++)
+        setColour(ramp, place(v), {v, v, v});
+    const auto levelled = imageOf(ramp);
+    levels(*levelled);
+    Colour before{};
+    for (int k = 0; k < 3; k++) {
+        int v = 0;
+        while (v < 256 && levelled->data[4 * place(v)] != colour[k])
+            v++;
+        EXPECT_LT(v, 256) << "no value becomes " << colour[k];
+        before[k] = v;
+    }
+    setColour(picture, 1, before);
+    const auto image = imageOf(picture);
+    image->applyFilter(filter);
+    return colourAt(*image, 1);
+}
+
+Colour underLook(int filter, Colour colour)
+{
+    CharImage::useRandom = 0;
+    const auto image = imageOf(flatPicture(1, 1, colour[0], colour[1], colour[2]));
+    image->applyFilter(filter);
+    return colourAt(*image, 0);
+}
+
+std::array<float, 100> allRandom(float value)
+{
+    std::array<float, 100> random;
+    random.fill(value);
+    return random;
+}

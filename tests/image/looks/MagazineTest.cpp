@@ -1,0 +1,56 @@
+#include "tests/image/looks/LookProperties.h"
+
+#include "image/looks/Magazine.h"
+
+namespace {
+
+void magazineLevels(Picture& picture)
+{
+    reference::fillHistogram(picture, 0.001f, 0.01f, 0.0f, 255.0f, true, false);
+}
+
+// White may lose one in the saturation step, which adds two rounded products.
+constexpr Colour white = {254, 254, 254};
+
+} // namespace
+
+TEST(Magazine, MatchesItsTwin)
+{
+    expectLookMatchesTwin(3, reference::magazine);
+}
+
+TEST(Magazine, KeepsBlackAndWhite)
+{
+    expectBeforeLevels(3, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, white, magazineLevels);
+    expectBeforeLevels(3, {255, 255, 255}, white, {0, 0, 0}, white, magazineLevels);
+}
+
+TEST(Magazine, OnlyTintsAndSaturatesThePivot)
+{
+    // l = 0.5294, w = 0.3271: red 135 x 0.6729 + 2 x 0.3271 x 122.82 = 171.2, green 137.6, blue 106.1; L2 = 144.2.
+    expectBeforeLevels(3, {135, 135, 135}, {177, 136, 97}, {0, 0, 0}, white, magazineLevels);
+}
+
+TEST(Magazine, IsAFunctionOfEachPixelAlone)
+{
+    CharImage::useRandom = 0;
+    const auto first = imageOf(photoLikePicture(60, 40)), second = imageOf(photoLikePicture(60, 40));
+    first->applyFilter(3);
+    second->applyFilter(3);
+    EXPECT_TRUE(std::equal(first->data, first->data + 60 * 40 * 4, second->data));
+}
+
+TEST(Magazine, StretchesAnEmptyImageWithoutAPixelPass)
+{
+    CharImage empty;
+    empty.applyFilter(3);
+    EXPECT_EQ(empty.data, nullptr);
+}
+
+TEST(Magazine, VariesWithinItsBands)
+{
+    const MagazineParameters p = MagazineParameters::varied(allRandom(0.0f).data());
+    EXPECT_EQ(p.pivot, 80.0f);
+    EXPECT_EQ(p.shadowExponent, 1.0f);
+    EXPECT_EQ(p.highlightExponent, 0.8f);
+}

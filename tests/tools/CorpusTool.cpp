@@ -1,0 +1,134 @@
+// Opens every file under a folder the way the application does, each in a process of its own, and tells how it went:
+//
+//     corpus_tool FOLDER [SECONDS] [MEBIBYTES]
+//
+// SECONDS (10) and MEBIBYTES (2048) limit each file. The exit status is 0 when no file crashed or passed a limit.
+
+#include "render/PhotoLoader.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <poll.h>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+struct Limits {
+    int seconds = 10;
+    int mebibytes = 2048;
+};
+
+struct Outcome {
+    std::string file, kind, reason;
+    double milliseconds = 0;
+    long mebibytes = 0;
+};
+
+[[noreturn]] void openAndTell(const std::string& file, int pipe, const Limits& limits)
+{
+#ifndef __SANITIZE_ADDRESS__
+    // Well beyond the limit, so that passing it is seen and the machine is safe.
+    const rlim_t most = rlim_t(limits.mebibytes) * 4 << 20;
+    const rlimit space = {most, most};
+    setrlimit(RLIMIT_AS, &space);
+#endif
+    const LoadedPhoto photo = loadPhoto(QByteArray::fromStdString(file));
+    const std::string told = photo.image.isNull() ? "refused " + photo.reason.toStdString() : "opened ";
+    _exit(write(pipe, told.data(), told.size()) == ssize_t(told.size()) ? 0 : 1);
+}
+
+Outcome open(const std::string& file, const Limits& limits)
+{
+    Outcome outcome;
+    outcome.file = file;
+    int ends[2];
+    if (pipe(ends) != 0)
+        std::abort();
+    const auto start = std::chrono::steady_clock::now();
+    const pid_t child = fork();
+    if (child == 0)
+        openAndTell(file, ends[1], limits);
+    close(ends[1]);
+    // The pipe ends with an answer or with the process.
+    pollfd waited = {ends[0], POLLIN, 0};
+    const bool inTime = poll(&waited, 1, limits.seconds * 1000) > 0;
+    if (!inTime)
+        kill(child, SIGKILL);
+    char text[512];
+    const ssize_t length = read(ends[0], text, sizeof text);
+    close(ends[0]);
+    int status = 0;
+    rusage usage = {};
+    wait4(child, &status, 0, &usage);
+    const std::chrono::duration<double, std::milli> elapsed = std::chrono::steady_clock::now() - start;
+    outcome.milliseconds = elapsed.count();
+    outcome.mebibytes = usage.ru_maxrss / 1024;
+
+    const std::string told(text, length > 0 ? std::size_t(length) : 0);
+    const std::size_t space = std::min(told.find(' '), told.size());
+    if (!inTime)
+        outcome.kind = "timed out";
+    else if (!WIFEXITED(status) || WEXITSTATUS(status) != 0 || told.empty())
+        outcome.kind = "crashed";
+    else if (outcome.mebibytes > limits.mebibytes)
+        outcome.kind = "over memory";
+    else {
+        outcome.kind = told.substr(0, space);
+        outcome.reason = told.substr(std::min(space + 1, told.size()));
+    }
+    return outcome;
+}
+
+void print(const Outcome& outcome)
+{
+    std::printf("%-12s %8.0f ms %6ld MiB  %s%s%s\n", outcome.kind.c_str(), outcome.milliseconds, outcome.mebibytes,
+        outcome.file.c_str(), outcome.reason.empty() ? "" : ": ", outcome.reason.c_str());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: %s FOLDER [SECONDS] [MEBIBYTES]\n", argv[0]);
+        return 2;
+    }
+    const QCoreApplication application(argc, argv);
+    Limits limits;
+    if (argc > 2)
+        limits.seconds = std::atoi(argv[2]);
+    if (argc > 3)
+        limits.mebibytes = std::atoi(argv[3]);
+
+    std::vector<std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(argv[1]))
+        if (entry.is_regular_file())
+            files.push_back(entry.path().native());
+    std::sort(files.begin(), files.end());
+    std::vector<Outcome> outcomes;
+    std::map<std::string, int> counts;
+    for (const std::string& file : files) {
+        outcomes.push_back(open(file, limits));
+        counts[outcomes.back().kind]++;
+        if (outcomes.back().kind != "opened")
+            print(outcomes.back());
+    }
+
+    std::stable_sort(outcomes.begin(), outcomes.end(),
+        [](const Outcome& a, const Outcome& b) { return a.milliseconds > b.milliseconds; });
+    std::printf("\nThe slowest:\n");
+    for (std::size_t i = 0; i < std::min<std::size_t>(outcomes.size(), 5); i++)
+        print(outcomes[i]);
+    std::printf("\n%zu files: %d opened, %d refused, %d crashed, %d timed out, %d over memory\n", files.size(),
+        counts["opened"], counts["refused"], counts["crashed"], counts["timed out"], counts["over memory"]);
+    return files.empty() || counts["crashed"] + counts["timed out"] + counts["over memory"] > 0 ? 1 : 0;
+}
