@@ -73,7 +73,7 @@ protected:
             return QTextDocument::loadResource(type, url);
         const int filter = url.path().toInt();
         QImage picture = renderPhoto(photo, {.filter = filter, .cropFilter = filter, .borderFilter = filter});
-        picture = picture.scaled(390, 272, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        picture = picture.scaled(390, 232, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         picture.setDevicePixelRatio(2.2); // printed finer than a screen shows it
         return picture;
     }

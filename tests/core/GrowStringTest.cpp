@@ -1,19 +1,9 @@
 #include "core/GrowString.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
+#include "tests/core/TextOf.h"
 
-namespace {
-
-std::string text(const GrowString& s)
-{
-    EXPECT_EQ(s.cString()[s.length()], 0);
-    return s.cString();
-}
-
-} // namespace
+#include <climits>
+#include <limits>
 
 TEST(GrowString, TerminatesTheEmptyString)
 {
@@ -36,7 +26,7 @@ TEST(GrowString, IgnoresNull)
 {
     GrowString s("abc");
     s = static_cast<const char*>(nullptr);
-    EXPECT_EQ(text(s), "abc");
+    EXPECT_EQ(textOf(s), "abc");
 }
 
 TEST(GrowString, ReadsAsEmptyWhenCleared)
@@ -57,7 +47,7 @@ TEST(GrowString, CutsAtAnInnerZero)
         s.add(c);
     s.ensureTermination();
     EXPECT_EQ(s.numThings, 3);
-    EXPECT_EQ(text(s), "ab");
+    EXPECT_EQ(textOf(s), "ab");
 }
 
 TEST(GrowString, DoesNotCutAtALeadingZero)
@@ -80,6 +70,32 @@ TEST(GrowString, ReadsCharacters)
     EXPECT_EQ(s.findFirst('/'), 1);
     EXPECT_EQ(s.findLast('/'), 3);
     EXPECT_EQ(s.findFirst('x'), -1);
+    EXPECT_EQ(s.findLast('x'), -1);
+    EXPECT_EQ(s.findFirst('a'), 0);
+    EXPECT_EQ(s.findLast('c'), 4);
+    EXPECT_EQ(s.charAt(4), 'c');
+    EXPECT_EQ(s.charAt(5), 0);
+}
+
+TEST(GrowString, CopiesAndAssigns)
+{
+    GrowString s("abc");
+    const GrowString copy(s);
+    s.replace(0, 'X');
+    EXPECT_EQ(textOf(copy), "abc");
+    GrowString other("a longer one");
+    other = s;
+    EXPECT_EQ(textOf(other), "Xbc");
+    EXPECT_NE(other.theArray, s.theArray);
+    const GrowString& self = s;
+    s = self;
+    EXPECT_EQ(textOf(s), "Xbc");
+    s = s.cString() + 1; // text of the string's own block
+    EXPECT_EQ(textOf(s), "bc");
+    s = "";
+    EXPECT_EQ(textOf(s), "");
+    EXPECT_EQ(s.maxThings, 2);
+    EXPECT_EQ(textOf(GrowString(static_cast<const char*>(nullptr))), "");
 }
 
 TEST(GrowString, Compares)
@@ -88,8 +104,44 @@ TEST(GrowString, Compares)
     EXPECT_TRUE(GrowString("abc") != GrowString("abd"));
     EXPECT_TRUE(GrowString("aBc").compareNoCase("AbC"));
     EXPECT_FALSE(GrowString("abc").compareNoCase("abcd"));
+    EXPECT_TRUE(GrowString("abc") != GrowString("abcd"));
+    EXPECT_TRUE(GrowString("").compareNoCase(""));
     EXPECT_TRUE(GrowString("abc").beginsWith("ab"));
+    EXPECT_TRUE(GrowString("abc").beginsWith(""));
     EXPECT_FALSE(GrowString("abc").beginsWith("abcd"));
+    EXPECT_FALSE(GrowString("abc").beginsWith("B"));
+}
+
+TEST(GrowString, ComparesAsEmptyWhenCleared)
+{
+    GrowString cleared("abc");
+    cleared.clear();
+    EXPECT_TRUE(cleared == GrowString());
+    EXPECT_TRUE(GrowString() == cleared);
+    EXPECT_TRUE(cleared == cleared);
+    EXPECT_TRUE(cleared != GrowString("abc"));
+}
+
+TEST(GrowString, WorksOnWhenCleared)
+{
+    GrowString s("abc");
+    s.clear();
+    s.ensureTermination();
+    EXPECT_EQ(s.numThings, 1);
+    EXPECT_EQ(s.maxThings, 2);
+    s.clear();
+    EXPECT_EQ(s.charAt(0), 0);
+    EXPECT_EQ(s.findFirst('a'), -1);
+    EXPECT_EQ(s.findLast('a'), -1);
+    EXPECT_EQ(textOf(GrowString(s)), "");
+    EXPECT_EQ(textOf(s.subString(0, 3)), "");
+    EXPECT_EQ(textOf(s.lastChars(3)), "");
+    EXPECT_EQ(s.toNumber(), 0);
+    s.insert(0, 'x');
+    EXPECT_EQ(textOf(s), "x");
+    s.clear();
+    s += "y";
+    EXPECT_EQ(textOf(s), "y");
 }
 
 TEST(GrowString, ReadsNumbers)
@@ -102,9 +154,25 @@ TEST(GrowString, ReadsNumbers)
     EXPECT_FALSE(GrowString("").toNumber(&number));
     EXPECT_FALSE(GrowString("\n5").toNumber(&number));
     EXPECT_FALSE(GrowString("5").toNumber(nullptr));
-    GrowString s;
-    s = 0.25f;
-    EXPECT_EQ(text(s), "0.25");
+    EXPECT_FALSE(GrowString("five").toNumber(&number));
+    EXPECT_FALSE(GrowString("5 ").toNumber(&number));
+    EXPECT_EQ(number, -300); // a failure leaves it
+    EXPECT_TRUE(GrowString("0").toNumber(&number));
+    EXPECT_EQ(number, 0);
+    EXPECT_EQ(GrowString("five").toNumber(), 0);
+}
+
+TEST(GrowString, TakesTheFormOfANumber)
+{
+    GrowString s("before");
+    for (const auto& [number, form] : {std::pair(0.25f, "0.25"), {-3.0f, "-3"}, {0.1f, "0.1"}, {1e30f, "1e+30"}}) {
+        s = number;
+        EXPECT_EQ(textOf(s), form);
+    }
+    s = std::numeric_limits<float>::max();
+    double number = 0;
+    EXPECT_TRUE(s.toNumber(&number));
+    EXPECT_EQ(float(number), std::numeric_limits<float>::max());
 }
 
 TEST(GrowString, Concatenates)
@@ -114,108 +182,127 @@ TEST(GrowString, Concatenates)
     s += "cd";
     s += -17;
     s += GrowString("!");
-    EXPECT_EQ(text(s), "abcd-17!");
+    EXPECT_EQ(textOf(s), "abcd-17!");
     s += s;
-    EXPECT_EQ(text(s), "abcd-17!abcd-17!");
-    EXPECT_EQ(text(GrowString("x") + 'y' + "z" + 1 + GrowString("w")), "xyz1w");
+    EXPECT_EQ(textOf(s), "abcd-17!abcd-17!");
+    EXPECT_EQ(textOf(GrowString("x") + 'y' + "z" + 1 + GrowString("w")), "xyz1w");
+    EXPECT_EQ(textOf(GrowString() + INT_MIN), "-2147483648");
+    GrowString tail("abc");
+    tail += tail.cString() + 1; // text of the string's own block
+    EXPECT_EQ(textOf(tail), "abcbc");
+    tail += "";
+    tail += '\0';
+    EXPECT_EQ(textOf(tail), "abcbc");
 }
 
 TEST(GrowString, Edits)
 {
     GrowString s("abc");
     s.swap(0, 2);
-    EXPECT_EQ(text(s), "cba");
+    EXPECT_EQ(textOf(s), "cba");
     s.swap(0, 9);
-    EXPECT_EQ(text(s), "cba");
+    EXPECT_EQ(textOf(s), "cba");
     s.insert(1, 'X');
-    EXPECT_EQ(text(s), "cXba");
+    EXPECT_EQ(textOf(s), "cXba");
     s.insert(4, 'Y');
-    EXPECT_EQ(text(s), "cXbaY");
+    EXPECT_EQ(textOf(s), "cXbaY");
     s.replace(0, 'Z');
-    EXPECT_EQ(text(s), "ZXbaY");
+    EXPECT_EQ(textOf(s), "ZXbaY");
     s.removeChars(1, 2);
-    EXPECT_EQ(text(s), "ZaY");
+    EXPECT_EQ(textOf(s), "ZaY");
     s.removeChars(1, 99);
-    EXPECT_EQ(text(s), "Z");
+    EXPECT_EQ(textOf(s), "Z");
     s.swap(0, 1); // the terminator moves to the front and the string is terminated anew
     EXPECT_EQ(s.length(), 0);
+}
+
+TEST(GrowString, CutsAtAWrittenZero)
+{
+    GrowString s("abcd");
+    s.replace(2, '\0');
+    EXPECT_EQ(textOf(s), "ab");
+    s = "abcd";
+    s.insert(3, '\0');
+    EXPECT_EQ(textOf(s), "abc");
+    s = "abcd";
+    s.swap(1, 4);
+    EXPECT_EQ(textOf(s), "a");
+}
+
+TEST(GrowString, IgnoresIndexesOutside)
+{
+    GrowString s("abc");
+    s.swap(-1, 0);
+    s.insert(-1, 'X');
+    s.insert(4, 'X');
+    s.replace(-1, 'X');
+    s.replace(3, 'X');
+    s.removeChars(-1, 2);
+    s.removeChars(3, 1);
+    s.removeChars(0, 0);
+    s.removeChars(0, -2);
+    EXPECT_EQ(textOf(s), "abc");
+    s.removeChars(1, INT_MAX);
+    EXPECT_EQ(textOf(s), "a");
+    s.removeChars(0, 1);
+    EXPECT_EQ(textOf(s), "");
 }
 
 TEST(GrowString, GivesParts)
 {
     const GrowString s("key=value");
-    EXPECT_EQ(text(s.subString(4, 3)), "val");
-    EXPECT_EQ(text(s.subString(4, 99)), "value");
-    EXPECT_EQ(text(s.subString(-1, 3)), "");
-    EXPECT_EQ(text(s.lastChars(2)), "ue");
-    EXPECT_EQ(text(s.stringBefore('=')), "key");
-    EXPECT_EQ(text(s.stringAfter('=')), "value");
-    EXPECT_EQ(text(s.stringBefore('#')), "key=value");
-    EXPECT_EQ(text(s.stringAfter('#')), "");
-    EXPECT_EQ(text(GrowString("a--b--").swapOccurrencesConst("--", "+")), "a+b+");
-    EXPECT_EQ(text(GrowString("ab").swapOccurrencesConst("", "+")), "ab");
+    EXPECT_EQ(textOf(s.subString(4, 3)), "val");
+    EXPECT_EQ(textOf(s.subString(4, 99)), "value");
+    EXPECT_EQ(textOf(s.subString(-1, 3)), "");
+    EXPECT_EQ(textOf(s.subString(0, INT_MAX)), "key=value");
+    EXPECT_EQ(textOf(s.subString(9, 1)), "");
+    EXPECT_EQ(textOf(s.subString(2, -1)), "");
+    EXPECT_EQ(textOf(s.lastChars(2)), "ue");
+    EXPECT_EQ(textOf(s.lastChars(99)), "key=value");
+    EXPECT_EQ(textOf(s.lastChars(0)), "");
+    EXPECT_EQ(textOf(s.lastChars(INT_MIN)), "");
+    EXPECT_EQ(textOf(s.stringBefore('=')), "key");
+    EXPECT_EQ(textOf(s.stringAfter('=')), "value");
+    EXPECT_EQ(textOf(s.stringBefore('#')), "key=value");
+    EXPECT_EQ(textOf(s.stringAfter('#')), "");
+    EXPECT_EQ(textOf(GrowString("a=b=c").stringBefore('=')), "a");
+    EXPECT_EQ(textOf(GrowString("a=b=c").stringAfter('=')), "b=c");
+    EXPECT_EQ(textOf(GrowString("a--b--").swapOccurrencesConst("--", "+")), "a+b+");
+    EXPECT_EQ(textOf(GrowString("a\\b").swapOccurrencesConst("\\", "/")), "a/b");
+    EXPECT_EQ(textOf(GrowString("aaa").swapOccurrencesConst("a", "aa")), "aaaaaa");
+    EXPECT_EQ(textOf(GrowString("aaa").swapOccurrencesConst("aa", "")), "a");
+    EXPECT_EQ(textOf(GrowString("ab").swapOccurrencesConst("", "+")), "ab");
 }
 
-TEST(GrowString, TakesTrailingIntegersAndWords)
+TEST(GrowString, TakesTrailingIntegers)
 {
     GrowString s("photo012");
     EXPECT_EQ(s.takeTrailingInteger(), 12);
-    EXPECT_EQ(text(s), "photo");
+    EXPECT_EQ(textOf(s), "photo");
     EXPECT_EQ(s.takeTrailingInteger(), 0);
-    GrowString words("  one \"two three\" four");
-    EXPECT_EQ(text(words.peekWordRespectingQuotes()), "one");
-    EXPECT_EQ(text(words.takeWordRespectingQuotes()), "one");
-    EXPECT_EQ(text(words.takeWordRespectingQuotes()), "two three");
-    EXPECT_EQ(text(words.takeWordRespectingQuotes()), "four");
-    EXPECT_EQ(text(words.takeWordRespectingQuotes()), "");
+    EXPECT_EQ(textOf(s), "photo");
+    s = "7-42";
+    EXPECT_EQ(s.takeTrailingInteger(), 42); // a sign is no digit
+    EXPECT_EQ(textOf(s), "7-");
+    s = "2147483647";
+    EXPECT_EQ(s.takeTrailingInteger(), INT_MAX);
+    EXPECT_EQ(textOf(s), "");
+    s = "x99999999999999999999999";
+    s.takeTrailingInteger();
+    EXPECT_EQ(textOf(s), "x");
 }
 
-TEST(GrowString, TakesPathsApart)
+TEST(GrowString, TakesWords)
 {
-    const GrowString path("/home/a.b/pictures/sea.tar.jpg");
-    EXPECT_EQ(text(path.getFileExtension()), "jpg");
-    EXPECT_EQ(text(path.withoutExtension()), "/home/a.b/pictures/sea.tar");
-    EXPECT_EQ(text(path.getFileName()), "sea.tar.jpg");
-    EXPECT_EQ(text(path.getFileDirectory()), "/home/a.b/pictures/");
-    EXPECT_EQ(text(path.getInnerDirectory()), "pictures");
-    EXPECT_EQ(text(GrowString("c:\\x\\y.png").getFileName()), "y.png");
-    EXPECT_EQ(text(GrowString("/a.b/c").getFileExtension()), "");
-    EXPECT_EQ(text(GrowString("/a/.hidden").getFileExtension()), "");
-    EXPECT_EQ(text(path.getRelativePath("/home/a.b")), "pictures/sea.tar.jpg");
-    EXPECT_EQ(text(path.getRelativePath("/home/a")), "");
-    EXPECT_EQ(text(path.getRelativePathIfPossible("/usr")), path.cString());
-    EXPECT_EQ(text(GrowString("abcdefghijkl").getShortFile(9)), "abc...jkl");
-    EXPECT_EQ(text(GrowString("abc").getShortFile(9)), "abc");
-}
-
-TEST(GrowString, FindsFiles)
-{
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "lumora-growstring";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "there.txt") << "x";
-    const GrowString directory(folder.c_str());
-    EXPECT_TRUE(GrowString::fileExists(directory + "/there.txt"));
-    EXPECT_FALSE(GrowString::fileExists(directory + "/nowhere.txt"));
-    EXPECT_EQ(text(GrowString::findExistingFile("there.txt", directory)), (folder / "there.txt").string());
-    EXPECT_EQ(text(GrowString::findExistingFile("nowhere.txt", directory)), "");
-    std::filesystem::remove_all(folder);
-}
-
-TEST(GrowString, KnowsTheDesktopsFolders)
-{
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "lumora-folders";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "user-dirs.dirs") << "# comment\nXDG_PICTURES_DIR=\"$HOME/Bilder\"\n";
-    setenv("HOME", "/home/someone", 1);
-    setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
-    setenv("TMPDIR", "/var/tmp", 1);
-    EXPECT_EQ(text(getMacDirectory(0x63757372)), "/home/someone"); // cusr
-    EXPECT_EQ(text(getMacDirectory(0x70646f63)), "/home/someone/Bilder"); // pdoc
-    EXPECT_EQ(text(getMacDirectory(0x6465736b)), "/home/someone/Desktop"); // desk
-    EXPECT_EQ(text(getMacDirectory(0x646f6373)), "/home/someone/Documents"); // docs
-    EXPECT_EQ(text(getMacDirectory(0x70726566)), folder.string()); // pref
-    EXPECT_EQ(text(getMacDirectory(0x74656d70)), "/var/tmp"); // temp
-    EXPECT_EQ(text(getMacDirectory(0x66756e74)), "");
-    unsetenv("TMPDIR");
-    std::filesystem::remove_all(folder);
+    GrowString words("  one \"two three\"\tfour\n");
+    EXPECT_EQ(textOf(words.peekWordRespectingQuotes()), "one");
+    EXPECT_EQ(textOf(words), "  one \"two three\"\tfour\n");
+    EXPECT_EQ(textOf(words.takeWordRespectingQuotes()), "one");
+    EXPECT_EQ(textOf(words), "\"two three\"\tfour\n");
+    EXPECT_EQ(textOf(words.takeWordRespectingQuotes()), "two three");
+    EXPECT_EQ(textOf(words.takeWordRespectingQuotes()), "four");
+    EXPECT_EQ(textOf(words), "");
+    EXPECT_EQ(textOf(words.takeWordRespectingQuotes()), "");
+    words = "\"never closed here";
+    EXPECT_EQ(textOf(words.takeWordRespectingQuotes()), "never closed here");
 }
