@@ -31,12 +31,12 @@ constexpr LookText looks[] = {
     {0, "Cross-processed film: hard reds and greens, flat blues. The FishEye button."},
     {4, "An instant print: soft tones, brown shadows and dark corners."},
     {3, "Warmed towards orange; darks darker, lights lighter, stronger colours."},
-    {9, "Infrared film: leaves turn bright, blue sky turns dark. In the menu."},
-    {10, "A lens that magnifies the middle and bends the rest outward. In the menu."},
-    {17, "A cheap camera that lets light in, at another place each time. In the menu."},
-    {18, "A cartoon: bands of brightness, strong colours, dark outlines. In the menu."},
-    {19, "Cold and bleached, with a blue cast. In the menu."},
-    {20, "Over-exposed: light parts are pushed towards white. In the menu."},
+    {9, "Infrared film: leaves turn bright, blue sky turns dark."},
+    {10, "A lens that magnifies the middle and bends the rest outward."},
+    {17, "A cheap camera that lets light in, at another place each time."},
+    {18, "A cartoon: bands of brightness, strong colours, dark outlines."},
+    {19, "Cold and bleached, with a blue cast."},
+    {20, "Over-exposed: light parts are pushed towards white."},
 };
 constexpr int looksInRow = 3;
 
