@@ -3,6 +3,12 @@
 #include <climits>
 #include <cmath>
 
+// GCC 12 drops the rounding to float between two double steps when it packs neighbouring scalars into a vector (its
+// straight-line vectoriser; loops are unharmed). Every look rounds there, so that vectoriser stays off.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC optimize("no-tree-slp-vectorize")
+#endif
+
 // The arithmetic that every look shares. Channels are floats while they are worked on; decimal constants such as 0.3
 // are double, so that a product with one is formed in double and rounded once, when it is stored. Both are part of the
 // looks.

@@ -2,8 +2,6 @@
 
 #include "image/toolkit/Arithmetic.h"
 
-#include <algorithm>
-
 // The colour-space conversions of ColorSpace.h for use inside a pixel function: values chosen, not branched on.
 // Quotients of zero are formed and then passed over.
 
@@ -17,12 +15,14 @@ struct Hsv {
 
 inline float largest(Rgb c)
 {
-    return std::max(std::max(c.r, c.g), c.b);
+    const float ofTwo = c.r < c.g ? c.g : c.r;
+    return ofTwo < c.b ? c.b : ofTwo;
 }
 
 inline float smallest(Rgb c)
 {
-    return std::min(std::min(c.r, c.g), c.b);
+    const float ofTwo = c.g < c.r ? c.g : c.r;
+    return c.b < ofTwo ? c.b : ofTwo;
 }
 
 /// A colour on 0 .. 255 scaled to 0 .. 1.
