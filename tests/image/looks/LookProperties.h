@@ -24,7 +24,7 @@ void expectBeforeLevels(int filter, Colour colour, Colour expected, Colour black
     const std::function<void(Picture&)>& levels);
 
 /// What a look that begins with the levels step makes of a pixel that is `colour` after it. `levels` is the step on the
-/// engine; the sampled pixels are dark and light greys, so that every value can come out of it.
+/// engine; the sampled greys are chosen so that `colour` can come out of it.
 Colour afterLevels(int filter, Colour colour, const std::function<void(CharImage&)>& levels);
 
 /// The picture's one pixel under a look without a levels step.
