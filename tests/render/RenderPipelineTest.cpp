@@ -1,0 +1,219 @@
+#include "render/RenderPipeline.h"
+#include "image/CharImage.h"
+#include "render/ImageBridge.h"
+#include "tests/render/Samples.h"
+
+#include <QStringList>
+#include <QTest>
+#include <memory>
+
+namespace {
+
+constexpr int none = 14, mono = 5, square = 21, cinema = 8, thick = 28, instant = 4, thin = 26;
+
+QImage render(const QImage& source, int crop, int border, bool asThumbnail = false)
+{
+    const GrowArray<int> empty;
+    RenderSettings settings;
+    settings.filterIDs = &empty;
+    settings.cropFilter = crop;
+    settings.borderFilter = border;
+    settings.asThumbnail = asThumbnail;
+    return renderPhoto(source, settings);
+}
+
+/// The picture under looks that the engine applies by itself.
+QImage under(const QImage& source, std::initializer_list<int> filters)
+{
+    const std::unique_ptr<CharImage> image(charImageFromNSImage(source, -1.0f, -1, -1, 0, 0, 0, 0, false, 3));
+    for (const int filter : filters)
+        image->applyFilter(filter);
+    return NSImageFromCharImage(image.get());
+}
+
+bool isFlat(const QImage& picture, QRgb colour)
+{
+    return picture.size().isEmpty()
+        || samples::largestDifference(picture, samples::flat(picture.width(), picture.height(), QColor(colour))) == 0;
+}
+
+} // namespace
+
+class RenderPipelineTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { CharImage::useRandom = 0; }
+
+    void nothingChosenGivesThePhotoBack()
+    {
+        for (const QSize size : {QSize(3000, 2000), QSize(2000, 3000), QSize(1000, 667), QSize(1, 1), QSize(1, 77)}) {
+            const QImage source = samples::noise(size.width(), size.height());
+            const QImage copy = source.copy();
+            QCOMPARE(render(source, none, none), source);
+            QCOMPARE(source, copy);
+        }
+    }
+
+    void squareWithInstantFrame()
+    {
+        const QImage picture = render(samples::flat(3000, 2000, Qt::red), square, instant);
+        QCOMPARE(picture.size(), QSize(2521, 3000));
+        const QRgb offWhite = qRgb(245, 245, 245);
+        QVERIFY(isFlat(picture.copy(0, 0, 2521, 120), offWhite));
+        QVERIFY(isFlat(picture.copy(0, 0, 120, 3000), offWhite));
+        QVERIFY(isFlat(picture.copy(2401, 0, 120, 3000), offWhite));
+        QVERIFY(isFlat(picture.copy(0, 2401, 2521, 599), offWhite));
+        QVERIFY(isFlat(picture.copy(120, 120, 2281, 2281), qRgb(255, 0, 0)));
+    }
+
+    void sizes_data()
+    {
+        QTest::addColumn<QSize>("source");
+        QTest::addColumn<int>("crop");
+        QTest::addColumn<int>("border");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("no crop keeps the aspect") << QSize(300, 200) << none << none << QSize(300, 200);
+        QTest::newRow("cinema on a portrait: a wide strip") << QSize(200, 300) << cinema << none << QSize(300, 169);
+        QTest::newRow("cinema's bars") << QSize(1600, 900) << none << cinema << QSize(1600, 1300);
+        QTest::newRow("cinema's bars on a square take the box's height")
+            << QSize(800, 800) << none << cinema << QSize(600, 800);
+        QTest::newRow("square source: the width is the longer side") << QSize(80, 80) << none << thick << QSize(80, 80);
+        QTest::newRow("margins from the longer side of a portrait")
+            << QSize(500, 700) << none << thin << QSize(506, 700);
+        QTest::newRow("a pixel has no margins") << QSize(1, 1) << square << instant << QSize(1, 1);
+    }
+    void sizes()
+    {
+        QFETCH(QSize, source);
+        QFETCH(int, crop);
+        QFETCH(int, border);
+        QFETCH(QSize, size);
+        QCOMPARE(render(samples::noise(source.width(), source.height()), crop, border).size(), size);
+    }
+
+    void cinemaBarsStandAboveAndBelow()
+    {
+        const QImage picture = render(samples::flat(1000, 500, Qt::red), none, cinema);
+        QCOMPARE(picture.size(), QSize(1000, 750));
+        QVERIFY(isFlat(picture.copy(0, 0, 1000, 125), qRgb(0, 0, 0)));
+        QVERIFY(isFlat(picture.copy(0, 125, 1000, 500), qRgb(255, 0, 0)));
+        QVERIFY(isFlat(picture.copy(0, 625, 1000, 125), qRgb(0, 0, 0)));
+    }
+
+    void cropsRoundTheCentre()
+    {
+        const QImage source = samples::quarters(300, 200);
+        const QImage picture = render(source, cinema, none);
+        QCOMPARE(picture.size(), QSize(300, 169));
+        // 200 rows are 31 more than are shown: the middle row stays in the middle.
+        QCOMPARE(picture.pixel(0, 83), qRgb(255, 0, 0));
+        QCOMPARE(picture.pixel(0, 85), qRgb(0, 0, 255));
+        QCOMPARE(picture.pixel(299, 0), qRgb(0, 255, 0));
+    }
+
+    void thumbnailsAreSquare_data()
+    {
+        QTest::addColumn<int>("crop");
+        for (const int crop : {none, cinema, square, 22, 23, 24, 25})
+            QTest::newRow(CharImage::getFilterName(crop)) << crop;
+    }
+    void thumbnailsAreSquare()
+    {
+        QFETCH(int, crop);
+        for (const QSize size : {QSize(150, 100), QSize(100, 150), QSize(100, 100)}) {
+            const int side = std::max(size.width(), size.height());
+            QCOMPARE(render(samples::noise(size.width(), size.height()), crop, none, true).size(), QSize(side, side));
+        }
+    }
+
+    void thumbnailsLeaveTheBorderOutButNotItsRoom()
+    {
+        const QImage source = samples::flat(160, 100, Qt::red);
+        QCOMPARE(render(source, none, thick, true), samples::flat(140, 140, Qt::red));
+        QCOMPARE(render(source, none, cinema, true), samples::flat(120, 120, Qt::red));
+    }
+
+    void emptyListLeavesThePixels()
+    {
+        const QImage source = samples::flat(700, 500, QColor(10, 20, 30));
+        const QImage picture = render(source, square, thin);
+        QCOMPARE(picture.size(), QSize(700, 700));
+        QVERIFY(isFlat(picture.copy(10, 10, 680, 680), qRgb(10, 20, 30)));
+        QVERIFY(isFlat(picture.copy(1, 1, 698, 9), qRgb(255, 255, 255)));
+        QVERIFY(isFlat(picture.copy(0, 0, 700, 1), qRgb(200, 200, 200)));
+    }
+
+    void noListAppliesNothing()
+    {
+        const QImage source = samples::noise(30, 20);
+        QCOMPARE(renderPhoto(source, RenderSettings()), source);
+    }
+
+    void oneFilter()
+    {
+        const QImage source = samples::noise(64, 48);
+        GrowArray<int> ignored;
+        ignored.add(9);
+        RenderSettings settings;
+        settings.filter = mono;
+        settings.filterIDs = &ignored;
+        QCOMPARE(renderPhoto(source, settings), under(source, {mono}));
+        QVERIFY(renderPhoto(source, settings) != source);
+    }
+
+    void listInItsOrder()
+    {
+        const QImage source = samples::noise(64, 48);
+        GrowArray<int> list;
+        list.add(6);
+        list.add(mono);
+        list.add(0);
+        RenderSettings settings;
+        settings.filterIDs = &list;
+        QCOMPARE(renderPhoto(source, settings), under(source, {6, mono, 0}));
+        QVERIFY(renderPhoto(source, settings) != under(source, {0, mono, 6}));
+    }
+
+    void listThatGrowsIsWalkedToItsEnd()
+    {
+        const QImage source = samples::noise(64, 48);
+        GrowArray<int> list;
+        list.add(mono);
+        RenderSettings settings;
+        settings.filterIDs = &list;
+        const QImage picture = renderPhoto(source, settings, [&](const char*) { list.addOnce(6); });
+        QCOMPARE(picture, under(source, {mono, 6}));
+    }
+
+    void borderWithoutMarginsIsDrawn()
+    {
+        const QImage picture = render(samples::flat(200, 200, Qt::white), none, 10); // Fisheye
+        QCOMPARE(picture.size(), QSize(200, 200));
+        QCOMPARE(picture.pixel(0, 0), qRgb(0, 0, 0));
+        QCOMPARE(picture.pixel(100, 100), qRgb(255, 255, 255));
+    }
+
+    void tellsItsSteps()
+    {
+        GrowArray<int> list;
+        list.add(mono);
+        list.add(6);
+        RenderSettings settings;
+        settings.filterIDs = &list;
+        QStringList steps;
+        const auto note = [&](const char* step) { steps += QString::fromLatin1(step); };
+        renderPhoto(samples::noise(8, 8), settings, note);
+        QCOMPARE(steps, QStringList({"Fit", "Mono", "1962", "Border"}));
+        steps.clear();
+        settings.asThumbnail = true;
+        settings.filter = mono;
+        renderPhoto(samples::noise(8, 8), settings, note);
+        QCOMPARE(steps, QStringList({"Fit", "Mono"}));
+    }
+
+    void noPhotoGivesNoPicture() { QVERIFY(render(QImage(), square, instant).isNull()); }
+};
+
+QTEST_GUILESS_MAIN(RenderPipelineTest)
+#include "RenderPipelineTest.moc"

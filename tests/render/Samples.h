@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QColor>
+#include <QImage>
+
+/// Pictures and files that the tests of this floor make for themselves.
+namespace samples {
+
+/// A picture of pixels that all differ from their neighbours, opaque, Format_RGBX8888.
+QImage noise(int width, int height, unsigned seed = 1);
+/// One colour all over, Format_RGBX8888.
+QImage flat(int width, int height, QColor colour);
+/// Four quarters in red (top left), green (top right), blue (bottom left) and white, Format_RGBX8888.
+QImage quarters(int width, int height);
+/// Whether a picture that may have been a JPEG shows the quarters in that size.
+bool showsQuarters(const QImage& image, QSize size);
+
+/// The bytes of a file in that format ("png", "jpeg", "bmp", ...), without loss where the format can.
+QByteArray encoded(const QImage& image, const char* format);
+
+enum class JpegKind { Colour, Grey, Cmyk, ManyScans };
+/// A JPEG of quality 100 written by libjpeg itself: `pixels` are rows of 3 (colour), 1 (grey) or 4 (CMYK, each 255
+/// minus its ink) bytes per pixel. ManyScans is a colour JPEG in 190 scans.
+QByteArray jpeg(JpegKind kind, int width, int height, const QByteArray& pixels, const QByteArray& icc = {});
+/// A JPEG file with EXIF of a camera: make, date, copyright, place, pixel size, the orientation and a thumbnail.
+QByteArray withCameraExif(const QByteArray& jpegFile, int orientation, bool bigEndian = false);
+
+/// The largest difference of two channel bytes; 256 for pictures of different sizes.
+int largestDifference(const QImage& a, const QImage& b);
+
+void writeFile(const QByteArray& path, const QByteArray& data);
+QByteArray readFile(const QByteArray& path);
+
+} // namespace samples
