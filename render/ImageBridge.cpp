@@ -5,7 +5,6 @@
 #include "render/OnWhite.h"
 #include "render/Resample.h"
 
-#include <QColorSpace>
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
@@ -130,9 +129,7 @@ QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height
     const std::size_t size = blockSize(width, height);
     for (std::size_t i = 3; i < size; i += 4)
         pixels[i] = 255;
-    QImage picture(pixels, width, height, qsizetype(width) * 4, QImage::Format_RGBX8888, freeBlock, pixels);
-    picture.setColorSpace(QColorSpace::SRgb);
-    return picture;
+    return QImage(pixels, width, height, qsizetype(width) * 4, QImage::Format_RGBX8888, freeBlock, pixels);
 }
 
 QImage NSImageFromCharImage(const CharImage* image)

@@ -5,6 +5,7 @@
 
 #include <QColorSpace>
 
+#include <QColorSpace>
 #include <memory>
 #include <utility>
 
@@ -58,5 +59,7 @@ QImage renderPhoto(const QImage& source, const RenderSettings& settings, const R
             image->addBorder(l, r, t, b, 255.0f, 255.0f, 255.0f);
         image->applyFilterBorder(settings.borderFilter, maxSide);
     }
-    return getImageRefFromRGBACharArray(std::exchange(image->data, nullptr), image->width, image->height);
+    QImage picture = getImageRefFromRGBACharArray(std::exchange(image->data, nullptr), image->width, image->height);
+    picture.setColorSpace(source.colorSpace());
+    return picture;
 }

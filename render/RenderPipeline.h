@@ -18,5 +18,6 @@ struct RenderSettings {
 using RenderProgress = std::function<void(const char* step)>;
 
 /// Renders a photo: crops and fits it, applies the filters and finishes the border. The one road of previews,
-/// thumbnails and saved files. `source` is not changed. A null source gives a null picture.
+/// thumbnails and saved files. `source` is not changed; the picture is in its colour space. A null source gives a null
+/// picture.
 QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {});
