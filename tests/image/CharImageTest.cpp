@@ -47,6 +47,15 @@ TEST(CharImage, CopiesAnEmptyImageToAnEmptyBlock)
     EXPECT_NE(copy.data, nullptr);
 }
 
+TEST(CharImage, CopiesOnItsOwn)
+{
+    const Picture picture = randomPicture(6, 4, 3);
+    const auto image = imageOf(picture);
+    const CharImage copy(*image);
+    std::fill_n(image->data, picture.pixels.size(), 0);
+    expectSame(copy, picture, "a copy does not follow its original");
+}
+
 TEST(CharImage, ExportsOneAsFourthByte)
 {
     const Picture picture = randomPicture(5, 3, 2);
@@ -55,6 +64,10 @@ TEST(CharImage, ExportsOneAsFourthByte)
     image->copyToRGBACharArray(out);
     for (int i = 0; i < 60; i++)
         EXPECT_EQ(out[i], i % 4 == 3 ? 1 : picture.pixels[i]);
+    unsigned char untouched[4] = {9, 9, 9, 9};
+    CharImage().copyToRGBACharArray(untouched);
+    for (unsigned char byte : untouched)
+        EXPECT_EQ(byte, 9);
 }
 
 TEST(CharImage, DrawsItsRandomTableFromRand)
@@ -81,6 +94,8 @@ namespace {
 const bool tableStartsAtZero =
     std::all_of(std::begin(CharImage::random), std::end(CharImage::random), [](float v) { return v == 0.0f; });
 const int variationAtStart = CharImage::useRandom;
+const int entriesAtStart = CharImage::customFilterFiltersA.maxThings + CharImage::customFilterFiltersB.maxThings
+    + CharImage::customFilterFiltersC.maxThings;
 
 } // namespace
 
@@ -88,5 +103,12 @@ TEST(CharImage, StartsWithAnEmptyTableAndTheVariationOn)
 {
     EXPECT_TRUE(tableStartsAtZero);
     EXPECT_EQ(variationAtStart, 1);
-    EXPECT_NE(CharImage::samplePixels, nullptr);
+    EXPECT_EQ(entriesAtStart, 0);
+}
+
+TEST(CharImage, KeepsAScratchBlock)
+{
+    ASSERT_NE(CharImage::samplePixels, nullptr);
+    std::fill_n(CharImage::samplePixels, 108, 1); // the sanitizer knows how long it is
+    EXPECT_EQ(CharImage::samplePixels[107], 1);
 }

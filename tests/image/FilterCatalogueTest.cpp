@@ -94,6 +94,20 @@ TEST_F(CustomLists, LeaveOutListsAndApplyTheRestInOrder)
     expectSame(*image, picture, "Mono, Lolo, Mono");
 }
 
+TEST_F(CustomLists, ApplyNumbersWithoutAnEffectToo)
+{
+    GrowArray<int> filters;
+    fill(filters, {14, 22, 99});
+    CharImage::setCustomFilterC(filters);
+    const Picture picture = randomPicture(9, 7, 4);
+    const auto image = imageOf(picture);
+    testing::internal::CaptureStdout();
+    image->applyFilter(13);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+        "applying original filter\napplying original filter\napplying original filter\n");
+    expectSame(*image, picture, "nothing but lines");
+}
+
 TEST_F(CustomLists, StandEachForItself)
 {
     GrowArray<int> filters;
@@ -103,7 +117,21 @@ TEST_F(CustomLists, StandEachForItself)
     CharImage::setCustomFilterC(filters);
     EXPECT_EQ(CharImage::customFilterFiltersA.numThings, 0);
     EXPECT_EQ(CharImage::customFilterFiltersB.theArray[0], 3);
+    EXPECT_EQ(CharImage::customFilterFiltersB.numThings, 1);
     EXPECT_EQ(CharImage::customFilterFiltersC.theArray[0], 8);
+    CharImage::useRandom = 0;
+    for (int filter : {12, 13}) {
+        Picture expected = randomPicture(40, 30, 6);
+        const auto image = imageOf(expected);
+        image->applyFilter(filter);
+        filter == 12 ? reference::magazine(expected) : reference::cinema(expected);
+        expectSame(*image, expected, std::to_string(filter));
+    }
+    fill(filters, {4});
+    CharImage::setCustomFilterB(filters); // replaces
+    EXPECT_EQ(CharImage::customFilterFiltersB.numThings, 1);
+    EXPECT_EQ(CharImage::customFilterFiltersB.maxThings, 2);
+    EXPECT_EQ(CharImage::customFilterFiltersB.theArray[0], 4);
     EXPECT_EQ(CharImage::customFilters(14), nullptr);
 }
 
@@ -113,7 +141,9 @@ TEST(TestPattern, MatchesItsTwin)
         Picture expected = sample.picture;
         reference::testPattern(expected);
         const auto image = imageOf(sample.picture);
+        testing::internal::CaptureStdout();
         image->applyFilter(16);
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
         expectSame(*image, expected, sample.name);
     }
 }
@@ -124,4 +154,16 @@ TEST(TestPattern, StartsAColumnAtTheBottom)
     image->applyFilter(16);
     for (int y = 0; y < 6; y++)
         EXPECT_EQ(image->data[4 * y], y == 5 ? 0 : 255);
+}
+
+TEST(TestPattern, PutsOneDotInEachColumn)
+{
+    // Heights of 0, 1.41, 2 and 2.58 of 4 pixels.
+    const int rows[] = {3, 2, 1, 1};
+    const auto image = imageOf(randomPicture(4, 4, 5));
+    image->applyFilter(16);
+    for (int y = 0; y < 4; y++)
+        for (int x = 0; x < 4; x++)
+            for (int k = 0; k < 3; k++)
+                EXPECT_EQ(image->data[4 * (4 * y + x) + k], rows[x] == y ? 0 : 255);
 }

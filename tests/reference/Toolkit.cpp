@@ -263,7 +263,7 @@ void smoothMap(std::vector<unsigned char>& map, int width, int height, int size,
                 const unsigned char v = map[std::size_t(y) * width + x];
                 unsigned char out = wrapped(sum);
                 if (threshold > 0) {
-                    const int d = std::abs(toInt(sum - float(v)));
+                    const long d = std::labs(toInt(sum - float(v)));
                     if (float(d) > threshold)
                         out = v;
                 }

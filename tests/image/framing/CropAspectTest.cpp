@@ -95,5 +95,7 @@ TEST(BestFit, TouchesTheTighterSide)
     EXPECT_EQ(fit(2000, 3000, 1000, 1000), (std::array<float, 2>{667, 1000}));
     EXPECT_EQ(fit(100, 100, 640, 480), (std::array<float, 2>{480, 480}));
     EXPECT_EQ(fit(4, 3, 400, 300), (std::array<float, 2>{400, 300}));
+    EXPECT_EQ(fit(2, 1, 101, 200), (std::array<float, 2>{101, 51})); // half up
+    EXPECT_EQ(fit(1, 2, 200, 101), (std::array<float, 2>{51, 101}));
     EXPECT_EQ(fit(3, 2, 100.5f, 200), (std::array<float, 2>{100.5f, 67})); // the touching side is not rounded
 }

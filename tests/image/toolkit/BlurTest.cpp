@@ -45,6 +45,39 @@ TEST(Blur, WeighsFourPixelsInQuarters)
     EXPECT_EQ(result.at(3, 0)[0], 12 + 25 + 12);
 }
 
+TEST(Blur, RisesToItsCentre)
+{
+    // The weights of size 7 and exponent 1 are 2, 4, 6, 7, 6, 4, 2 (half sevenths, the centre raised to 1) of their
+    // sum.
+    Picture dot = flatPicture(1, 9, 0, 0, 0);
+    dot.at(0, 4)[1] = 155;
+    const auto column = imageOf(dot);
+    column->makeBlurry(7, 1.0f);
+    const int weights[] = {0, 2, 4, 6, 7, 6, 4, 2, 0};
+    // One column: the horizontal pass meets the same byte at every tap and truncates each.
+    int across = 0;
+    for (int weight : weights)
+        across += 155 * weight / 31;
+    ASSERT_EQ(across, 155);
+    for (int y = 0; y < 9; y++)
+        EXPECT_NEAR(column->data[4 * y + 1], 5 * weights[y], 1) << y; // a third of a seventh has no exact float
+}
+
+TEST(Blur, RepeatsTheEdgePixels)
+{
+    // 1 x 1: three taps of a third of 100, each truncated, twice.
+    const Picture one = blurred(flatPicture(1, 1, 100, 200, 0), 3, 0.0f);
+    EXPECT_EQ(one.at(0, 0)[0], 3 * (3 * 33 / 3));
+    EXPECT_EQ(one.at(0, 0)[1], 3 * (3 * 66 / 3));
+    EXPECT_EQ(one.at(0, 0)[2], 0);
+    // 2 x 1 in quarters: the edge pixel counts for the tap beyond it.
+    Picture two = flatPicture(2, 1, 0, 0, 0);
+    two.at(1, 0)[0] = 160;
+    const Picture result = blurred(two, 4, 1.0f);
+    EXPECT_EQ(result.at(0, 0)[0], 40);
+    EXPECT_EQ(result.at(1, 0)[0], 120);
+}
+
 TEST(Blur, DarkensSlightly)
 {
     const Picture result = blurred(flatPicture(9, 9, 100, 100, 100), 7, 1.0f);
@@ -68,5 +101,18 @@ TEST(Blur, MatchesItsTwin)
             const auto image = imageOf(sample.picture);
             image->makeBlurry(kernel.size, kernel.exponent);
             expectSame(*image, expected, sample.name + ", size " + std::to_string(kernel.size));
+        }
+}
+
+TEST(Blur, MatchesItsTwinForEveryKernel)
+{
+    const Picture picture = randomPicture(61, 9, 12);
+    for (int size = 3; size <= 40; size++)
+        for (float exponent : {-1.0f, 0.3f, 0.5f, 1.0f, 1.5f, 2.0f, 3.0f, 40.0f}) {
+            Picture expected = picture;
+            reference::makeBlurry(expected, size, exponent);
+            const auto image = imageOf(picture);
+            image->makeBlurry(size, exponent);
+            expectSame(*image, expected, "size " + std::to_string(size) + ", exponent " + std::to_string(exponent));
         }
 }

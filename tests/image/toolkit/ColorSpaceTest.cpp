@@ -64,7 +64,7 @@ TEST(ColorSpace, MeasuresHsvHues)
 {
     EXPECT_EQ(hsv(255, 0, 0), (Three{0, 1, 1}));
     EXPECT_EQ(hsv(0, 0, 255).a, 240.0f);
-    EXPECT_EQ(hsv(255, 0, 1).a, hsv(255, 0, 1).a);
+    EXPECT_LT(hsv(255, 0, 1).a, 360.0f);
     EXPECT_GT(hsv(255, 0, 1).a, 359.0f);
     EXPECT_EQ(hsv(0, 0, 0), (Three{0, 0, 0}));
 }
@@ -74,6 +74,20 @@ TEST(ColorSpace, TurnsHsvBack)
     EXPECT_EQ(fromHsv(360, 1, 1), (Three{255, 0, 255}));
     for (float h : {-90.0f, 0.0f, 77.0f, 360.0f})
         EXPECT_EQ(fromHsv(h, 0, 0.5f), (Three{127.5f, 127.5f, 127.5f}));
+    const float halves[] = {255, 191.25f, 127.5f}; // v, the way between, p
+    const Three sextants[] = {{halves[0], halves[1], halves[2]}, {halves[1], halves[0], halves[2]},
+        {halves[2], halves[0], halves[1]}, {halves[2], halves[1], halves[0]}, {halves[1], halves[2], halves[0]},
+        {halves[0], halves[2], halves[1]}};
+    for (int i = 0; i < 6; i++) {
+        const Three rgb = fromHsv(60.0f * i + 30, 0.5f, 1);
+        EXPECT_NEAR(rgb.a, sextants[i].a, 1e-3) << i;
+        EXPECT_NEAR(rgb.b, sextants[i].b, 1e-3) << i;
+        EXPECT_NEAR(rgb.c, sextants[i].c, 1e-3) << i;
+    }
+    const Three below = fromHsv(-30, 0.5f, 1); // takes the last sextant, half of the way along
+    EXPECT_EQ(below.a, 255);
+    EXPECT_EQ(below.b, 127.5f);
+    EXPECT_NEAR(below.c, 191.25f, 1e-3);
 }
 
 TEST(ColorSpace, TurnsHslBack)
@@ -81,9 +95,11 @@ TEST(ColorSpace, TurnsHslBack)
     for (float h : {0.0f, 0.3f, 1.0f})
         for (float s : {0.0f, 0.5f, 1.0f})
             EXPECT_EQ(fromHsl(h, s, 0), (Three{0, 0, 0}));
-    EXPECT_EQ(fromHsl(-0.1f, 1, 0.5f).b, fromHsl(-0.1f, 1, 0.5f).b);
     EXPECT_EQ(fromHsl(-0.1f, 1, 0.5f).a, 255.0f); // just below 0 truncates to the first sextant
+    EXPECT_LT(fromHsl(-0.1f, 1, 0.5f).b, 0.0f);
     EXPECT_EQ(fromHsl(-0.2f, 1, 0.5f), (Three{127.5f, 127.5f, 127.5f}));
+    EXPECT_EQ(fromHsl(0, 1, 0.5f), (Three{255, 0, 0}));
+    EXPECT_EQ(fromHsl(0.5f, 1, 0.5f), (Three{0, 255, 255}));
 }
 
 TEST(ColorSpace, ReadsBeforeItWrites)
@@ -91,6 +107,9 @@ TEST(ColorSpace, ReadsBeforeItWrites)
     float values[3] = {10, 200, 30};
     rgbToHsl(values, &values[2], &values[0], &values[1]);
     EXPECT_EQ((Three{values[2], values[0], values[1]}), hsl(10, 200, 30));
+    float others[3] = {10, 200, 30};
+    rgbToHsv(others, &others[2], &others[0], &others[1]);
+    EXPECT_EQ((Three{others[2], others[0], others[1]}), hsv(10, 200, 30));
 }
 
 TEST(ColorSpace, MatchesItsTwin)
@@ -104,12 +123,8 @@ TEST(ColorSpace, MatchesItsTwin)
         Three expected;
         reference::rgbToHsl(r, g, b, &expected.a, &expected.b, &expected.c);
         ASSERT_EQ(hsl(r, g, b), expected) << r << " " << g << " " << b;
-        if (r != 0 || g != 0 || b != 0) {
-            reference::rgbToHsv(r, g, b, &expected.a, &expected.b, &expected.c);
-            if (expected.c != 0) {
-                ASSERT_EQ(hsv(r, g, b), expected) << r << " " << g << " " << b;
-            }
-        }
+        reference::rgbToHsv(r, g, b, &expected.a, &expected.b, &expected.c);
+        ASSERT_EQ(hsv(r, g, b), expected) << r << " " << g << " " << b;
         const float s = unit(generator), l = unit(generator), h = unit(generator), d = degrees(generator);
         float rgb[3];
         reference::hslToRgb(h, s, l, rgb);
@@ -117,4 +132,21 @@ TEST(ColorSpace, MatchesItsTwin)
         reference::hsvToRgb(d, s, l, rgb);
         ASSERT_EQ(fromHsv(d, s, l), (Three{rgb[0], rgb[1], rgb[2]})) << d << " " << s << " " << l;
     }
+}
+
+TEST(ColorSpace, MatchesItsTwinOnALatticeOfBytes)
+{
+    // Steps of 5 meet every tie of two channels, and both ends.
+    for (int r = 0; r < 256; r += 5)
+        for (int g = 0; g < 256; g += 5)
+            for (int b = 0; b < 256; b += 5) {
+                Three expected;
+                reference::rgbToHsl(float(r), float(g), float(b), &expected.a, &expected.b, &expected.c);
+                float rgb[3] = {float(r), float(g), float(b)};
+                Three got;
+                rgbToHsl(rgb, &got.a, &got.b, &got.c);
+                ASSERT_EQ(got, expected) << r << " " << g << " " << b;
+                reference::rgbToHsv(float(r), float(g), float(b), &expected.a, &expected.b, &expected.c);
+                ASSERT_EQ(hsv(float(r), float(g), float(b)), expected) << r << " " << g << " " << b;
+            }
 }

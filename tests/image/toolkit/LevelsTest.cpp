@@ -37,6 +37,37 @@ TEST(Levels, SamplesNothingUpToElevenPixels)
         EXPECT_EQ(histogram.numThings, 0);
         EXPECT_EQ(minLum, 0);
     }
+    GrowArray<int> histogram;
+    int minLum = -1;
+    imageOf(flatPicture(12, 1, 90, 90, 90))->getHistogram(&histogram, &minLum);
+    EXPECT_EQ(histogram.numThings, 91);
+    EXPECT_EQ(minLum, 90);
+}
+
+TEST(Levels, SplitsATinyPictureIntoBlackAndTheCeiling)
+{
+    // Nothing is sampled, so both cut-offs are 0 and the scale is infinite: 0 x infinity is stored as 0.
+    Picture picture = flatPicture(11, 1, 0, 0, 0);
+    for (int x = 1; x < 11; x++)
+        picture.at(x, 0)[1] = static_cast<unsigned char>(x);
+    const auto image = imageOf(picture);
+    image->fillHistogram(0.01f, 0.01f, 0, 240, true, true);
+    for (int x = 0; x < 11; x++) {
+        EXPECT_EQ(image->data[4 * x], 0);
+        EXPECT_EQ(image->data[4 * x + 1], x == 0 ? 0 : 240);
+        EXPECT_EQ(image->data[4 * x + 3], picture.at(x, 0)[3]);
+    }
+}
+
+TEST(Levels, BlackensAFlatPicture)
+{
+    // The cut-offs are v - 1 and v, so the scale is finite; the offsets take v off twice.
+    for (int v : {1, 2, 100, 255}) {
+        const auto image = imageOf(flatPicture(12, 1, v, v, v));
+        image->fillHistogram(0.01f, 0.01f, 0, 255, true, true);
+        for (int x = 0; x < 12; x++)
+            EXPECT_EQ(image->data[4 * x], 0) << v;
+    }
 }
 
 TEST(Levels, SamplesEveryTenthPixelButTheLastEleven)
@@ -92,6 +123,19 @@ TEST(Levels, TakesAFractionAboveOneAsTheFirstBin)
 {
     // The bright cut-off is then 0 as well: the scale is infinite, and everything above the offset is white.
     EXPECT_EQ(levelOf(row(31, {0, 100}, 70), 1, 0.0f, 1.5f, 0, 255, true, true), 255);
+}
+
+TEST(Levels, CountAsTheirTwin)
+{
+    for (const NamedPicture& sample : samplePictures()) {
+        int expectedMinimum = -1, minimum = -1;
+        const std::vector<int> expected = reference::histogram(sample.picture, &expectedMinimum);
+        GrowArray<int> histogram;
+        imageOf(sample.picture)->getHistogram(&histogram, &minimum);
+        EXPECT_EQ(minimum, expectedMinimum) << sample.name;
+        EXPECT_EQ(std::vector<int>(histogram.theArray, histogram.theArray + histogram.numThings), expected)
+            << sample.name;
+    }
 }
 
 TEST(Levels, MatchTheirTwin)

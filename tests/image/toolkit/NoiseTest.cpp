@@ -5,16 +5,38 @@
 #include <gtest/gtest.h>
 #include <set>
 
+namespace {
+
+struct Speck {
+    int x, y, offset;
+};
+
+/// What the next speck of an image draws, with `rand()` put back to `seed`.
+Speck speckOf(unsigned seed, int width, int height, int amplitude)
+{
+    std::srand(seed);
+    const int x = std::rand() % width, y = std::rand() % height, n = std::rand() % amplitude;
+    std::srand(seed);
+    return {x, y, int(n - amplitude * 0.5)};
+}
+
+} // namespace
+
 TEST(Noise, WrapsRound)
 {
-    // Amplitude 40 reaches offsets of -20 .. 19: at 250 some speck wraps to dark.
-    std::srand(1);
-    const auto image = imageOf(flatPicture(30, 30, 250, 250, 250));
-    image->addNoise(200, 1, 40);
-    bool wrapped = false;
-    for (int i = 0; i < 900; i++)
-        wrapped |= image->data[4 * i] < 14;
-    EXPECT_TRUE(wrapped);
+    // Amplitude 40 draws offsets of -20 .. 19; every one of them is met.
+    std::set<int> met;
+    for (unsigned seed = 0; met.size() < 40 && seed < 5000; seed++) {
+        const int offset = speckOf(seed, 1, 1, 40).offset;
+        met.insert(offset);
+        const auto image = imageOf(flatPicture(1, 1, 250, 5, 128));
+        image->addNoise(1, 1, 40);
+        EXPECT_EQ(image->data[0], (250 + offset) % 256); // 10 more than 250 is 4
+        EXPECT_EQ(image->data[1], (256 + 5 + offset) % 256);
+        EXPECT_EQ(image->data[2], 128 + offset);
+    }
+    EXPECT_EQ(met.size(), 40u);
+    EXPECT_TRUE(met.contains(10));
 }
 
 TEST(Noise, IsLopsidedForAnOddAmplitude)
@@ -32,14 +54,13 @@ TEST(Noise, IsLopsidedForAnOddAmplitude)
 TEST(Noise, ChangesOnePixelPerSpeckOfSizeOne)
 {
     for (unsigned seed = 0; seed < 20; seed++) {
-        std::srand(seed);
-        const Picture picture = flatPicture(20, 20, 100, 100, 100);
-        const auto image = imageOf(picture);
+        Picture expected = flatPicture(20, 15, 100, 101, 102);
+        const auto image = imageOf(expected);
+        const Speck speck = speckOf(seed, 20, 15, 100);
         image->addNoise(1, 1, 100);
-        int changed = 0;
-        for (int i = 0; i < 400; i++)
-            changed += image->data[4 * i] != 100;
-        EXPECT_LE(changed, 1);
+        for (int k = 0; k < 3; k++)
+            expected.at(speck.x, speck.y)[k] = static_cast<unsigned char>(100 + k + speck.offset);
+        expectSame(*image, expected, "seed " + std::to_string(seed));
     }
 }
 
@@ -55,14 +76,19 @@ TEST(Noise, DrawsButPaintsNothingWithoutASize)
     image->addNoise(2, 0, 10);
     expectSame(*image, picture, "size 0");
     EXPECT_EQ(std::rand(), next);
+    std::srand(3);
+    const int first = std::rand();
+    std::srand(3);
     image->addNoise(0, 5, 10);
-    expectSame(*image, picture, "count 0");
+    image->addNoise(-2, 5, 10);
+    expectSame(*image, picture, "no specks");
+    EXPECT_EQ(std::rand(), first);
 }
 
 TEST(Noise, MatchesItsTwin)
 {
     for (const NamedPicture& sample : samplePictures())
-        for (int size : {1, 2, 5, 40}) {
+        for (int size : {-3, 1, 2, 5, 40}) {
             Picture expected = sample.picture;
             std::srand(unsigned(size));
             reference::addNoise(expected, 50, size, 90);
