@@ -15,34 +15,13 @@
 
 namespace {
 
-quint32 crc32(const QByteArray& data)
-{
-    quint32 crc = 0xFFFFFFFF;
-    for (const char byte : data) {
-        crc ^= static_cast<unsigned char>(byte);
-        for (int bit = 0; bit < 8; bit++)
-            crc = crc & 1 ? crc >> 1 ^ 0xEDB88320 : crc >> 1;
-    }
-    return ~crc;
-}
-
-template <class T> QByteArray bigEndian(T value)
-{
-    QByteArray bytes(sizeof(T), 0);
-    qToBigEndian(value, bytes.data());
-    return bytes;
-}
+using samples::bigEndian, samples::pngChunk;
 
 template <class T> QByteArray littleEndian(T value)
 {
     QByteArray bytes(sizeof(T), 0);
     qToLittleEndian(value, bytes.data());
     return bytes;
-}
-
-QByteArray pngChunk(const QByteArray& type, const QByteArray& data)
-{
-    return bigEndian(quint32(data.size())) + type + data + bigEndian(crc32(type + data));
 }
 
 /// A PNG of grey levels of `depth` bits; `packed` is its picture data for zlib.

@@ -136,6 +136,17 @@ QByteArray withCameraExif(const QByteArray& jpegFile, int orientation, bool bigE
     return QByteArray(reinterpret_cast<const char*>(io.mmap()), qsizetype(io.size()));
 }
 
+QByteArray pngChunk(const QByteArray& type, const QByteArray& data)
+{
+    quint32 checksum = 0xFFFFFFFF;
+    for (const char byte : type + data) {
+        checksum ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; bit++)
+            checksum = checksum & 1 ? checksum >> 1 ^ 0xEDB88320 : checksum >> 1;
+    }
+    return bigEndian(quint32(data.size())) + type + data + bigEndian(~checksum);
+}
+
 int largestDifference(const QImage& a, const QImage& b)
 {
     if (a.size() != b.size())

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QColor>
 #include <QImage>
+#include <QtEndian>
 
 /// Pictures and files that the tests of this floor make for themselves.
 namespace samples {
@@ -25,6 +26,15 @@ enum class JpegKind { Colour, Grey, Cmyk, ManyScans };
 QByteArray jpeg(JpegKind kind, int width, int height, const QByteArray& pixels, const QByteArray& icc = {});
 /// A JPEG file with EXIF of a camera: make, date, copyright, place, pixel size, the orientation and a thumbnail.
 QByteArray withCameraExif(const QByteArray& jpegFile, int orientation, bool bigEndian = false);
+
+template <class T> QByteArray bigEndian(T value)
+{
+    QByteArray bytes(sizeof(T), 0);
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+/// A chunk of a PNG file with its length and checksum.
+QByteArray pngChunk(const QByteArray& type, const QByteArray& data);
 
 /// The largest difference of two channel bytes; 256 for pictures of different sizes.
 int largestDifference(const QImage& a, const QImage& b);
