@@ -114,6 +114,7 @@ private slots:
         QVERIFY(mkdir(folder.constData(), 0755) == 0);
         samples::writeFile(folder + "/photo.png", samples::encoded(samples::noise(5, 4), "png"));
         QVERIFY(!loadPhoto(folder + "/photo.png").image.isNull());
+        QVERIFY(unlink((folder + "/photo.png").constData()) == 0 && rmdir(folder.constData()) == 0);
     }
 
     void formatsAreToldByContent_data()
