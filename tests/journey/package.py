@@ -1,0 +1,50 @@
+#!/usr/bin/python3
+"""The Debian package: made, unpacked into an empty folder, and run from there with its help and its icons."""
+
+import glob
+import os
+import subprocess
+import sys
+
+from desk import key, wait_for
+from lumora import Lumora
+
+build, photo = sys.argv[1:3]
+home = os.environ["HOME"]
+made, root = os.path.join(home, "made"), os.path.join(home, "root")
+
+subprocess.run(["cpack", "--config", os.path.join(build, "CPackConfig.cmake"), "-B", made], check=True,
+               stdout=subprocess.DEVNULL)
+(package,) = glob.glob(os.path.join(made, "lumora_*.deb"))
+subprocess.run(["dpkg-deb", "--extract", package, root], check=True)
+
+depends = subprocess.check_output(["dpkg-deb", "--field", package, "Depends"], text=True)
+for library in ("libqt6widgets6", "libqt6gui6", "libexiv2", "libc6"):
+    assert library in depends, (library, depends)
+
+share = os.path.join(root, "usr", "share")
+help_document = os.path.join(share, "lumora", "help.pdf")
+for path in ("applications/dovrel.lumora.desktop", "metainfo/dovrel.lumora.metainfo.xml", "lumora/help.pdf",
+             "icons/hicolor/scalable/apps/dovrel.lumora.svg", "icons/hicolor/48x48/apps/dovrel.lumora.png",
+             "icons/hicolor/128x128/apps/dovrel.lumora.png", "icons/hicolor/256x256/apps/dovrel.lumora.png"):
+    assert os.path.getsize(os.path.join(share, path)) > 0, path
+with open(help_document, "rb") as document:
+    assert document.read(5) == b"%PDF-"
+
+# A desktop's viewer that only writes down what it was asked to open.
+asked = os.path.join(home, "asked")
+viewer = os.path.join(home, "bin", "xdg-open")
+os.mkdir(os.path.dirname(viewer))
+with open(viewer, "w") as script:
+    script.write(f'#!/bin/sh\nprintf %s "$1" >"{asked}.new"; mv "{asked}.new" "{asked}"\n')
+os.chmod(viewer, 0o755)
+os.environ["PATH"] = os.path.dirname(viewer) + ":" + os.environ["PATH"]
+
+with Lumora(build, photo, program=os.path.join(root, "usr", "bin", "lumora")) as lumora:
+    lumora.wait_for_title("Lumora - " + os.path.basename(photo))
+    key("F1")
+    wait_for("the viewer to be asked", lambda: os.path.exists(asked))
+    with open(asked) as answer:
+        opened = answer.read()
+    assert os.path.realpath(opened.removeprefix("file://")) == os.path.realpath(help_document), opened
+    lumora.quit()
