@@ -50,6 +50,8 @@ public:
     static const char* getFilterName(int filter);
     /// The lowest number of that exact name, 14 ("Original") for a name that is not in the catalogue.
     static int getFilterFromName(const char* name);
+    /// The numbers of all looks in the order of the catalogue: no list, crop, border or test.
+    static GrowArray<int> getLooks();
     /// Replaces a custom list. Entries 11, 12 and 13 are left out, so that a list never contains a list.
     static void setCustomFilterA(const GrowArray<int>& filters);
     static void setCustomFilterB(const GrowArray<int>& filters);

@@ -50,6 +50,7 @@ constexpr Entry catalogue[] = {
 constexpr int catalogueSize = sizeof catalogue / sizeof catalogue[0];
 constexpr int original = 14;
 constexpr int unnamed = 15;
+constexpr int testPattern = 16;
 
 const Entry& entryOf(int filter)
 {
@@ -88,6 +89,15 @@ int CharImage::getFilterFromName(const char* name)
         if (std::strcmp(name, catalogue[i].name) == 0)
             return i;
     return original;
+}
+
+GrowArray<int> CharImage::getLooks()
+{
+    GrowArray<int> looks;
+    for (int i = 0; i < catalogueSize; i++)
+        if (catalogue[i].apply != &CharImage::applyOriginalFilter && i != testPattern && !customFilters(i))
+            looks.add(i);
+    return looks;
 }
 
 void CharImage::setCustomFilterA(const GrowArray<int>& filters)

@@ -1,0 +1,147 @@
+#include "app/MainWindowController.h"
+#include "app/Rules.h"
+#include "image/CharImage.h"
+#include "render/RenderPipeline.h"
+#include "ui_MainWindow.h"
+
+#include <QAction>
+
+void MainWindowController::addAppliedFilter(int filter)
+{
+    filterIDs.addOnce(filter);
+    showAppliedFilters();
+}
+
+void MainWindowController::removeAppliedFilter(int filter)
+{
+    const int index = filterIDs.find(filter);
+    if (index >= 0)
+        filterIDs.removeAt(index);
+    showAppliedFilters();
+}
+
+void MainWindowController::toggleAppliedFilter(int filter)
+{
+    if (filterIDs.find(filter) >= 0)
+        removeAppliedFilter(filter);
+    else
+        addAppliedFilter(filter);
+}
+
+void MainWindowController::removeAllFilters()
+{
+    filterIDs.clear();
+    showAppliedFilters();
+}
+
+void MainWindowController::removeOtherFilters(int filter)
+{
+    const bool applied = filterIDs.find(filter) >= 0;
+    removeAllFilters();
+    if (applied)
+        addAppliedFilter(filter);
+}
+
+void MainWindowController::pressFilterButton(int filter)
+{
+    const Work work(*this, stepsOfRender() + 1, takesLong(originalDisplay));
+    if (!work)
+        return showAppliedFilters();
+    if (!doMultiFiltering)
+        removeOtherFilters(filter);
+    toggleAppliedFilter(filter);
+    applyMultipleFilters();
+}
+
+void MainWindowController::applyOriginalFilter()
+{
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (!work)
+        return showAppliedFilters();
+    removeAllFilters();
+    applyMultipleFilters();
+}
+
+void MainWindowController::applyMultipleFilters()
+{
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (work && !originalImage.isNull())
+        ui->mainImageView->setImage(saveMultipleFilters(true));
+}
+
+QImage MainWindowController::saveMultipleFilters(bool preview)
+{
+    filtersAppliedImage = preview ? originalDisplay : originalImage;
+    filtersAppliedImage = filterNSImage(filtersAppliedImage, -1, false);
+    return filtersAppliedImage;
+}
+
+QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail)
+{
+    updateFromSettings();
+    RenderSettings settings;
+    settings.filter = usingFilter;
+    settings.filterIDs = &filterIDs;
+    settings.cropFilter = cropFilter;
+    settings.borderFilter = borderFilter;
+    settings.asThumbnail = asThumbnail;
+    return renderPhoto(image, settings, [this](const char* step) { showStep(QString::fromUtf8(step)); });
+}
+
+void MainWindowController::updateBreadcrumb()
+{
+    const QString text = breadcrumb(filterIDs, doMultiFiltering);
+    ui->filtersText->setText(text);
+    ui->filtersText->setToolTip(text);
+}
+
+void MainWindowController::multiFilterToggled()
+{
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (!work)
+        return;
+    doMultiFiltering = ui->chkMultiFilter->isChecked();
+    if (!doMultiFiltering) {
+        // Only the look that was added last stays.
+        const bool any = filterIDs.numThings > 0;
+        const int last = any ? filterIDs.theArray[filterIDs.numThings - 1] : -1;
+        removeAllFilters();
+        if (any)
+            addAppliedFilter(last);
+        applyMultipleFilters();
+    }
+    updateBreadcrumb();
+}
+
+void MainWindowController::useRandomToggled()
+{
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (!work)
+        return;
+    CharImage::useRandom = ui->chkRandomness->isChecked() ? 1 : 0;
+    settingChanged();
+    updateThumbnailImages();
+}
+
+void MainWindowController::reExpose()
+{
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (!work)
+        return;
+    CharImage::renewRandomNumbers();
+    ui->chkRandomness->setChecked(true);
+    CharImage::useRandom = 1;
+    settingChanged();
+    updateThumbnailImages();
+}
+
+/// Buttons and menu entries show which looks are in the list; "Original" stands for an empty one.
+void MainWindowController::showAppliedFilters()
+{
+    for (QAction* action : lookActions) {
+        const int filter = action->data().toInt();
+        action->setChecked(filter == 14 ? filterIDs.numThings == 0 : filterIDs.find(filter) >= 0);
+    }
+    for (int i = 0; i < filterButtons.numThings; i++)
+        filterButtons.theArray[i]->setChecked(lookActions[i]->isChecked());
+}

@@ -1,0 +1,136 @@
+#include "app/MainWindowController.h"
+#include "app/Rules.h"
+#include "render/PhotoLoader.h"
+#include "render/PhotoSaver.h"
+#include "ui_MainWindow.h"
+
+#include <QFileDialog>
+#include <QTransform>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr qint64 largeFile = 2'000'000; ///< bytes; a smaller one is decoded in a moment
+
+QImage scaledTo(const QImage& image, const QSize& size)
+{
+    return image.size() == size ? image : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+bool MainWindowController::openFile(const QByteArray& path)
+{
+    if (loadImageFromFile(path))
+        return true;
+    if (!refusal.isEmpty())
+        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), refusal);
+    return false;
+}
+
+bool MainWindowController::loadImageFromFile(const QByteArray& path)
+{
+    refusal.clear();
+    const Work work(*this, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
+    if (!work)
+        return false;
+    qInfo("%s", path.constData());
+    showStep(tr("Decode"));
+    LoadedPhoto photo = loadPhoto(path);
+    if (photo.image.isNull()) {
+        refusal = photo.reason;
+        return false;
+    }
+    originalExif = photo.exif;
+    setoriginalImage(photo.image);
+    updateThumbnailImages();
+    setCurrentFile(path);
+    applyMultipleFilters();
+    return true;
+}
+
+void MainWindowController::setCurrentFile(const QByteArray& path)
+{
+    currentFilePath = path;
+    currentFileName = fileNameOf(path);
+    // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
+    const QString name = shownName(currentFileName).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    setWindowTitle(QStringLiteral("Lumora - ") + name);
+}
+
+void MainWindowController::setoriginalImage(const QImage& image)
+{
+    originalImage = image;
+    const QSize size = image.size();
+    originalDisplay = scaledTo(image, bitmapSize(displaySize(size, displayRes)));
+    // Points of a sharp screen are several pixels.
+    originalThumb = scaledTo(image, bitmapSize(thumbnailSize(size) * devicePixelRatioF()));
+    ui->mainImageView->setComparedImage(originalDisplay);
+}
+
+QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
+{
+    const QSizeF size = exportSize(image.size(), maxSide);
+    image = scaledTo(image, bitmapSize(size));
+    return size;
+}
+
+QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
+{
+    // The platform's y axis points down, so that its positive angles turn clockwise.
+    return image.transformed(QTransform().rotate(-double(degrees)));
+}
+
+void MainWindowController::rotateImageRight()
+{
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (!work || originalImage.isNull())
+        return;
+    setoriginalImage(rotateNSImage(originalImage, -90.0f));
+    applyMultipleFilters();
+    updateThumbnailImages();
+}
+
+void MainWindowController::rotateImageLeft()
+{
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (!work || originalImage.isNull())
+        return;
+    setoriginalImage(rotateNSImage(originalImage, 90.0f));
+    applyMultipleFilters();
+    updateThumbnailImages();
+}
+
+void MainWindowController::flattenImage()
+{
+    const Work work(*this, stepsOfRender() + 2, takesLong(originalImage));
+    if (!work || originalImage.isNull())
+        return;
+    setoriginalImage(saveMultipleFilters(false));
+    applyOriginalFilter();
+    updateThumbnailImages();
+}
+
+void MainWindowController::saveFilteredImage()
+{
+    const Work work(*this, stepsOfRender() + 1, takesLong(originalImage));
+    if (!work || originalImage.isNull())
+        return;
+    QImage render = saveMultipleFilters(false);
+    QSizeF size = render.size();
+    if (imgOutputSize > -1)
+        size = downsizeNSImage(render, imgOutputSize);
+    std::printf("downsizing image to %i, ended with %f %f\n", imgOutputSize, size.width(), size.height());
+    showStep(tr("Encode"));
+    const QByteArray jpeg = encodeJpeg(render, originalExif);
+    if (jpeg.isEmpty())
+        return openModalSheetWithText(tr("The photo cannot be saved."),
+            tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));
+    const QByteArray path = askWhereToSave();
+    QString reason;
+    if (!path.isEmpty() && !writeFileAtomically(path, jpeg, &reason)) {
+        qWarning("didn't work!");
+        qWarning("%s: %s", path.constData(), qUtf8Printable(reason));
+    }
+}

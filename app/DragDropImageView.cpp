@@ -1,0 +1,149 @@
+#include "app/DragDropImageView.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QUrl>
+#include <cmath>
+
+namespace {
+
+/// The paths of the files that a drag carries, byte for byte as the file system has them.
+QByteArrayList filePaths(const QMimeData* content)
+{
+    QByteArrayList paths;
+    for (const QUrl& url : content->urls())
+        if (url.isLocalFile())
+            paths << QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+    return paths;
+}
+
+} // namespace
+
+DragDropImageView::DragDropImageView(QWidget* parent)
+    : QWidget(parent)
+{
+    setAcceptDrops(true);
+}
+
+void DragDropImageView::setImage(const QImage& image)
+{
+    rendered = image;
+    update();
+}
+
+void DragDropImageView::setComparedImage(const QImage& image)
+{
+    compared = image;
+    if (comparing)
+        update();
+}
+
+void DragDropImageView::setComparing(bool on)
+{
+    if (comparing == on)
+        return;
+    comparing = on;
+    update();
+}
+
+const QImage& DragDropImageView::shownImage() const
+{
+    return comparing && !compared.isNull() ? compared : rendered;
+}
+
+QSize DragDropImageView::shownPixels() const
+{
+    const QSize room = (QSizeF(size()) * devicePixelRatioF()).toSize();
+    const QSize pixels = shownImage().size();
+    if (pixels.width() <= room.width() && pixels.height() <= room.height())
+        return pixels;
+    return pixels.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+QRectF DragDropImageView::imageRect() const
+{
+    // On whole pixels of the screen, so that the picture is painted as it is.
+    const qreal ratio = devicePixelRatioF();
+    const QSizeF shown = QSizeF(shownPixels()) / ratio;
+    const auto snapped = [ratio](qreal v) { return std::floor(v * ratio) / ratio; };
+    return {QPointF(snapped((width() - shown.width()) / 2), snapped((height() - shown.height()) / 2)), shown};
+}
+
+const QImage& DragDropImageView::fitted()
+{
+    const QImage& shown = shownImage();
+    Fitted& fit = fittedImages[comparing];
+    if (fit.of != shown.cacheKey() || fit.image.size() != shownPixels()) {
+        fit.of = shown.cacheKey();
+        fit.image = shown.size() == shownPixels()
+            ? shown
+            : shown.scaled(shownPixels(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    return fit.image;
+}
+
+Qt::DropAction DragDropImageView::draggingEntered(const QMimeData* content, Qt::DropActions allowed) const
+{
+    const bool mayCopy = allowed & (Qt::LinkAction | Qt::CopyAction);
+    return mayCopy && !filePaths(content).isEmpty() ? Qt::CopyAction : Qt::IgnoreAction;
+}
+
+bool DragDropImageView::performDragOperation(const QMimeData* content)
+{
+    const QByteArrayList paths = filePaths(content);
+    return !paths.isEmpty() && dropDelegate && dropDelegate->loadImageFromFile(paths.first());
+}
+
+QSize DragDropImageView::sizeHint() const
+{
+    return {800, 500};
+}
+
+void DragDropImageView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (shownImage().isNull()) {
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("Drop a photo here, or open one."));
+    } else {
+        painter.drawImage(imageRect(), fitted());
+    }
+    if (hasFocus()) {
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void DragDropImageView::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (draggingEntered(event->mimeData(), event->possibleActions()) == Qt::IgnoreAction) {
+        event->ignore();
+        return;
+    }
+    // A source that only links is told so; the file is read all the same.
+    event->setDropAction(event->possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
+    event->accept();
+}
+
+void DragDropImageView::dropEvent(QDropEvent* event)
+{
+    if (!performDragOperation(event->mimeData())) {
+        event->setDropAction(Qt::IgnoreAction);
+        event->ignore();
+        return;
+    }
+    event->setDropAction(event->possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
+    event->accept();
+}
+
+void DragDropImageView::mousePressEvent(QMouseEvent* event)
+{
+    setComparing(event->buttons() & Qt::LeftButton);
+}
+
+void DragDropImageView::mouseReleaseEvent(QMouseEvent* event)
+{
+    setComparing(event->buttons() & Qt::LeftButton);
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QWidget>
+
+class QMimeData;
+
+/// Takes dropped files.
+class DropDelegate {
+public:
+    virtual ~DropDelegate() = default;
+    /// True when the file of that path (any bytes) was taken.
+    virtual bool loadImageFromFile(const QByteArray& path) = 0;
+};
+
+/// The preview: shows a picture fitted and never enlarged, a pixel of the picture being a pixel of the screen at the
+/// most, and accepts files dropped on it. While the mouse is held on it, or comparing is set, it shows another picture:
+/// the photo as it came.
+class DragDropImageView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit DragDropImageView(QWidget* parent = nullptr);
+
+    QImage image() const { return rendered; }
+    void setImage(const QImage& image);
+    /// What is shown while comparing.
+    void setComparedImage(const QImage& image);
+    void setComparing(bool on);
+    /// The picture that is shown now.
+    const QImage& shownImage() const;
+    /// Where the picture stands, in the coordinates of the widget.
+    QRectF imageRect() const;
+
+    DropDelegate* delegate() const { return dropDelegate; }
+    void setDelegate(DropDelegate* delegate) { dropDelegate = delegate; } ///< not owned
+
+    bool isEditable() const { return false; }
+    bool allowsCutCopyPaste() const { return false; }
+
+    /// What a drag of that content may do here: copy, or nothing.
+    Qt::DropAction draggingEntered(const QMimeData* content, Qt::DropActions allowed) const;
+    /// Hands the first file of a drop to the delegate; true when it was taken.
+    bool performDragOperation(const QMimeData* content);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    /// A picture scaled to the widget, kept between two paintings.
+    struct Fitted {
+        qint64 of = 0; ///< cache key of the picture
+        QImage image;
+    };
+    QSize shownPixels() const;
+    const QImage& fitted();
+
+    QImage rendered, compared;
+    Fitted fittedImages[2]; ///< of the render and of the compared picture
+    bool comparing = false;
+    DropDelegate* dropDelegate = nullptr;
+};

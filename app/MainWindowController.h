@@ -1,0 +1,169 @@
+#pragma once
+
+#include "app/DragDropImageView.h"
+#include "core/GrowArray.h"
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QTimer>
+#include <memory>
+
+class QAction;
+class QFileDialog;
+class QToolButton;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The one controller: owns the window and everything of the document. Its definitions are grouped by concern:
+/// Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp, Document.cpp, Panels.cpp and Work.cpp. The rules that need
+/// no window are in Rules.h.
+class MainWindowController : public QMainWindow, public DropDelegate {
+    Q_OBJECT
+
+public:
+    MainWindowController();
+    ~MainWindowController() override;
+
+    // ---- Options ----
+    int cropFilter = 14; ///< filter number whose crop is applied; 14: none
+    int borderFilter = 14; ///< filter number whose border is drawn; 14: none
+    int imgOutputSize = -1; ///< longest side of the exported picture in pixels; -1: the photo's own
+    bool doMultiFiltering = false; ///< follows the check box at each render and at each click on it
+    void loadOptions();
+    void saveOptions() const;
+    /// Reads the options from their controls; every render begins with it.
+    void updateFromSettings();
+
+    // ---- Applied looks ----
+    GrowArray<int> filterIDs; ///< distinct filter numbers in the order in which they were switched on
+    void addAppliedFilter(int filter);
+    void removeAppliedFilter(int filter);
+    void toggleAppliedFilter(int filter);
+    void removeAllFilters();
+    void removeOtherFilters(int filter);
+    /// One look in single mode, a stack of looks in multi mode; renders the preview.
+    void pressFilterButton(int filter);
+    void applyMultipleFilters();
+    /// Renders the applied list on the display copy (`preview`) or on the full-size photo; null without a photo.
+    QImage saveMultipleFilters(bool preview);
+    void updateBreadcrumb();
+    /// One render: reads the options, then crops, fits, filters and frames. Filter -1 applies the whole list.
+    QImage filterNSImage(const QImage& image, int usingFilter, bool asThumbnail);
+
+    // ---- Document ----
+    int displayRes = 800; ///< longest side of the display copy, in pixels of the screen
+    const QImage& getoriginalImage() const { return originalImage; }
+    const QImage& getoriginalDisplay() const { return originalDisplay; }
+    const QImage& getoriginalThumb() const { return originalThumb; }
+    const QImage& getFiltersAppliedImage() const { return filtersAppliedImage; }
+    void setFiltersAppliedImage(const QImage& image) { filtersAppliedImage = image; }
+    void setoriginalImage(const QImage& image);
+    /// True when the file of that path (any bytes) was taken as the new photo; otherwise nothing changes.
+    bool loadImageFromFile(const QByteArray& path) override;
+    /// A file handed over by the desktop: as loadImageFromFile, and a sheet names the reason when it is refused.
+    bool openFile(const QByteArray& path);
+    /// The same as soon as the window has been painted.
+    void openFileWhenShown(const QByteArray& path) { fileWhenShown = path; }
+    /// Scales to the longer side `maxSide`, also upwards; gives the exact size before it was rounded to pixels.
+    static QSizeF downsizeNSImage(QImage& image, int maxSide);
+    /// A copy turned by quarter turns; positive degrees turn counter-clockwise.
+    static QImage rotateNSImage(const QImage& image, float degrees);
+
+    // ---- Window ----
+    GrowArray<QToolButton*> filterButtons; ///< the ten look buttons in their order
+    void updateThumbnailImages();
+    void windowDidResize();
+    /// A sheet with a title, a text and "OK". Both are plain text.
+    void openModalSheetWithText(const QString& text, const QString& auxText);
+
+public slots:
+    void applyOriginalFilter();
+    void applyHelgaFilter() { pressFilterButton(1); }
+    void applyLoloFilter() { pressFilterButton(2); }
+    void applyCinemaFilter() { pressFilterButton(8); }
+    void applyMonoFilter() { pressFilterButton(5); }
+    void apply1962Filter() { pressFilterButton(6); }
+    void apply1974Filter() { pressFilterButton(7); }
+    /// The cross-process look, on purpose: the button kept its name when its look changed.
+    void applyFishEyeFilter() { pressFilterButton(0); }
+    void applyInfraredFilter() { pressFilterButton(9); }
+    void applyInstantFilter() { pressFilterButton(4); }
+    void applyMagazineFilter() { pressFilterButton(3); }
+    void multiFilterToggled();
+    void useRandomToggled();
+    void reExpose();
+    void settingChanged();
+    void loadImageButtonPressed();
+    void rotateImageRight();
+    void rotateImageLeft();
+    void flattenImage();
+    void saveFilteredImage();
+    void openHelp();
+    void openAbout();
+    void applicationWillTerminate() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    /// Work on the photo. It shows its steps when it takes long, and while it lets the window paint no other work may
+    /// begin: that one's guard is false, and it must do nothing. Work inside work, called by it, is part of it.
+    class Work {
+    public:
+        /// `steps`: how many it has; `isLong`: known to take more than a moment.
+        Work(MainWindowController& controller, int steps, bool isLong);
+        ~Work();
+        Work(const Work&) = delete;
+        Work& operator=(const Work&) = delete;
+        explicit operator bool() const { return allowed; }
+
+    private:
+        MainWindowController& controller;
+        bool allowed;
+    };
+
+    void awakeFromNib();
+    void completeNibLoading();
+    void windowDidLoad();
+    void connectControls();
+    void buildMenus();
+    /// The photo's own work, or the display copy's: small pictures are done before a progress bar could be read.
+    static bool takesLong(const QImage& image);
+    int stepsOfRender() const;
+    void showStep(const QString& name);
+    void showAppliedFilters();
+    void setCurrentFile(const QByteArray& path);
+    int largerFrameSide() const;
+    bool runPanel(QFileDialog& panel);
+    QByteArray askWhereToSave();
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    QList<QAction*> lookActions; ///< the Looks menu; each carries its filter number
+    QTimer resizeSettles; ///< runs while the window is being resized beyond the display copy
+
+    QImage originalImage; ///< the photo at full size
+    QImage originalDisplay; ///< its display copy
+    QImage originalThumb; ///< its thumbnail copy
+    QImage filtersAppliedImage; ///< the latest render
+    QByteArray originalExif; ///< what the camera wrote into the photo's file
+    QByteArray currentFilePath; ///< of the last loaded file
+    QByteArray currentFileName; ///< its last component, the name offered when saving
+    QByteArray fileWhenShown;
+    QString refusal; ///< why the last load failed
+    QString panelFolder; ///< where a panel was left; empty before the first
+
+    int workDepth = 0;
+    int stepsDone = 0;
+    bool workIsLong = false;
+    bool mayBeEntered = true; ///< false while work lets the window paint or waits for a panel
+    bool closeAfterWork = false;
+    QElapsedTimer workTime;
+};

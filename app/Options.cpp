@@ -1,0 +1,62 @@
+#include "app/MainWindowController.h"
+#include "app/Preferences.h"
+#include "image/CharImage.h"
+#include "ui_MainWindow.h"
+
+namespace {
+
+constexpr int noFilter = 14; ///< "Original": neither a crop nor a border
+constexpr int prefsVersion = 2; ///< of the order of the items in the three pop-ups, which are stored by position
+
+/// The filter number that a crop or border pop-up stands for.
+int chosenFilter(const QComboBox& popUp, const GrowArray<int>& filterIDs)
+{
+    if (popUp.currentText() == QLatin1String("By Filter") && filterIDs.numThings > 0)
+        return filterIDs.theArray[filterIDs.numThings - 1];
+    return CharImage::getFilterFromName(popUp.currentText().toUtf8().constData());
+}
+
+/// Selects the item at a stored index; the first one for an index that the pop-up does not have.
+void select(QComboBox& popUp, int index)
+{
+    popUp.setCurrentIndex(index >= 0 && index < popUp.count() ? index : 0);
+}
+
+} // namespace
+
+void MainWindowController::loadOptions()
+{
+    const bool saved = getPreferenceInt("PrefsVersion") == prefsVersion;
+    ui->chkMultiFilter->setChecked(saved && getPreferenceBool("UseMultiFilter"));
+    select(*ui->btnBorders, saved ? getPreferenceInt("BorderStyle") : 0);
+    select(*ui->btnCropping, saved ? getPreferenceInt("CroppingStyle") : 0);
+    select(*ui->btnImgSize, saved ? getPreferenceInt("OutputSize") : 0);
+    // Variation is a mood of the moment: it is saved, and never restored.
+    ui->chkRandomness->setChecked(false);
+    CharImage::useRandom = 0;
+}
+
+void MainWindowController::saveOptions() const
+{
+    setPreferenceBool("UseMultiFilter", ui->chkMultiFilter->isChecked());
+    setPreferenceBool("UseRandomness", ui->chkRandomness->isChecked());
+    setPreferenceInt("BorderStyle", ui->btnBorders->currentIndex());
+    setPreferenceInt("CroppingStyle", ui->btnCropping->currentIndex());
+    setPreferenceInt("OutputSize", ui->btnImgSize->currentIndex());
+    setPreferenceInt("PrefsVersion", prefsVersion);
+}
+
+void MainWindowController::updateFromSettings()
+{
+    doMultiFiltering = ui->chkMultiFilter->isChecked();
+    cropFilter = chosenFilter(*ui->btnCropping, filterIDs);
+    borderFilter = chosenFilter(*ui->btnBorders, filterIDs);
+    const QString size = ui->btnImgSize->currentText();
+    imgOutputSize = size == QLatin1String("Original") ? -1 : size.toInt();
+    updateBreadcrumb();
+}
+
+void MainWindowController::settingChanged()
+{
+    applyMultipleFilters();
+}

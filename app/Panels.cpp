@@ -1,0 +1,67 @@
+#include "app/MainWindowController.h"
+#include "app/Rules.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+
+const QString fileTypes = QStringLiteral("Photos (*.jpg *.jpeg *.gif *.png *.psd *.tga)");
+
+} // namespace
+
+/// Runs a file panel in the folder where the last one was left; true when it was confirmed.
+bool MainWindowController::runPanel(QFileDialog& panel)
+{
+    panel.setNameFilter(fileTypes);
+    if (QDir(panelFolder).exists() && !panelFolder.isEmpty())
+        panel.setDirectory(panelFolder);
+    mayBeEntered = workDepth == 0;
+    const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
+    mayBeEntered = true;
+    if (confirmed)
+        panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
+    return confirmed;
+}
+
+void MainWindowController::loadImageButtonPressed()
+{
+    if (!mayBeEntered)
+        return;
+    QFileDialog panel(this, tr("Select a file to open"));
+    panel.setFileMode(QFileDialog::ExistingFile);
+    panel.setWindowOpacity(0.95);
+    if (!runPanel(panel))
+        return;
+    for (const QString& file : panel.selectedFiles())
+        openFile(QFile::encodeName(file));
+}
+
+/// Asks for the path of the JPEG; empty when the panel was cancelled.
+QByteArray MainWindowController::askWhereToSave()
+{
+    QFileDialog panel(this, tr("Save as JPEG"));
+    panel.setAcceptMode(QFileDialog::AcceptSave);
+    panel.setDefaultSuffix(QStringLiteral("jpg"));
+    const QString proposed = shownName(currentFileName);
+    if (!panelFolder.isEmpty())
+        panel.setDirectory(panelFolder);
+    panel.selectFile(proposed);
+    if (!runPanel(panel))
+        return {};
+    const QFileInfo chosen(panel.selectedFiles().first());
+    // A name that cannot be shown as it is comes back as it was when the proposal was left alone.
+    if (chosen.fileName() == proposed)
+        return QFile::encodeName(chosen.absolutePath()) + '/' + currentFileName;
+    return QFile::encodeName(chosen.absoluteFilePath());
+}
+
+void MainWindowController::openModalSheetWithText(const QString& text, const QString& auxText)
+{
+    auto* sheet = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("Lumora"), text, QMessageBox::Ok, this);
+    sheet->setTextFormat(Qt::PlainText);
+    sheet->setInformativeText(auxText);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->show();
+}

@@ -1,0 +1,80 @@
+#include "app/Rules.h"
+
+#include "image/CharImage.h"
+
+#include <algorithm>
+#include <cmath>
+
+int displayResAtLoad(int frameSide)
+{
+    int res = 800;
+    while (res < frameSide)
+        res += 20;
+    return res;
+}
+
+int displayResAfterResize(int displayRes, int frameSide)
+{
+    while (displayRes < frameSide)
+        displayRes = int(displayRes * 1.2);
+    return displayRes;
+}
+
+QSizeF displaySize(const QSize& photo, int displayRes)
+{
+    const qreal width = photo.width(), height = photo.height();
+    if (height > width && height > displayRes)
+        return {width / height * displayRes, qreal(displayRes)};
+    if (height < width && width > displayRes)
+        return {qreal(displayRes), height / width * displayRes};
+    return photo;
+}
+
+QSizeF thumbnailSize(const QSize& photo)
+{
+    const qreal width = photo.width(), height = photo.height();
+    if (width > height)
+        return {width / height * 100, 100};
+    return {100, height / width * 100};
+}
+
+QSizeF exportSize(const QSize& render, int maxSide)
+{
+    const qreal width = render.width(), height = render.height();
+    if (width > height)
+        return {qreal(maxSide), maxSide * height / width};
+    return {maxSide * width / height, qreal(maxSide)};
+}
+
+QSize bitmapSize(const QSizeF& size)
+{
+    const auto side = [](qreal s) { return std::max(int(std::floor(s + 0.5)), 1); };
+    return {side(size.width()), side(size.height())};
+}
+
+QString breadcrumb(const GrowArray<int>& filterIDs, bool multi)
+{
+    QString text;
+    if (multi || filterIDs.numThings == 0)
+        text += QStringLiteral("Original");
+    for (int i = 0; i < filterIDs.numThings; i++) {
+        if (!text.isEmpty())
+            text += QStringLiteral(" > ");
+        text += QString::fromUtf8(CharImage::getFilterName(filterIDs.theArray[i]));
+    }
+    return text;
+}
+
+QByteArray fileNameOf(const QByteArray& path)
+{
+    return path.mid(path.lastIndexOf('/') + 1);
+}
+
+QString shownName(const QByteArray& fileName)
+{
+    QString name = QString::fromUtf8(fileName);
+    for (QChar& c : name)
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
+            c = u' ';
+    return name;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/GrowArray.h"
+
+#include <QByteArray>
+#include <QSize>
+#include <QSizeF>
+#include <QString>
+
+// The rules of the window that need no window.
+
+/// The filter numbers of the ten look buttons in their order; the first is "Original".
+inline constexpr int buttonFilters[] = {14, 1, 2, 8, 6, 7, 5, 0, 4, 3};
+
+/// The longest side of the display copy for a window whose larger frame side is `frameSide` pixels: the first 800 + 20 k that
+/// is not smaller.
+int displayResAtLoad(int frameSide);
+/// The same after a resize: grows by factors of 1.2, each truncated, and never shrinks.
+int displayResAfterResize(int displayRes, int frameSide);
+
+/// The size of the display copy of a photo: the longer side at most `displayRes`. A square photo is never reduced, on purpose.
+QSizeF displaySize(const QSize& photo, int displayRes);
+/// The size of the thumbnail copy: the shorter side is 100.
+QSizeF thumbnailSize(const QSize& photo);
+/// The size of an export whose longer side is `maxSide`, also when that enlarges.
+QSizeF exportSize(const QSize& render, int maxSide);
+/// The bitmap of a fractional size: halves are rounded up, and no side is below 1.
+QSize bitmapSize(const QSizeF& size);
+
+/// "Original", one look's name, or the chain "Original > Helga > Mono" in multi mode.
+QString breadcrumb(const GrowArray<int>& filterIDs, bool multi);
+
+/// The last component of a path of any bytes, and that name for people: control characters become spaces.
+QByteArray fileNameOf(const QByteArray& path);
+QString shownName(const QByteArray& fileName);

@@ -1,0 +1,218 @@
+#include "app/MainWindowController.h"
+#include "app/Rules.h"
+#include "image/CharImage.h"
+#include "ui_MainWindow.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QFileOpenEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QUrl>
+#include <cstdlib>
+#include <ctime>
+
+namespace {
+
+constexpr int settleTime = 150; ///< milliseconds without a change of size after which a resize has ended
+
+void fill(QComboBox& popUp, const QStringList& items)
+{
+    popUp.clear();
+    popUp.addItems(items);
+    popUp.setCurrentIndex(0);
+}
+
+QString helpDocument()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/lumora/help.pdf");
+}
+
+} // namespace
+
+MainWindowController::MainWindowController()
+    : ui(std::make_unique<Ui::MainWindow>())
+{
+    awakeFromNib();
+}
+
+MainWindowController::~MainWindowController() = default;
+
+void MainWindowController::awakeFromNib()
+{
+    completeNibLoading();
+    loadOptions();
+    connectControls();
+}
+
+void MainWindowController::completeNibLoading()
+{
+    std::srand(unsigned(std::time(nullptr)));
+    CharImage::renewRandomNumbers();
+
+    ui->setupUi(this);
+    windowDidLoad();
+    setWindowTitle(QStringLiteral("Lumora by Dovrel"));
+    ui->filtersText->setText(QStringLiteral("Original"));
+
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, QColor::fromRgbF(0.2f, 0.2f, 0.2f, 1.0f));
+    setPalette(colours);
+
+    for (QToolButton* button : {ui->btnOriginal, ui->btnHelga, ui->btnLolo, ui->btnCinema, ui->btn1962, ui->btn1974,
+             ui->btnMono, ui->btnFishEye, ui->btnInstant, ui->btnMagazine})
+        filterButtons.add(button);
+
+    fill(*ui->btnBorders, {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"});
+    fill(*ui->btnCropping, {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"});
+    fill(*ui->btnImgSize,
+        {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
+
+    ui->mainImageView->setDelegate(this);
+    qApp->installEventFilter(this);
+    buildMenus();
+    showAppliedFilters();
+    ui->mainImageView->setFocus();
+}
+
+void MainWindowController::windowDidLoad()
+{
+    const QSize room = screen()->availableSize() - QSize(0, 40); // for the title bar
+    resize(size().boundedTo(room));
+    displayRes = displayResAtLoad(largerFrameSide());
+
+    QSizePolicy policy = ui->progressBar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    ui->progressBar->setSizePolicy(policy);
+    ui->progressBar->hide();
+    resizeSettles.setSingleShot(true);
+    resizeSettles.setInterval(settleTime);
+}
+
+void MainWindowController::connectControls()
+{
+    using Self = MainWindowController;
+    const auto press = [this](QAbstractButton* button, void (Self::*action)()) {
+        connect(button, &QAbstractButton::clicked, this, action);
+    };
+    press(ui->btnOriginal, &Self::applyOriginalFilter);
+    press(ui->btnHelga, &Self::applyHelgaFilter);
+    press(ui->btnLolo, &Self::applyLoloFilter);
+    press(ui->btnCinema, &Self::applyCinemaFilter);
+    press(ui->btn1962, &Self::apply1962Filter);
+    press(ui->btn1974, &Self::apply1974Filter);
+    press(ui->btnMono, &Self::applyMonoFilter);
+    press(ui->btnFishEye, &Self::applyFishEyeFilter);
+    press(ui->btnInstant, &Self::applyInstantFilter);
+    press(ui->btnMagazine, &Self::applyMagazineFilter);
+    press(ui->btnLoad, &Self::loadImageButtonPressed);
+    press(ui->btnSave, &Self::saveFilteredImage);
+    press(ui->btnLeft, &Self::rotateImageLeft);
+    press(ui->btnRight, &Self::rotateImageRight);
+    press(ui->btnFlatten, &Self::flattenImage);
+    press(ui->btnReExpose, &Self::reExpose);
+    press(ui->chkMultiFilter, &Self::multiFilterToggled);
+    press(ui->chkRandomness, &Self::useRandomToggled);
+    for (QComboBox* popUp : {ui->btnBorders, ui->btnCropping, ui->btnImgSize})
+        connect(popUp, &QComboBox::currentIndexChanged, this, &Self::settingChanged);
+    connect(&resizeSettles, &QTimer::timeout, this, &Self::windowDidResize);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &Self::applicationWillTerminate);
+}
+
+void MainWindowController::updateThumbnailImages()
+{
+    if (originalImage.isNull() || originalThumb.isNull())
+        return;
+    for (int i = 0; i < filterButtons.numThings; i++) {
+        const QImage thumbnail = filterNSImage(originalThumb, buttonFilters[i], true);
+        filterButtons.theArray[i]->setIcon(QPixmap::fromImage(thumbnail));
+    }
+}
+
+/// Of the window with its frame, in pixels of the screen.
+int MainWindowController::largerFrameSide() const
+{
+    const QSizeF frame = QSizeF(frameGeometry().size()) * devicePixelRatioF();
+    return qRound(qMax(frame.width(), frame.height()));
+}
+
+void MainWindowController::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    // The photo is copied anew when the size has settled, so that a drag at the window's edge stays fluid.
+    if (largerFrameSide() > displayRes)
+        resizeSettles.start();
+}
+
+void MainWindowController::windowDidResize()
+{
+    if (largerFrameSide() <= displayRes)
+        return;
+    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    if (!work)
+        return resizeSettles.start();
+    displayRes = displayResAfterResize(displayRes, largerFrameSide());
+    if (originalImage.isNull())
+        return;
+    setoriginalImage(originalImage);
+    applyMultipleFilters();
+}
+
+void MainWindowController::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    if (fileWhenShown.isEmpty())
+        return;
+    const QByteArray path = std::exchange(fileWhenShown, {});
+    QTimer::singleShot(0, this, [this, path] { openFile(path); });
+}
+
+bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::FileOpen)
+        return QMainWindow::eventFilter(watched, event);
+    openFile(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
+    return true;
+}
+
+// The space bar that no control has taken shows the photo as it came for as long as it is held.
+
+void MainWindowController::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space)
+        return QMainWindow::keyPressEvent(event);
+    ui->mainImageView->setComparing(true);
+}
+
+void MainWindowController::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space)
+        return QMainWindow::keyReleaseEvent(event);
+    if (!event->isAutoRepeat())
+        ui->mainImageView->setComparing(false);
+}
+
+void MainWindowController::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        ui->mainImageView->setComparing(false);
+}
+
+void MainWindowController::openHelp()
+{
+    const QFileInfo document(helpDocument());
+    if (!document.exists() || !QDesktopServices::openUrl(QUrl::fromLocalFile(document.canonicalFilePath())))
+        openModalSheetWithText(tr("The help cannot be shown."), tr("It stands at %1.").arg(document.absoluteFilePath()));
+}
+
+void MainWindowController::openAbout()
+{
+    openModalSheetWithText(QStringLiteral("Lumora Mac, Version 1.0"), tr("Copyright © 2026 Dovrel"));
+}
+
+void MainWindowController::applicationWillTerminate() const
+{
+    saveOptions();
+}

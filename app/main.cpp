@@ -1,0 +1,24 @@
+#include "app/Appearance.h"
+#include "app/MainWindowController.h"
+
+#include <QApplication>
+#include <cstring>
+
+/// lumora [--] [FILE]
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Dovrel"));
+    QApplication::setApplicationName(QStringLiteral("Lumora"));
+    QApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QApplication::setDesktopFileName(QStringLiteral("dovrel.lumora"));
+    useDarkAppearance();
+
+    MainWindowController controller;
+    // The bytes of the name as they are: it need not be text.
+    const int file = argc > 1 && std::strcmp(argv[1], "--") == 0 ? 2 : 1;
+    if (argc > file)
+        controller.openFileWhenShown(argv[file]);
+    controller.show();
+    return QApplication::exec();
+}
