@@ -129,7 +129,10 @@ void MainWindowController::reExpose()
     if (!work)
         return;
     CharImage::renewRandomNumbers();
-    ui->chkRandomness->setChecked(true);
+    {
+        const QSignalBlocker shownOnly(ui->chkRandomness);
+        ui->chkRandomness->setChecked(true);
+    }
     CharImage::useRandom = 1;
     settingChanged();
     updateThumbnailImages();
@@ -142,6 +145,8 @@ void MainWindowController::showAppliedFilters()
         const int filter = action->data().toInt();
         action->setChecked(filter == 14 ? filterIDs.numThings == 0 : filterIDs.find(filter) >= 0);
     }
-    for (int i = 0; i < filterButtons.numThings; i++)
+    for (int i = 0; i < filterButtons.numThings; i++) {
+        const QSignalBlocker shownOnly(filterButtons.theArray[i]);
         filterButtons.theArray[i]->setChecked(lookActions[i]->isChecked());
+    }
 }

@@ -96,24 +96,28 @@ void MainWindowController::connectControls()
     const auto press = [this](QAbstractButton* button, void (Self::*action)()) {
         connect(button, &QAbstractButton::clicked, this, action);
     };
-    press(ui->btnOriginal, &Self::applyOriginalFilter);
-    press(ui->btnHelga, &Self::applyHelgaFilter);
-    press(ui->btnLolo, &Self::applyLoloFilter);
-    press(ui->btnCinema, &Self::applyCinemaFilter);
-    press(ui->btn1962, &Self::apply1962Filter);
-    press(ui->btn1974, &Self::apply1974Filter);
-    press(ui->btnMono, &Self::applyMonoFilter);
-    press(ui->btnFishEye, &Self::applyFishEyeFilter);
-    press(ui->btnInstant, &Self::applyInstantFilter);
-    press(ui->btnMagazine, &Self::applyMagazineFilter);
     press(ui->btnLoad, &Self::loadImageButtonPressed);
     press(ui->btnSave, &Self::saveFilteredImage);
     press(ui->btnLeft, &Self::rotateImageLeft);
     press(ui->btnRight, &Self::rotateImageRight);
     press(ui->btnFlatten, &Self::flattenImage);
     press(ui->btnReExpose, &Self::reExpose);
-    press(ui->chkMultiFilter, &Self::multiFilterToggled);
-    press(ui->chkRandomness, &Self::useRandomToggled);
+    // A screen reader toggles what can be checked without clicking it.
+    const auto toggle = [this](QAbstractButton* button, void (Self::*action)()) {
+        connect(button, &QAbstractButton::toggled, this, action);
+    };
+    toggle(ui->btnOriginal, &Self::applyOriginalFilter);
+    toggle(ui->btnHelga, &Self::applyHelgaFilter);
+    toggle(ui->btnLolo, &Self::applyLoloFilter);
+    toggle(ui->btnCinema, &Self::applyCinemaFilter);
+    toggle(ui->btn1962, &Self::apply1962Filter);
+    toggle(ui->btn1974, &Self::apply1974Filter);
+    toggle(ui->btnMono, &Self::applyMonoFilter);
+    toggle(ui->btnFishEye, &Self::applyFishEyeFilter);
+    toggle(ui->btnInstant, &Self::applyInstantFilter);
+    toggle(ui->btnMagazine, &Self::applyMagazineFilter);
+    toggle(ui->chkMultiFilter, &Self::multiFilterToggled);
+    toggle(ui->chkRandomness, &Self::useRandomToggled);
     for (QComboBox* popUp : {ui->btnBorders, ui->btnCropping, ui->btnImgSize})
         connect(popUp, &QComboBox::currentIndexChanged, this, &Self::settingChanged);
     connect(&resizeSettles, &QTimer::timeout, this, &Self::windowDidResize);

@@ -38,11 +38,12 @@ protected:
             return;
         auto* files = new QMimeData;
         files->setUrls(urls);
-        QDrag drag(this);
-        drag.setMimeData(files);
-        connect(&drag, &QDrag::actionChanged, this,
+        // The platform deletes it when the target has fetched the data, which is after the end of exec().
+        auto* drag = new QDrag(this);
+        drag->setMimeData(files);
+        connect(drag, &QDrag::actionChanged, this,
             [](Qt::DropAction action) { say(action == Qt::CopyAction ? "copy" : "nothing"); });
-        drag.exec(Qt::CopyAction | Qt::LinkAction, Qt::CopyAction);
+        drag->exec(Qt::CopyAction | Qt::LinkAction, Qt::CopyAction);
         say("over");
     }
 
