@@ -21,4 +21,6 @@ void useDarkAppearance()
     colours.setColor(QPalette::HighlightedText, Qt::black);
     colours.setColor(QPalette::Link, accent);
     QApplication::setPalette(colours);
+    colours.setColor(QPalette::Base, QColor(96, 96, 96)); // an empty box must be seen
+    QApplication::setPalette(colours, "QCheckBox");
 }

@@ -110,7 +110,7 @@ void DragDropImageView::paintEvent(QPaintEvent*)
     } else {
         painter.drawImage(imageRect(), fitted());
     }
-    if (hasFocus()) {
+    if (hasFocus() && focusByKey) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
@@ -146,4 +146,10 @@ void DragDropImageView::mousePressEvent(QMouseEvent* event)
 void DragDropImageView::mouseReleaseEvent(QMouseEvent* event)
 {
     setComparing(event->buttons() & Qt::LeftButton);
+}
+
+void DragDropImageView::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    focusByKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
 }

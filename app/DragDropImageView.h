@@ -52,6 +52,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     /// A picture scaled to the widget, kept between two paintings.
@@ -65,5 +66,6 @@ private:
     QImage rendered, compared;
     Fitted fittedImages[2]; ///< of the render and of the compared picture
     bool comparing = false;
+    bool focusByKey = false; ///< a frame would only disturb whoever points at the photo
     DropDelegate* dropDelegate = nullptr;
 };

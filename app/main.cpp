@@ -2,6 +2,7 @@
 #include "app/MainWindowController.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <cstring>
 
 /// lumora [--] [FILE]
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Lumora"));
     QApplication::setApplicationVersion(QStringLiteral("1.0"));
     QApplication::setDesktopFileName(QStringLiteral("dovrel.lumora"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/dovrel.lumora.png")));
     useDarkAppearance();
 
     MainWindowController controller;
