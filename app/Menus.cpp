@@ -14,7 +14,7 @@ void MainWindowController::buildMenus()
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
     file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
     file->addSeparator();
-    QAction* quit = file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+    QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);
 
     QMenu* photo = ui->menubar->addMenu(tr("&Photo"));

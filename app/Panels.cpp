@@ -6,16 +6,19 @@
 
 namespace {
 
-const QString fileTypes = QStringLiteral("Photos (*.jpg *.jpeg *.gif *.png *.psd *.tga)");
+/// What both panels share: the six types, and the folder where the last one was left.
+void prepare(QFileDialog& panel, const QString& folder)
+{
+    panel.setNameFilter(QStringLiteral("Photos (*.jpg *.jpeg *.gif *.png *.psd *.tga)"));
+    if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        panel.setDirectory(folder);
+}
 
 } // namespace
 
-/// Runs a file panel in the folder where the last one was left; true when it was confirmed.
+/// Runs a file panel; true when it was confirmed.
 bool MainWindowController::runPanel(QFileDialog& panel)
 {
-    panel.setNameFilter(fileTypes);
-    if (QDir(panelFolder).exists() && !panelFolder.isEmpty())
-        panel.setDirectory(panelFolder);
     mayBeEntered = workDepth == 0;
     const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
     mayBeEntered = true;
@@ -31,6 +34,7 @@ void MainWindowController::loadImageButtonPressed()
     QFileDialog panel(this, tr("Select a file to open"));
     panel.setFileMode(QFileDialog::ExistingFile);
     panel.setWindowOpacity(0.95);
+    prepare(panel, panelFolder);
     if (!runPanel(panel))
         return;
     for (const QString& file : panel.selectedFiles())
@@ -43,10 +47,9 @@ QByteArray MainWindowController::askWhereToSave()
     QFileDialog panel(this, tr("Save as JPEG"));
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setDefaultSuffix(QStringLiteral("jpg"));
+    prepare(panel, panelFolder);
     const QString proposed = shownName(currentFileName);
-    if (!panelFolder.isEmpty())
-        panel.setDirectory(panelFolder);
-    panel.selectFile(proposed);
+    panel.selectFile(proposed); // after the types, which would change the name's extension to theirs
     if (!runPanel(panel))
         return {};
     const QFileInfo chosen(panel.selectedFiles().first());

@@ -1,5 +1,6 @@
 #include "app/Preferences.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QVariant>
 #include <algorithm>
@@ -11,11 +12,25 @@ QString text(const GrowString& string)
     return QString::fromLatin1(string.cString());
 }
 
+/// True for a file that cannot be the store: one of its lines is no section, no comment and no "key=value". The store
+/// itself tells that only to the first who opens it.
+bool isForeign(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArrayList lines = file.readAll().split('\n');
+    return std::ranges::any_of(lines, [](const QByteArray& line) {
+        const QByteArray words = line.trimmed();
+        return !words.isEmpty() && words.front() != '[' && words.front() != ';' && !words.contains('=');
+    });
+}
+
 void store(const GrowString& key, const QVariant& value)
 {
     QSettings settings(QStringLiteral("Dovrel"), QStringLiteral("Lumora"));
     // A file that is broken, or not a preferences file at all, is somebody's: it is not written over.
-    if (settings.status() == QSettings::FormatError)
+    if (isForeign(settings.fileName()))
         qWarning("%s is not a preferences file: choices are not saved", qUtf8Printable(settings.fileName()));
     else
         settings.setValue(text(key), value);

@@ -49,11 +49,12 @@ void MainWindowController::showStep(const QString& name)
     stepsDone++;
     if (workDepth == 0 || !isVisible() || (!workIsLong && workTime.elapsed() < moment))
         return;
+    mayBeEntered = false; // the bar may paint at once
     ui->progressBar->setFormat(name);
     ui->progressBar->setMaximum(qMax(ui->progressBar->maximum(), stepsDone));
     ui->progressBar->setValue(stepsDone - 1);
     ui->progressBar->show();
-    mayBeEntered = false;
+    ui->progressBar->repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     mayBeEntered = true;
 }

@@ -1,0 +1,222 @@
+#include "app/Preferences.h"
+#include "image/CharImage.h"
+#include "tests/app/Desk.h"
+
+#include <QCheckBox>
+
+namespace {
+
+QStringList itemsOf(const QComboBox* popUp)
+{
+    QStringList items;
+    for (int i = 0; i < popUp->count(); i++)
+        items << popUp->itemText(i);
+    return items;
+}
+
+} // namespace
+
+class OptionsTest : public QObject {
+    Q_OBJECT
+
+private:
+    struct Choices {
+        bool multi, random;
+        int border, crop, size;
+        bool operator==(const Choices&) const = default;
+    };
+    static constexpr Choices defaults = {false, false, 0, 0, 0};
+
+    static Choices chosen(Desk& desk)
+    {
+        return {desk.find<QCheckBox>("chkMultiFilter")->isChecked(), desk.find<QCheckBox>("chkRandomness")->isChecked(),
+            desk.find<QComboBox>("btnBorders")->currentIndex(), desk.find<QComboBox>("btnCropping")->currentIndex(),
+            desk.find<QComboBox>("btnImgSize")->currentIndex()};
+    }
+
+private slots:
+    void init() { setPreferences({}); }
+
+    void popUpsOfferTheirItemsInOrder()
+    {
+        Desk desk;
+        QCOMPARE(itemsOf(desk.find<QComboBox>("btnBorders")),
+            QStringList({"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"}));
+        QCOMPARE(itemsOf(desk.find<QComboBox>("btnCropping")),
+            QStringList({"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"}));
+        QCOMPARE(itemsOf(desk.find<QComboBox>("btnImgSize")),
+            QStringList(
+                {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"}));
+    }
+
+    void firstRunHasTheDefaults()
+    {
+        CharImage::useRandom = 1;
+        Desk desk;
+        QVERIFY(chosen(desk) == defaults);
+        QCOMPARE(CharImage::useRandom, 0);
+    }
+
+    void choicesComeBackButRandomnessDoesNot()
+    {
+        {
+            Desk desk;
+            desk.click("chkMultiFilter");
+            desk.click("chkRandomness");
+            desk.choose("btnBorders", "Rounded");
+            desk.choose("btnCropping", "4x3");
+            desk.choose("btnImgSize", "500");
+            QVERIFY(chosen(desk) == (Choices {true, true, 4, 4, 7}));
+            desk.window.applicationWillTerminate();
+            QCOMPARE(getPreferenceBool("UseRandomness"), true);
+            QCOMPARE(getPreferenceInt("PrefsVersion"), 2);
+        }
+        Desk desk;
+        QVERIFY(chosen(desk) == (Choices {true, false, 4, 4, 7}));
+        QCOMPARE(CharImage::useRandom, 0);
+        QCOMPARE(desk.window.doMultiFiltering, false); // until the next render or click
+    }
+
+    void anotherVersionIsIgnored_data()
+    {
+        QTest::addColumn<QByteArray>("version");
+        for (const char* version : {"1", "3", "abc", "@Invalid()", "2.5"})
+            QTest::newRow(version) << QByteArray(version);
+    }
+
+    void anotherVersionIsIgnored()
+    {
+        QFETCH(QByteArray, version);
+        setPreferences("[General]\nUseMultiFilter=true\nBorderStyle=3\nCroppingStyle=2\nOutputSize=4\nPrefsVersion="
+            + version + "\n");
+        Desk desk;
+        QVERIFY(chosen(desk) == defaults);
+    }
+
+    void anIndexOutsideOrOfAWrongTypeIsTheFirstItem()
+    {
+        setPreferences("[General]\nPrefsVersion=2\nUseMultiFilter=maybe\nBorderStyle=8\nCroppingStyle=-1\n"
+                       "OutputSize=large\n");
+        Desk desk;
+        QVERIFY(chosen(desk) == defaults);
+        setPreferences("[General]\nPrefsVersion=2\nUseMultiFilter=1\nBorderStyle=7\nCroppingStyle=6\n"
+                       "OutputSize=99999999999\n");
+        Desk edge;
+        QVERIFY(chosen(edge) == (Choices {true, false, 7, 6, 0}));
+    }
+
+    void aFileThatIsNoPreferencesIsLeftAlone()
+    {
+        const QByteArray letter("Dear diary\n\0\xff\xfe of another program\n", 36);
+        setPreferences(letter);
+        {
+            for (int i = 0; i < 6; i++)
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is not a preferences file"));
+            Desk desk;
+            QVERIFY(chosen(desk) == defaults);
+            desk.window.applicationWillTerminate();
+        }
+        QCOMPARE(contentsOf(QFile::encodeName(preferencesFile())), letter);
+    }
+
+    void aFolderInThePlaceOfTheFileIsLeftAlone()
+    {
+        QDir().mkpath(preferencesFile());
+        {
+            Desk desk;
+            QVERIFY(chosen(desk) == defaults);
+            desk.window.applicationWillTerminate();
+        }
+        QVERIFY(QFileInfo(preferencesFile()).isDir());
+        QDir().rmdir(preferencesFile());
+    }
+
+    void foreignKeysAreKept()
+    {
+        setPreferences("[General]\nSomebodysKey=theirs\n\n[Other]\nToo=1\n");
+        {
+            Desk desk;
+            desk.window.applicationWillTerminate();
+        }
+        const QByteArray kept = contentsOf(QFile::encodeName(preferencesFile()));
+        QVERIFY(kept.contains("SomebodysKey=theirs") && kept.contains("[Other]\nToo=1")
+            && kept.contains("PrefsVersion=2"));
+    }
+
+    void preferencesKeepTextNumbersAndTruth()
+    {
+        QCOMPARE(getPreferenceInt("Nothing"), 0);
+        QCOMPARE(getPreferenceBool("Nothing"), false);
+        QCOMPARE(getPreferenceString("Nothing").cString(), "");
+        setPreferenceString("Text", "50%, [a] = \"b\"; c");
+        setPreferenceInt("Number", -2147483647);
+        setPreferenceBool("Truth", true);
+        QCOMPARE(getPreferenceString("Text").cString(), "50%, [a] = \"b\"; c");
+        QCOMPARE(getPreferenceInt("Number"), -2147483647);
+        QCOMPARE(getPreferenceBool("Truth"), true);
+        setPreferenceInt("Number", 7);
+        QCOMPARE(getPreferenceBool("Number"), true);
+        setPreferenceBool("Truth", false);
+        QCOMPARE(getPreferenceBool("Truth"), false);
+        QCOMPARE(getPreferenceInt("Text"), 0);
+    }
+
+    void cropsAndBordersAreFiltersOfTheirTitles()
+    {
+        const std::pair<const char*, int> crops[]
+            = {{"Square", 21}, {"Cinema", 8}, {"6x4", 23}, {"4x3", 25}, {"7x6", 24}, {"None", 14}, {"By Filter", 14}};
+        const std::pair<const char*, int> borders[] = {{"Thin", 26}, {"Medium", 27}, {"Thick", 28}, {"Rounded", 29},
+            {"Instant", 4}, {"Cinema", 8}, {"None", 14}, {"By Filter", 14}};
+        Desk desk(makePhoto(60, 40));
+        for (const auto& [title, filter] : crops) {
+            desk.choose("btnCropping", title);
+            QCOMPARE(desk.window.cropFilter, filter);
+        }
+        for (const auto& [title, filter] : borders) {
+            desk.choose("btnBorders", title);
+            QCOMPARE(desk.window.borderFilter, filter);
+        }
+    }
+
+    void byFilterMeansTheLookThatWasAddedLast()
+    {
+        Desk desk(makePhoto(60, 40));
+        desk.click("chkMultiFilter");
+        desk.click("btnHelga");
+        desk.click("btnCinema");
+        QCOMPARE(desk.window.cropFilter, 8);
+        QCOMPARE(desk.window.borderFilter, 8);
+        desk.click("btnOriginal");
+        QCOMPARE(desk.window.cropFilter, 14);
+        QCOMPARE(desk.window.borderFilter, 14);
+    }
+
+    void sizesAreNumbersAndOriginalIsNone()
+    {
+        Desk desk(makePhoto(60, 40));
+        for (const char* size : {"1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"}) {
+            desk.choose("btnImgSize", size);
+            QCOMPARE(desk.window.imgOutputSize, QByteArray(size).toInt());
+        }
+        desk.choose("btnImgSize", "Original");
+        QCOMPARE(desk.window.imgOutputSize, -1);
+    }
+
+    void aPopUpRendersThePreviewAndLeavesTheThumbnails()
+    {
+        Desk desk(makePhoto(60, 40));
+        const auto thumbnail = [&] { return desk.find<QToolButton>("btnHelga")->icon().cacheKey(); };
+        const qint64 before = thumbnail();
+        for (const auto& [popUp, item] : {std::pair("btnBorders", "Thick"), std::pair("btnCropping", "Square"),
+                 std::pair("btnImgSize", "100")}) {
+            const qint64 render = desk.render();
+            desk.choose(popUp, item);
+            QVERIFY(desk.render() != render);
+        }
+        QCOMPARE(thumbnail(), before);
+        QCOMPARE(desk.find<DragDropImageView>("mainImageView")->image().size(), QSize(60, 60));
+    }
+};
+
+DESK_MAIN(OptionsTest)
+#include "OptionsTest.moc"
