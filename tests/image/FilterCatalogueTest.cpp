@@ -3,6 +3,7 @@
 #include "tests/reference/Toolkit.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -37,6 +38,13 @@ TEST(FilterCatalogue, KnowsEveryNameBothWays)
         EXPECT_STREQ(CharImage::getFilterName(i), names[i]);
         EXPECT_EQ(CharImage::getFilterFromName(names[i]), i);
     }
+}
+
+TEST(FilterCatalogue, ListsTheFifteenLooks)
+{
+    const GrowArray<int> looks = CharImage::getLooks();
+    const std::vector<int> expected = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 17, 18, 19, 20};
+    EXPECT_EQ(std::vector<int>(looks.theArray, looks.theArray + looks.numThings), expected);
 }
 
 TEST(FilterCatalogue, FallsBackOnUnknownNamesAndNumbers)

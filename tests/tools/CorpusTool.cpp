@@ -33,7 +33,7 @@ struct Outcome {
     long mebibytes = 0;
 };
 
-[[noreturn]] void openAndTell(const std::string& file, int pipe, const Limits& limits)
+[[noreturn]] void openAndTell(const std::string& file, int pipe, [[maybe_unused]] const Limits& limits)
 {
 #ifndef __SANITIZE_ADDRESS__
     // Well beyond the limit, so that passing it is seen and the machine is safe.
