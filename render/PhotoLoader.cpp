@@ -4,6 +4,8 @@
 #include "render/FreeMemory.h"
 #include "render/JpegMarkers.h"
 #include "render/OnWhite.h"
+#include "render/formats/PsdHandler.h"
+#include "render/formats/TgaHandler.h"
 
 #include <QFile>
 #include <QImageIOHandler>
@@ -66,9 +68,18 @@ QString openRegularFile(const QByteArray& path, QFile& file)
 }
 
 /// The reader of this project that takes the file, to be asked before the platform's; null when none does.
-std::unique_ptr<QImageIOHandler> ownHandler(QIODevice&)
+std::unique_ptr<QImageIOHandler> ownHandler(QIODevice& file)
 {
+    if (PsdHandler::canRead(file))
+        return std::make_unique<PsdHandler>();
+    if (TgaHandler::canRead(file))
+        return std::make_unique<TgaHandler>();
     return nullptr;
+}
+
+int bytesPerPixel(QImage::Format format)
+{
+    return std::max(QImage::toPixelFormat(format).bitsPerPixel() / 8, 4);
 }
 
 /// Why a picture of that size is not decoded; empty when it is. `bytesPerPixel` is what its decoder makes of it.
@@ -85,17 +96,13 @@ QString sizeRefusal(const QSize& size, int bytesPerPixel)
     return {};
 }
 
-int bytesPerPixel(QImage::Format format)
-{
-    return std::max(QImage::toPixelFormat(format).bitsPerPixel() / 8, 4);
-}
-
 /// Decodes the first picture of the file; gives the reason when there is none.
 QString decode(QIODevice& file, QImage& image)
 {
     if (const auto handler = ownHandler(file)) {
         handler->setDevice(&file);
-        const QString refusal = sizeRefusal(handler->option(QImageIOHandler::Size).toSize(), 4);
+        const QString refusal = sizeRefusal(handler->option(QImageIOHandler::Size).toSize(),
+            bytesPerPixel(QImage::Format(handler->option(QImageIOHandler::ImageFormat).toInt())));
         if (!refusal.isEmpty())
             return refusal;
         return handler->read(&image) ? QString() : text("The picture is damaged or of a kind that cannot be read.");
