@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr int noFilter = 14; ///< "Original": neither a crop nor a border
 constexpr int prefsVersion = 2; ///< of the order of the items in the three pop-ups, which are stored by position
 
 /// The filter number that a crop or border pop-up stands for.

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int upright = 3, halfTurn = 1, turnRight = 0, turnLeft = 2;
+constexpr int halfTurn = 1, turnRight = 0, turnLeft = 2; // 3 and every other code: upright
 
 bool isQuarterTurn(int orientation)
 {

@@ -4,8 +4,6 @@
 #include "render/ImageBridge.h"
 
 #include <QColorSpace>
-
-#include <QColorSpace>
 #include <memory>
 #include <utility>
 
