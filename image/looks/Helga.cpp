@@ -1,7 +1,8 @@
 #include "image/looks/Helga.h"
 
-#include "image/toolkit/ColorSpace.h"
+#include "image/toolkit/Hues.h"
 #include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Power.h"
 #include "image/toolkit/Variation.h"
 
 HelgaParameters HelgaParameters::fixed()
@@ -53,12 +54,10 @@ Rgb contrastAndLift(Rgb c, float contrast)
 /// catches it.
 Rgb darkenAndSaturate(Rgb c, float e)
 {
-    float rgb[3] = {c.r, c.g, c.b}, h, s, v;
-    rgbToHsv(rgb, &h, &s, &v);
-    s = float(s * (1.0 + 0.4 * e));
-    v = float(v * (1.0 - e));
-    hsvToRgb(h, s, v, rgb);
-    return {rgb[0], rgb[1], rgb[2]};
+    Hsv hsv = hsvOf(c);
+    hsv.s = float(hsv.s * (1.0 + 0.4 * e));
+    hsv.v = float(hsv.v * (1.0 - e));
+    return rgbOf(hsv);
 }
 
 } // namespace
@@ -70,13 +69,20 @@ void CharImage::applyHelgaFilter()
     tintAndMute(*this, p);
     fillHistogram(0.001f, 0.001f, float(p.lowLevel), 255.0f, true, true);
 
-    const int cx = width / 2, cy = height / 2;
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
     const float reach = float(1.49 * std::sqrt(double(halfWidth * halfWidth + halfHeight * halfHeight)));
-    forEachPixelAt(*this, [&](Rgb c, int x, int y) {
-        const float dx = float(x - cx), dy = float(y - cy);
-        const float fallOff = sCurve(std::sqrt(dx * dx + dy * dy) / reach, p.edgeExponent);
-        c = darkenAndSaturate(contrastAndLift(c, p.contrast), fallOff);
-        return eachChannel(c, [&](float v) { return truncateToInt(v) < p.blackFloor ? float(p.blackFloor) : v; });
+    const auto fallOffAt = [=](Plane& fallOff, int dx, int dy) {
+        for (int i = 0; i < blockPixels; i++) {
+            const float x = float(dx + i), y = float(dy);
+            fallOff.at[i] = std::sqrt(x * x + y * y) / reach;
+        }
+        applySCurve(fallOff, p.edgeExponent);
+    };
+    const float floor = float(p.blackFloor);
+    forEachBlockAround(*this, width / 2, height / 2, fallOffAt, [=](Block& block, const float* fallOff) {
+        workPlanes(block, [=](Rgb c, int i) {
+            c = darkenAndSaturate(contrastAndLift(c, p.contrast), fallOff[i]);
+            return eachChannel(c, [=](float v) { return float(truncateToInt(v)) < floor ? floor : v; });
+        });
     });
 }

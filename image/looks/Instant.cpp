@@ -1,6 +1,7 @@
 #include "image/looks/Instant.h"
 
 #include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Power.h"
 #include "image/toolkit/Variation.h"
 
 InstantParameters InstantParameters::fixed()
@@ -23,27 +24,29 @@ InstantParameters InstantParameters::varied(const float* random)
 void CharImage::applyInstantFilter()
 {
     const InstantParameters p = currentParameters<InstantParameters>();
-    fillHistogram(p.lowFraction, 0.01f, 50.0f, 250.0f, true, false);
-
-    const auto curve = [](float v, float exponent) {
-        const float z = sCurve(float(v * per255), exponent) * 255.0f;
-        return z < 20.0f ? 20.0f : z > 250.0f ? 250.0f : z;
+    const Levels levels = levelsOf(*this, p.lowFraction, 0.01f, 50.0f, 250.0f, true, false);
+    const auto curve = [=](float exponent) {
+        const ChannelCurve film = filmCurve(exponent);
+        return channelCurve([&](int v) { return film.at[int(levels(float(v)))]; });
     };
-    forEachPixel(*this, [&](Rgb c) {
-        c = {curve(c.r, p.exponent[0]), curve(c.g, p.exponent[1]), curve(c.b, p.exponent[2])};
-
-        const float l = float(luminance(c) * per255);
-        const float w = float((1.0 - l * l * l) * 0.38);
-        const auto tinted = [=](float v, float tint) {
-            const float cast = w * (l * tint);
-            return v * (1.0f - w) + (cast + cast);
-        };
-        c = {tinted(c.r, 126.0f), tinted(c.g, 61.0f), tinted(c.b, 38.0f)};
-        c = eachChannel(c, [](float v) { return (v + 5.0f) * 1.1f; });
-
-        const float q = std::pow(float(luminance(c) * per255), 1.5f);
-        c = eachChannel(c, [=](float v) { return v * (1.0f - q) + v * q * 0.95f; });
-        return eachChannel(c, [&](float v) { return float((v - 128.0) * p.contrast + 128.0); });
+    const ChannelCurve red = curve(p.exponent[0]), green = curve(p.exponent[1]), blue = curve(p.exponent[2]);
+    forEachBlock(*this, [&](Block& block) {
+        block.fillPlanes(red, green, blue);
+        workPlanes(block, [](Rgb c, int) {
+            const float l = float(luminance(c) * per255);
+            const float w = float((1.0 - l * l * l) * 0.38);
+            const auto tinted = [=](float v, float tint) { return withDoubledCast(v, w, w * (l * tint)); };
+            c = {tinted(c.r, 126.0f), tinted(c.g, 61.0f), tinted(c.b, 38.0f)};
+            return eachChannel(c, [](float v) { return (v + 5.0f) * 1.1f; });
+        });
+        Plane highlights = planeOf(block, [](Rgb c) { return float(luminance(c) * per255); });
+        raise(highlights, 1.5f);
+        workPlanes(block, [&](Rgb c, int i) {
+            const float q = highlights.at[i];
+            c = eachChannel(c, [=](float v) { return v * (1.0f - q) + v * q * 0.95f; });
+            return eachChannel(c, [=](float v) { return float((v - 128.0) * p.contrast + 128.0); });
+        });
+        block.storePlanes();
     });
 
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);

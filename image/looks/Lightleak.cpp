@@ -1,6 +1,6 @@
 #include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Power.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -19,13 +19,18 @@ struct Leak {
         return leak;
     }
 
-    /// The glow's weight at a pixel, 0 .. 0.15.
-    float glowAt(int px, int py) const
+    /// The glow's weights, 0 .. 0.15, of pixels that stand so far from the place.
+    void glowAt(Plane& glow, int firstX, int row) const
     {
-        const double dx = px - x, dy = py - y;
-        const float d = float(std::sqrt(dx * dx + dy * dy));
-        const float q = std::clamp(1.0f - d / radius, 0.0f, 1.0f);
-        return float(std::pow(q, 1.5f) * 0.15);
+        for (int i = 0; i < blockPixels; i++) {
+            const double dx = firstX + i, dy = row;
+            const float d = float(std::sqrt(dx * dx + dy * dy));
+            const float q = 1.0f - d / radius;
+            glow.at[i] = q < 0.0f ? 0.0f : q > 1.0f ? 1.0f : q;
+        }
+        raise(glow, 1.5f);
+        for (float& g : glow.at)
+            g = float(g * 0.15);
     }
 };
 
@@ -56,24 +61,27 @@ void CharImage::applyLightleakFilter()
     if (pixelCount() == 0)
         return;
     const Leak leak = Leak::drawn(*this);
-    forEachPixelAt(*this, [&](Rgb c, int x, int y) {
-        const float shade = float(1.0 - brightness(c));
-        const float k = shade * shade;
-        c = eachChannel(c, [=](float v) { return float(v * (1.0f - k) + v * k * 0.4); });
+    const auto glowAt = [=](Plane& glow, int dx, int dy) { leak.glowAt(glow, dx, dy); };
+    forEachBlockAround(*this, leak.x, leak.y, glowAt, [](Block& block, const float* glow) {
+        workPlanes(block, [=](Rgb c, int i) {
+            const float shade = float(1.0 - brightness(c));
+            const float k = shade * shade;
+            c = eachChannel(c, [=](float v) { return float(v * (1.0f - k) + v * k * 0.4); });
 
-        float l = brightness(c);
-        const float a = float((1.0 - l * l * l) * 0.53);
-        c = {castBy(c.r, a, l, 117.0f) + 20.0f, castBy(c.g, a, l, 67.0f) + 20.0f, castBy(c.b, a, l, 110.0f) + 20.0f};
+            float l = brightness(c);
+            const float a = float((1.0 - l * l * l) * 0.53);
+            c = {castBy(c.r, a, l, 117.0f) + 20.0f, castBy(c.g, a, l, 67.0f) + 20.0f, castBy(c.b, a, l, 110.0f) + 20.0f};
 
-        const float m = luminance(c) * (1.0f - 0.9f);
-        c = eachChannel(c, [=](float v) { return v * 0.9f + m; });
+            const float m = luminance(c) * (1.0f - 0.9f);
+            c = eachChannel(c, [=](float v) { return v * 0.9f + m; });
 
-        const float g = leak.glowAt(x, y);
-        l = brightness(c);
-        c = {castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};
-
-        const float p = std::pow(brightness(c), 1.5f);
-        return eachChannel(c, [=](float v) { return contrast(v, p); });
+            const float g = glow[i];
+            l = brightness(c);
+            return Rgb{castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};
+        });
+        Plane p = planeOf(block, brightness);
+        raise(p, 1.5f);
+        workPlanes(block, [&](Rgb c, int i) { return eachChannel(c, [&](float v) { return contrast(v, p.at[i]); }); });
     });
 
     const float halfWidth = width * 0.5f, halfHeight = height * 0.5f;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <type_traits>
+#include <vector>
 
 // Passes over the pixels of an image. A look gives what happens to one pixel; the loops and the byte conversions live
 // here. A pixel function should choose between values rather than branch, so that a whole block becomes vector code. It
@@ -32,6 +33,22 @@ template <class Function> void forEachBlock(CharImage& image, Function function)
     }
 }
 
+/// Works `function(colour, i)` into the planes of a block.
+template <class Function> inline void workPlanes(Block& block, Function function)
+{
+    for (int i = 0; i < blockPixels; i++)
+        block.setColour(i, function(block.colour(i), i));
+}
+
+/// What `function(colour)` gives for each pixel of a block.
+template <class Function> inline Plane planeOf(const Block& block, Function function)
+{
+    Plane plane;
+    for (int i = 0; i < blockPixels; i++)
+        plane.at[i] = function(block.colour(i));
+    return plane;
+}
+
 /// Works `function(colour, i)` into the planes of a block and stores them.
 template <class Function> inline void workBlock(Block& block, Function function)
 {
@@ -40,8 +57,7 @@ template <class Function> inline void workBlock(Block& block, Function function)
             block.r.at[i] = function(block.colour(i), i);
         block.storeGrey();
     } else {
-        for (int i = 0; i < blockPixels; i++)
-            block.setColour(i, function(block.colour(i), i));
+        workPlanes(block, function);
         block.storePlanes();
     }
 }
@@ -75,6 +91,88 @@ template <class Function> void forEachPixel(CharImage& image, const ToneTable& t
         tones.fill(block, tone);
         workBlock(block, [&](Rgb c, int i) { return function(c, tone.at[i]); });
     });
+}
+
+/// Visits the image in blocks that lie within a row each: `function(block, x, y)`, the place being that of the block's
+/// first pixel.
+template <class Function> void forEachBlockOfRows(CharImage& image, Function function)
+{
+    Block block;
+    for (int y = 0; y < image.height; y++)
+        for (int x = 0; x < image.width; x += blockPixels) {
+            unsigned char* pixels = image.data + (std::size_t(y) * image.width + x) * 4;
+            const int inBlock = std::min(blockPixels, image.width - x);
+            block.read(pixels, inBlock);
+            function(block, x, y);
+            block.write(pixels, inBlock);
+        }
+}
+
+/// A weight per pixel that depends only on how far the pixel stands from a centre across and down, in whole pixels. It is
+/// evaluated once for the up to four pixels that mirror one another about the centre.
+template <class Evaluate> class MirroredWeights {
+public:
+    /// `evaluate(plane, dx, dy)` fills a plane for the distances across dx, dx + 1, ... and the distance down dy.
+    MirroredWeights(const CharImage& image, int centreX, int centreY, Evaluate evaluateRow)
+        : m_centreX(centreX)
+        , m_centreY(centreY)
+        , m_reach(std::max(centreX, image.width - 1 - centreX))
+        , m_evaluate(evaluateRow)
+        , m_half(roundUp(m_reach + 1))
+        , m_row(roundUp(image.width))
+    {
+    }
+
+    int farthestRow(const CharImage& image) const { return std::max(m_centreY, image.height - 1 - m_centreY); }
+
+    /// The weights of the two rows that stand `dy` from the centre, from the left edge on.
+    const std::vector<float>& row(int dy, int width)
+    {
+        Plane plane;
+        for (int dx = 0; dx <= m_reach; dx += blockPixels) {
+            m_evaluate(plane, dx, dy);
+            std::memcpy(m_half.data() + dx, plane.at, sizeof plane.at);
+        }
+        for (int x = 0; x < m_centreX && x < width; x++)
+            m_row[x] = m_half[m_centreX - x];
+        for (int x = std::max(m_centreX, 0); x < width; x++)
+            m_row[x] = m_half[x - m_centreX];
+        return m_row;
+    }
+
+private:
+    static std::size_t roundUp(int count) { return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels; }
+
+    int m_centreX, m_centreY, m_reach;
+    Evaluate m_evaluate;
+    std::vector<float> m_half, m_row;
+};
+
+/// Visits the image in blocks with a weight per pixel, mirrored about a pixel of the image: `function(block, weights)`
+/// works on the planes of the block, which are then stored. `evaluate` is that of MirroredWeights.
+template <class Evaluate, class Function>
+void forEachBlockAround(CharImage& image, int centreX, int centreY, Evaluate evaluate, Function function)
+{
+    MirroredWeights weights(image, centreX, centreY, evaluate);
+    Block block;
+    const auto work = [&](int y, const std::vector<float>& row) {
+        for (int x = 0; x < image.width; x += blockPixels) {
+            unsigned char* pixels = image.data + (std::size_t(y) * image.width + x) * 4;
+            const int inBlock = std::min(blockPixels, image.width - x);
+            block.read(pixels, inBlock);
+            block.fillPlanes();
+            function(block, row.data() + x);
+            block.storePlanes();
+            block.write(pixels, inBlock);
+        }
+    };
+    for (int dy = 0; dy <= weights.farthestRow(image); dy++) {
+        const std::vector<float>& row = weights.row(dy, image.width);
+        if (centreY + dy < image.height)
+            work(centreY + dy, row);
+        if (dy > 0 && centreY - dy >= 0)
+            work(centreY - dy, row);
+    }
 }
 
 /// Each pixel becomes `function(colour, x, y)`.

@@ -1,8 +1,8 @@
 #include "image/CharImage.h"
 #include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Power.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace {
 
@@ -13,13 +13,20 @@ int softeningSize(int side)
     return size >= 7.0 ? 7 : int(size);
 }
 
-/// How far a pixel at `t` (0 at the inner, 1 at the outer radius) is darkened, 0 .. 1.
-float darkness(float t, float exponent, float strength)
+/// How far pixels are darkened, 0 .. 1, `t` running from 0 at the inner to 1 at the outer radius: `t` becomes it. Within
+/// the inner radius it is 0.
+void becomeDarkness(Plane& t, float exponent, float strength)
 {
-    const float a = std::pow(t, 1.5f);
-    const float e = std::pow(t, exponent);
-    const float dark = ((1.0f - a) * e + t * a) * strength;
-    return dark < 0.0f ? 0.0f : dark > 1.0f ? 1.0f : dark;
+    Plane a, e;
+    for (int i = 0; i < blockPixels; i++)
+        a.at[i] = e.at[i] = t.at[i] < 0.0f ? 1.0f : t.at[i];
+    raise(a, 1.5f);
+    raise(e, exponent);
+    for (int i = 0; i < blockPixels; i++) {
+        const float dark = ((1.0f - a.at[i]) * e.at[i] + t.at[i] * a.at[i]) * strength;
+        const float held = dark < 0.0f ? 0.0f : dark > 1.0f ? 1.0f : dark;
+        t.at[i] = t.at[i] < 0.0f ? 0.0f : held;
+    }
 }
 
 /// The share of the blurred copy at `t`.
@@ -34,29 +41,50 @@ float softness(float t)
 void CharImage::vignette(
     float innerRadius, float outerRadius, float exponent, float strength, bool boostSaturation, bool softenEdges)
 {
-    std::unique_ptr<CharImage> blurred;
-    if (softenEdges) {
-        blurred = std::make_unique<CharImage>(*this);
-        blurred->makeBlurry(softeningSize(std::max(width, height)), 0.0f);
-    }
     const int cx = width / 2, cy = height / 2;
     const float span = outerRadius - innerRadius;
-    forEachPixelAt(*this, [&](Rgb c, int x, int y) {
-        const float dx = float(x - cx), dy = float(y - cy);
-        const float t = (std::sqrt(dx * dx + dy * dy) - innerRadius) / span;
-        if (t < 0.0f)
-            return c;
-        const float dark = darkness(t, exponent, strength), keep = 1.0f - dark;
-        if (softenEdges) {
-            const float w = softness(t);
-            const Rgb b = pixelAt(blurred->data + (std::size_t(y) * width + x) * bytesPerPixel);
-            if (w > 0.0f)
-                c = {(1.0f - w) * c.r + w * b.r, (1.0f - w) * c.g + w * b.g, (1.0f - w) * c.b + w * b.b};
+    const auto placeAt = [=](Plane& t, int firstX, int y) {
+        for (int i = 0; i < blockPixels; i++) {
+            const float dx = float(firstX + i), dy = float(y);
+            t.at[i] = (std::sqrt(dx * dx + dy * dy) - innerRadius) / span;
         }
+    };
+    const auto darken = [=](Rgb c, float dark) {
         if (boostSaturation) {
             const float level = luminance(c);
             c = eachChannel(c, [=](float v) { return v * (1.0f + dark) - dark * level; });
         }
-        return eachChannel(c, [=](float v) { return keep * v; });
+        return eachChannel(c, [=](float v) { return (1.0f - dark) * v; });
+    };
+    if (!softenEdges) {
+        const auto darknessAt = [=](Plane& weights, int dx, int dy) {
+            placeAt(weights, dx, dy);
+            becomeDarkness(weights, exponent, strength);
+        };
+        forEachBlockAround(*this, cx, cy, darknessAt, [=](Block& block, const float* dark) {
+            workPlanes(block, [=](Rgb c, int i) { return darken(c, dark[i]); });
+        });
+        return;
+    }
+
+    CharImage blurred(*this);
+    blurred.makeBlurry(softeningSize(std::max(width, height)), 0.0f);
+    forEachBlockOfRows(*this, [&](Block& block, int x, int y) {
+        Plane t, dark;
+        placeAt(t, x - cx, y - cy);
+        dark = t;
+        becomeDarkness(dark, exponent, strength);
+        const unsigned char* soft = blurred.data + (std::size_t(y) * width + x) * bytesPerPixel;
+        const int inBlock = std::min(blockPixels, width - x);
+        block.fillPlanes();
+        for (int i = 0; i < inBlock; i++) {
+            const float w = softness(t.at[i]);
+            const Rgb c = block.colour(i), b = pixelAt(soft + i * bytesPerPixel);
+            if (w > 0.0f)
+                block.setColour(i,
+                    {(1.0f - w) * c.r + w * b.r, (1.0f - w) * c.g + w * b.g, (1.0f - w) * c.b + w * b.b});
+        }
+        workPlanes(block, [&](Rgb c, int i) { return darken(c, dark.at[i]); });
+        block.storePlanes();
     });
 }

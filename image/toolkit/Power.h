@@ -1,0 +1,9 @@
+#pragma once
+
+#include "image/toolkit/Block.h"
+
+/// Raises every value of a block to `exponent`: each result is exactly what std::pow(value, exponent) gives.
+void raise(Plane& values, float exponent);
+
+/// The shared S-curve of Arithmetic.h on every value of a block.
+void applySCurve(Plane& values, float exponent);
