@@ -1,6 +1,7 @@
 // Measures what a person waits for, with a photo of 24 megapixels, on a real display: journey_bench LUMORA FOLDER
 //
-// LUMORA is the program, FOLDER takes the photo. Each number is the least of a few measurements.
+// LUMORA is the program, FOLDER takes the photo. A time is the least of a few measurements, but opening is measured
+// once; it is a person's time unless it says that it is the processor's.
 
 #include "app/DragDropImageView.h"
 #include "app/MainWindowController.h"

@@ -7,7 +7,7 @@
 #include <iostream>
 #include <sched.h>
 #include <string>
-#include <sys/resource.h>
+#include <time.h>
 #include <unistd.h>
 
 namespace {
@@ -37,16 +37,11 @@ private:
     int kept;
 };
 
-double seconds(const timeval& time)
-{
-    return double(time.tv_sec) + double(time.tv_usec) * 1e-6;
-}
-
 double processorSeconds()
 {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 void stayOnOneCore();
 /// Seconds of the steady clock that an action takes. What it prints to standard output is thrown away.
 double secondsOf(const std::function<void()>& action);
-/// The same in processor time, of the program and of the system for it.
+/// The same in processor time, of the program and of the system for it: other programs on its core do not count.
 double processorSecondsOf(const std::function<void()>& action);
 /// The most memory that a process has held so far, in MiB; 0: this process.
 double peakMemory(long long process = 0);

@@ -115,11 +115,13 @@ Subject::Subject(int width, int height)
     , copySeconds(1e9)
 {
     for (int i = 0; i < 10; i++)
-        copySeconds = std::min(copySeconds, secondsOf([this] { restore(); }));
+        copySeconds = std::min(copySeconds, processorSecondsOf([this] { restore(); }));
 }
 
 void Subject::restore()
 {
+    made.reset();
+    rendered = {};
     std::memcpy(image->data, photo.pixels.data(), photo.pixels.size());
 }
 

@@ -19,12 +19,12 @@ struct Subject {
     std::vector<unsigned char> map;
     double copySeconds; ///< of a plain memcpy of the photo
 
-    // What a row makes; gone before the next measurement.
+    // What a row makes, gone before the next measurement.
     std::unique_ptr<CharImage> made;
     QImage rendered;
     unsigned char* block = nullptr;
 
-    void restore();
+    void restore(); ///< as before the first measurement
 };
 
 /// One row of the table.
