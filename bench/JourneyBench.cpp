@@ -1,0 +1,180 @@
+// Measures what a person waits for, with a photo of 24 megapixels, on a real display: journey_bench LUMORA FOLDER
+//
+// LUMORA is the program, FOLDER takes the photo. A time is the least of a few measurements, but opening is measured
+// once; it is a person's time unless it says that it is the processor's.
+
+#include "app/DragDropImageView.h"
+#include "app/MainWindowController.h"
+#include "bench/Measure.h"
+#include "bench/Photo.h"
+#include "bench/Start.h"
+#include "image/CharImage.h"
+#include "render/PhotoLoader.h"
+#include "render/PhotoSaver.h"
+#include "render/RenderPipeline.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QLoggingCategory>
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr int width = 6000, height = 4000, previewSide = 1200, rounds = 3;
+
+double leastOf(int times, const std::function<double()>& measure)
+{
+    double least = measure();
+    for (int i = 1; i < times; i++)
+        least = std::min(least, measure());
+    return least;
+}
+
+bool writePhoto(const QString& path)
+{
+    const Picture photo = benchPhoto(width, height);
+    return QImage(photo.pixels.data(), width, height, qsizetype(width) * 4, QImage::Format_RGBX8888)
+        .save(path, "jpeg", 90);
+}
+
+void say(const QString& what, double value, const char* unit)
+{
+    std::printf("%-52s %9.1f %s\n", qPrintable(what), value, unit);
+    std::fflush(stdout);
+}
+
+void measureStart(const QString& program, const QString& photo)
+{
+    Start best = watchStart(program, photo);
+    for (int i = 1; i < rounds; i++) {
+        const Start start = watchStart(program, photo);
+        best.firstPaint = std::min(best.firstPaint, start.firstPaint);
+        best.photo = std::min(best.photo, start.photo);
+        best.peakMemory = std::max(best.peakMemory, start.peakMemory);
+    }
+    say("start to the window's first paint", best.firstPaint * 1e3, "ms");
+    say("start to the photo on the screen", best.photo * 1e3, "ms");
+    say("peak memory of the program with the photo open", best.peakMemory, "MiB");
+}
+
+/// Paints the widget now, and waits until the display has it.
+void paint(QWidget& widget)
+{
+    widget.repaint();
+    QGuiApplication::sync();
+}
+
+void measureWindow(const QByteArray& photo)
+{
+    MainWindowController window;
+    window.show();
+    QApplication::processEvents();
+    window.displayRes = previewSide;
+    auto& preview = *window.findChild<DragDropImageView*>();
+    const double open = secondsOf([&] {
+        if (!window.loadImageFromFile(photo))
+            qFatal("the photo cannot be opened");
+        paint(window);
+    });
+    const QSize size = window.getoriginalDisplay().size();
+    say(QStringLiteral("open, to the painted window"), open * 1e3, "ms");
+
+    double logs = 0;
+    const GrowArray<int> looks = CharImage::getLooks();
+    for (int i = 0; i < looks.numThings; i++) {
+        const int look = looks.theArray[i];
+        const double press = leastOf(rounds, [&] {
+            secondsOf([&] { window.applyOriginalFilter(); });
+            paint(window);
+            return secondsOf([&] {
+                window.pressFilterButton(look);
+                paint(preview);
+            });
+        });
+        logs += std::log(press);
+        say(QStringLiteral("press to the painted preview, %1 x %2: %3")
+                .arg(size.width())
+                .arg(size.height())
+                .arg(QLatin1String(CharImage::getFilterName(look))),
+            press * 1e3, "ms");
+    }
+    say(QStringLiteral("geometric mean of the looks"), std::exp(logs / looks.numThings) * 1e3, "ms");
+    say(QStringLiteral("ten thumbnails, painted"),
+        1e3
+            * leastOf(rounds,
+                [&] {
+                    return secondsOf([&] {
+                        window.updateThumbnailImages();
+                        paint(window);
+                    });
+                }),
+        "ms");
+}
+
+/// From file to file through the program's own steps, and through the codec alone.
+void measureSaving(const QByteArray& photo)
+{
+    const QByteArray saved = photo + ".saved.jpg";
+    double decode = 1e9, render = 1e9, encode = 1e9, total = 1e9;
+    for (int i = 0; i < rounds; i++) {
+        LoadedPhoto loaded;
+        QImage picture;
+        const double decoding = processorSecondsOf([&] { loaded = loadPhoto(photo); });
+        const double rendering = processorSecondsOf(
+            [&] { picture = renderPhoto(loaded.image, {.filter = CharImage::getFilterFromName("Helga")}); });
+        const double encoding = processorSecondsOf([&] {
+            QString reason;
+            if (!writeFileAtomically(saved, encodeJpeg(picture, loaded.exif), &reason))
+                qFatal("%s", qPrintable(reason));
+        });
+        decode = std::min(decode, decoding);
+        render = std::min(render, rendering);
+        encode = std::min(encode, encoding);
+        total = std::min(total, decoding + rendering + encoding);
+    }
+    say(QStringLiteral("load, processor time"), decode * 1e3, "ms");
+    say(QStringLiteral("render with Helga, processor time"), render * 1e3, "ms");
+    say(QStringLiteral("encode and write, processor time"), encode * 1e3, "ms");
+    say(QStringLiteral("load, render, save: processor time"), total * 1e3, "ms");
+    say(QStringLiteral("peak memory of all this"), peakMemory(), "MiB");
+
+    const double codec = leastOf(rounds, [&] {
+        return processorSecondsOf([&] {
+            const QImage picture = QImageReader(QFile::decodeName(photo)).read();
+            QBuffer buffer;
+            buffer.open(QIODevice::WriteOnly);
+            if (picture.isNull() || !QImageWriter(&buffer, "jpeg").write(picture))
+                qFatal("the codec fails");
+        });
+    });
+    say(QStringLiteral("decode and encode alone, processor time"), codec * 1e3, "ms");
+    say(QStringLiteral("load, render, save to decode and encode alone"), total / codec, "times");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.size() != 3) {
+        std::fprintf(stderr, "journey_bench: give the program and a folder\n");
+        return 2;
+    }
+    QLoggingCategory::setFilterRules(QStringLiteral("default.info=false"));
+    const QString photo = arguments[2] + QStringLiteral("/photo.jpg");
+    if (!writePhoto(photo)) {
+        std::fprintf(stderr, "journey_bench: cannot write %s\n", qPrintable(photo));
+        return 1;
+    }
+    measureStart(arguments[1], photo);
+    stayOnOneCore();
+    forgetPeakMemory();
+    measureWindow(QFile::encodeName(photo));
+    measureSaving(QFile::encodeName(photo));
+}

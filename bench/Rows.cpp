@@ -1,0 +1,136 @@
+#include "bench/Rows.h"
+
+#include "bench/Measure.h"
+#include "bench/Photo.h"
+#include "render/ImageBridge.h"
+#include "render/RenderPipeline.h"
+#include "tests/reference/Looks.h"
+#include "tests/reference/Toolkit.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <map>
+
+namespace {
+
+const std::map<int, void (*)(Picture&)> lookTwins = {{0, reference::colorcross}, {1, reference::helga},
+    {2, reference::lolo}, {3, reference::magazine}, {4, reference::instant}, {5, reference::mono},
+    {6, reference::look1962}, {7, reference::look1974}, {8, reference::cinema}, {9, reference::infrared},
+    {10, reference::fisheye}, {17, reference::lightleak}, {18, reference::delicious}, {19, reference::arctic},
+    {20, reference::blowout}};
+
+float halfDiagonal(int width, int height)
+{
+    return std::hypot(float(width), float(height)) * 0.5f;
+}
+
+void addLooks(std::vector<Row>& rows)
+{
+    const GrowArray<int> looks = CharImage::getLooks();
+    for (int i = 0; i < looks.numThings; i++) {
+        const int look = looks.theArray[i];
+        rows.push_back({.name = CharImage::getFilterName(look),
+            .operation = [look](Subject& s) { s.image->applyFilter(look); },
+            .twin = lookTwins.at(look),
+            .isLook = true});
+    }
+}
+
+void addToolkit(std::vector<Row>& rows)
+{
+    rows.push_back({.name = "levels stretch",
+        .operation = [](Subject& s) { s.image->fillHistogram(0.01f, 0.01f, 0, 255, false, false); },
+        .twin = [](Picture& p) { reference::fillHistogram(p, 0.01f, 0.01f, 0, 255, false, false); }});
+    rows.push_back({.name = "blur, 7 taps",
+        .operation = [](Subject& s) { s.image->makeBlurry(7, 1.5f); },
+        .twin = [](Picture& p) { reference::makeBlurry(p, 7, 1.5f); }});
+    rows.push_back({.name = "vignette",
+        .operation =
+            [](Subject& s) {
+                const float outer = halfDiagonal(s.image->width, s.image->height);
+                s.image->vignette(outer * 0.4f, outer, 1.2f, 0.6f, true, false);
+            },
+        .twin =
+            [](Picture& p) {
+                const float outer = halfDiagonal(p.width, p.height);
+                reference::vignette(p, outer * 0.4f, outer, 1.2f, 0.6f, true, false);
+            }});
+    // One spot of nine pixels to a hundred pixels.
+    rows.push_back(
+        {.name = "noise", .operation = [](Subject& s) { s.image->addNoise(int(s.image->pixelCount() / 100), 3, 40); }});
+    rows.push_back({.name = "edge map", .operation = [](Subject& s) { s.image->fillEdgeDetectMap(s.map.data()); }});
+    rows.push_back({.name = "map smoothing, 10 taps",
+        .operation =
+            [](Subject& s) {
+                CharImage::smoothCharMap(s.map.data(), s.image->width, s.image->height, 10, 1.0f, 20.0f);
+            },
+        .prepare = [](Subject& s) { s.image->fillEdgeDetectMap(s.map.data()); }});
+}
+
+void addBorders(std::vector<Row>& rows)
+{
+    for (const char* name : {"Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema"})
+        rows.push_back({.name = std::string("border ") + name,
+            .operation = [border = CharImage::getFilterFromName(name)](Subject& s) {
+                s.image->applyFilterBorder(border, std::max(s.image->width, s.image->height));
+            }});
+}
+
+/// Here the allocation belongs to what is measured: a new block is what the bridge gives.
+void addBridge(std::vector<Row>& rows)
+{
+    rows.push_back({.name = "to the engine, 1:1", .operation = [](Subject& s) {
+                        s.made.reset(charImageFromNSImage(s.platform, -1, -1, -1, 0, 0, 0, 0, false, 3));
+                    }});
+    rows.push_back({.name = "to the engine, a fifth", .operation = [](Subject& s) {
+                        const int width = s.platform.width() / 5, height = s.platform.height() / 5;
+                        s.made.reset(charImageFromNSImage(s.platform, -1, width, height, 0, 0, 0, 0, false, 3));
+                    }});
+    rows.push_back({.name = "to the platform, a copy",
+        .operation = [](Subject& s) { s.rendered = NSImageFromCharImage(s.image.get()); }});
+    rows.push_back({.name = "to the platform, the block",
+        .operation =
+            [](Subject& s) { s.rendered = getImageRefFromRGBACharArray(s.block, s.photo.width, s.photo.height); },
+        .prepare =
+            [](Subject& s) {
+                s.block = new unsigned char[s.photo.pixels.size()];
+                std::memcpy(s.block, s.photo.pixels.data(), s.photo.pixels.size());
+            }});
+    const int helga = CharImage::getFilterFromName("Helga"), instant = CharImage::getFilterFromName("Instant");
+    const int square = CharImage::getFilterFromName("Square");
+    rows.push_back({.name = "pipeline Helga, Square, Instant", .operation = [=](Subject& s) {
+                        s.rendered =
+                            renderPhoto(s.platform, {.filter = helga, .cropFilter = square, .borderFilter = instant});
+                    }});
+}
+
+} // namespace
+
+Subject::Subject(int width, int height)
+    : photo(benchPhoto(width, height))
+    , platform(photo.pixels.data(), width, height, qsizetype(width) * 4, QImage::Format_RGBX8888)
+    , image(imageOf(photo))
+    , map(image->pixelCount())
+    , copySeconds(1e9)
+{
+    for (int i = 0; i < 10; i++)
+        copySeconds = std::min(copySeconds, processorSecondsOf([this] { restore(); }));
+}
+
+void Subject::restore()
+{
+    made.reset();
+    rendered = {};
+    std::memcpy(image->data, photo.pixels.data(), photo.pixels.size());
+}
+
+std::vector<Row> allRows()
+{
+    std::vector<Row> rows;
+    addLooks(rows);
+    addToolkit(rows);
+    addBorders(rows);
+    addBridge(rows);
+    return rows;
+}
