@@ -96,6 +96,13 @@ QString sizeRefusal(const QSize& size, int bytesPerPixel)
     return {};
 }
 
+/// Formats of the platform that hold drawings and icons rather than photos. The icons' decoder allocates whatever a file
+/// claims, and a drawing may take any time to be rendered.
+bool isForPhotos(const QByteArray& format)
+{
+    return format != "icns" && format != "svg" && format != "svgz" && format != "pdf";
+}
+
 /// Decodes the first picture of the file; gives the reason when there is none.
 QString decode(QIODevice& file, QImage& image)
 {
@@ -113,7 +120,7 @@ QString decode(QIODevice& file, QImage& image)
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    if (!reader.canRead())
+    if (!reader.canRead() || !isForPhotos(reader.format()))
         return text("The file is not a picture of a kind that can be read.");
     const QSize size = reader.size();
     if (size.isValid()) {

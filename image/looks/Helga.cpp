@@ -52,12 +52,9 @@ Rgb contrastAndLift(Rgb c, float contrast)
 
 /// Darkens and saturates by the fall-off `e` (0 at the centre, 1 far out). Saturation may pass 1: the black floor
 /// catches it.
-Rgb darkenAndSaturate(Rgb c, float e)
+Hsv darkenAndSaturate(Hsv c, float e)
 {
-    Hsv hsv = hsvOf(c);
-    hsv.s = float(hsv.s * (1.0 + 0.4 * e));
-    hsv.v = float(hsv.v * (1.0 - e));
-    return rgbOf(hsv);
+    return {c.h, float(c.s * (1.0 + 0.4 * e)), float(c.v * (1.0 - e))};
 }
 
 } // namespace
@@ -80,8 +77,15 @@ void CharImage::applyHelgaFilter()
     };
     const float floor = float(p.blackFloor);
     forEachBlockAround(*this, width / 2, height / 2, fallOffAt, [=](Block& block, const float* fallOff) {
+        workPlanes(block, [=](Rgb c, int) { return contrastAndLift(c, p.contrast); });
+        // Hue, saturation and value stand in the planes for a while: one loop for all of it would be too much for the
+        // compilers' vectorisers.
         workPlanes(block, [=](Rgb c, int i) {
-            c = darkenAndSaturate(contrastAndLift(c, p.contrast), fallOff[i]);
+            const Hsv hsv = darkenAndSaturate(hsvOf(c), fallOff[i]);
+            return Rgb {hsv.h, hsv.s, hsv.v};
+        });
+        workPlanes(block, [=](Rgb c, int) { return rgbOf(Hsv {c.r, c.g, c.b}); });
+        workPlanes(block, [=](Rgb c, int) {
             return eachChannel(c, [=](float v) { return float(truncateToInt(v)) < floor ? floor : v; });
         });
     });

@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <cstdlib>
 
 // std::pow one value at a time would cost more than all the rest of a look. Here the power is formed in double for a
 // whole block, as 2 to the exponent times the binary logarithm, to better than 2^-31 of its value. The C library's
@@ -16,17 +17,27 @@ constexpr double log2 = 0.6931471805599453;
 
 struct Power {
     double value;
-    double log; ///< of the value, to the base 2
+    double log; ///< of the value, to the base 2, or a bound of it
 };
+
+// base = m 2^k with m on sqrt(1/2) .. sqrt(2).
+constexpr std::uint32_t rootOfHalf = 0x3f3504f3u;
+
+inline int wholeLog(float base)
+{
+    return std::int32_t(std::bit_cast<std::uint32_t>(base) - rootOfHalf) >> 23;
+}
+
+inline float mantissa(float base)
+{
+    return std::bit_cast<float>(((std::bit_cast<std::uint32_t>(base) - rootOfHalf) & 0x007fffffu) + rootOfHalf);
+}
 
 /// For a normal positive float.
 inline Power powerOf(float base, double exponent)
 {
-    // base = m 2^k with m on sqrt(1/2) .. sqrt(2), and the logarithm of m by the series of the inverse hyperbolic tangent.
-    constexpr std::uint32_t rootOfHalf = 0x3f3504f3u;
-    const std::uint32_t bits = std::bit_cast<std::uint32_t>(base) - rootOfHalf;
-    const int k = std::int32_t(bits) >> 23;
-    const double m = std::bit_cast<float>((bits & 0x007fffffu) + rootOfHalf);
+    // The logarithm of m by the series of the inverse hyperbolic tangent.
+    const double m = mantissa(base);
     const double z = (m - 1.0) / (m + 1.0), z2 = z * z;
     double series = 1.0 / 11.0;
     series = series * z2 + 1.0 / 9.0;
@@ -34,7 +45,7 @@ inline Power powerOf(float base, double exponent)
     series = series * z2 + 1.0 / 5.0;
     series = series * z2 + 1.0 / 3.0;
     series = series * z2 + 1.0;
-    const double y = exponent * (double(k) + z * series * twoOverLog2);
+    const double y = exponent * (wholeLog(base) + z * series * twoOverLog2);
 
     // y = n + f with f on -1/2 .. 1/2; adding 1.5 x 2^52 leaves n in the lowest bits.
     constexpr double rounder = 6755399441055744.0;
@@ -53,15 +64,29 @@ inline Power powerOf(float base, double exponent)
     return {e * scale, y};
 }
 
-/// Whether the C library might round to another float: its own error, in units of the last place beyond the half of any
-/// rounding, is below 1/64 + |log| / 512 for results that are not extreme (its logarithm is good to 1.83 x 2^-33).
-inline bool isClose(Power p)
+/// The same for the exponent 1.5, which half of the looks use.
+inline Power sesquiPowerOf(float base)
 {
-    constexpr double unit = 536870912.0; // 2^29 steps of a double make one of a float
+    const double x = base;
+    return {x * std::sqrt(x), 1.5 * (std::abs(wholeLog(base)) + 1)};
+}
+
+// The C library might round to another float next to the middle between two. Distances are in steps of a double, 2^29 of
+// which make one of a float.
+constexpr double unit = 536870912.0;
+
+inline double distanceFromMiddle(Power p)
+{
     const std::int64_t below = std::bit_cast<std::int64_t>(p.value) & 0x1fffffff;
-    const double fromMiddle = std::fabs(double(std::int32_t(below)) - unit / 2);
+    return std::fabs(double(std::int32_t(below)) - unit / 2);
+}
+
+/// Beyond the half of any rounding, the library's own error is below 1/64 + |log| / 512 of a float's last place for
+/// results that are not extreme (its logarithm is good to 1.83 x 2^-33).
+inline double unsureDistance(Power p)
+{
     const double log = std::fabs(p.log);
-    return !(fromMiddle > unit / 64 + log * (unit / 512)) || !(log < 20.0);
+    return log < 20.0 ? unit / 64 + log * (unit / 512) : unit;
 }
 
 /// A base for which powerOf is not made.
@@ -70,27 +95,38 @@ inline bool isOdd(float base)
     return !(base >= 1e-30f && base <= 1e30f);
 }
 
-} // namespace
-
-void raise(Plane& values, float exponent)
+/// `power(base)` for each value, and std::pow where it is not sure.
+template <class Function> void raiseBy(Plane& values, float exponent, Function power)
 {
     Plane result;
-    alignas(64) unsigned char unsure[blockPixels];
+    alignas(64) int unsure[blockPixels];
     for (int i = 0; i < blockPixels; i++) {
         const float base = values.at[i];
         const bool odd = isOdd(base);
-        const Power p = powerOf(odd ? 1.0f : base, exponent);
+        const Power p = power(odd ? 1.0f : base);
         result.at[i] = float(p.value);
-        unsure[i] = odd | isClose(p);
+        const float far = float(distanceFromMiddle(p) - unsureDistance(p));
+        unsure[i] = odd ? 1 : far > 0.0f ? 0 : 1;
     }
     for (int i = 0; i < blockPixels; i += 8) {
-        std::uint64_t any;
-        std::memcpy(&any, unsure + i, sizeof any);
+        int any = 0;
+        for (int j = i; j < i + 8; j++)
+            any |= unsure[j];
         for (int j = i; any != 0 && j < i + 8; j++)
             if (unsure[j])
                 result.at[j] = std::pow(values.at[j], exponent);
     }
     values = result;
+}
+
+} // namespace
+
+void raise(Plane& values, float exponent)
+{
+    if (exponent == 1.5f)
+        raiseBy(values, exponent, sesquiPowerOf);
+    else
+        raiseBy(values, exponent, [=](float base) { return powerOf(base, exponent); });
 }
 
 void applySCurve(Plane& values, float exponent)

@@ -107,7 +107,8 @@ private slots:
 
     void aFileThatIsNoPreferencesIsLeftAlone()
     {
-        const QByteArray letter("Dear diary\n\0\xff\xfe of another program\n", 36);
+        const char bytes[] = "Dear diary\n\0\xff\xfe of another program\n";
+        const QByteArray letter(bytes, sizeof bytes - 1);
         setPreferences(letter);
         {
             for (int i = 0; i < 6; i++)

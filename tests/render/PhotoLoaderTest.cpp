@@ -154,6 +154,8 @@ private slots:
         QTest::addColumn<QString>("reason");
         samples::writeFile(pathOf("empty"), {});
         samples::writeFile(pathOf("text"), "Dear diary,\n");
+        // Its decoder would allocate the gigabyte that the file claims.
+        samples::writeFile(pathOf("icon"), QByteArray("icns\x40\0\0\x10ic07\x40\0\0\x08", 16));
         QVERIFY(mkfifo(pathOf("pipe").constData(), 0644) == 0);
         QVERIFY(symlink("loop", pathOf("loop").constData()) == 0);
         QTest::newRow("missing") << pathOf("missing") << "The file does not exist.";
@@ -162,6 +164,7 @@ private slots:
         QTest::newRow("folder") << pathOf("") << "It is a folder, not a picture.";
         QTest::newRow("empty") << pathOf("empty") << "The file is empty.";
         QTest::newRow("text") << pathOf("text") << "The file is not a picture of a kind that can be read.";
+        QTest::newRow("icon") << pathOf("icon") << "The file is not a picture of a kind that can be read.";
         QTest::newRow("pipe that nobody writes to") << pathOf("pipe") << "It is not a file with a picture.";
         QTest::newRow("device") << QByteArray("/dev/zero") << "It is not a file with a picture.";
         QTest::newRow("link to itself") << pathOf("loop")
