@@ -13,7 +13,7 @@ void CharImage::applyArcticFilter()
         return 1.0f - (lum < pivot ? std::pow((pivot - lum) * (1.0f / 135.0f), 1.1f) : (lum - pivot) * (1.0f / 120.0f));
     });
     forEachPixel(*this, strengths, [](Rgb c, float strength) {
-        const float lum = luminance(c);
+        const float lum = byteLuminance(c);
         const float t = float(lum * per255);
         c = {c.r * 0.63f + t * 14.8f, c.g * 0.63f + t * 14.8f, c.b * 0.63f + t * 59.2f};
         c = partedTones(c, lum < pivot, strength);

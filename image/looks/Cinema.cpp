@@ -26,7 +26,7 @@ void CharImage::applyCinemaFilter()
     const Levels levels = levelsOf(*this, 0.05f, 0.0f, 5.0f, 255.0f, true, true);
     forEachPixel(*this, [=](Rgb c) {
         c = eachChannel(c, levels);
-        const float boost = float(luminance(c) * per255);
+        const float boost = float(byteLuminance(c) * per255);
         c = eachChannel(c, [=](float v) { return v * (1.0f - boost) + v * boost * 1.5f; });
         c = eachChannel(c, [](float v) { return float((v - 128.0) * double(1.1f) + 128.0); });
 

@@ -30,7 +30,7 @@ namespace {
 void tintAndMute(CharImage& image, const HelgaParameters& p)
 {
     forEachPixel(image, [&](Rgb c) {
-        const float l = float(luminance(c) * per255);
+        const float l = float(byteLuminance(c) * per255);
         c = {p.tint[0] * l * 0.4f + c.r * 0.8f, p.tint[1] * l * 0.4f + c.g * 0.8f, p.tint[2] * l * 0.4f + c.b * 0.8f};
         const float level = luminance(c) * (1.0f - 0.6f);
         c = eachChannel(c, [=](float v) { return v * 0.6f + level; });

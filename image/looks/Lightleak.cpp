@@ -64,7 +64,7 @@ void CharImage::applyLightleakFilter()
     const auto glowAt = [=](Plane& glow, int dx, int dy) { leak.glowAt(glow, dx, dy); };
     forEachBlockAround(*this, leak.x, leak.y, glowAt, [](Block& block, const float* glow) {
         workPlanes(block, [=](Rgb c, int i) {
-            const float shade = float(1.0 - brightness(c));
+            const float shade = float(1.0 - float(byteLuminance(c) * per255));
             const float k = shade * shade;
             c = eachChannel(c, [=](float v) { return float(v * (1.0f - k) + v * k * 0.4); });
 

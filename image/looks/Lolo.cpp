@@ -26,7 +26,7 @@ void CharImage::applyLoloFilter()
     const Levels levels = levelsOf(*this, 0.005f, 0.01f, p.darkLevel, p.brightLevel, true, true);
     forEachPixel(*this, [=](Rgb c) {
         c = eachChannel(c, levels);
-        const float lum = luminance(c);
+        const float lum = byteLuminance(c);
         c = eachChannel(c, [=](float v) { return p.saturation * v + lum * (1.0f - p.saturation); });
         c = eachChannel(c, [](float v) { return float((v - 128.0) * 1.5 + 128.0); });
 

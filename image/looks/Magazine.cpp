@@ -23,7 +23,7 @@ void CharImage::applyMagazineFilter()
                              : std::pow((lum - p.pivot) / (255.0f - p.pivot), p.highlightExponent));
     });
     forEachPixel(*this, strengths, [=](Rgb c, float strength) {
-        const float lum = luminance(c);
+        const float lum = byteLuminance(c);
         const float l = float(lum * per255);
         const float w = float(lum * -per255 * 0.27 + 0.27 + 0.2);
         const auto tinted = [=](float v, float tint) { return withDoubledCast(v, w, w * (l * tint)); };

@@ -39,6 +39,13 @@ inline float luminance(Rgb c)
     return float(c.r * 0.3 + c.g * 0.59 + c.b * 0.11);
 }
 
+/// The same for channels that are whole numbers of 0 .. 255, without a double: 100 times their luminance is a whole
+/// number, and a hundredth of that is far from the middle between two floats.
+inline float byteLuminance(Rgb c)
+{
+    return (c.r * 30.0f + c.g * 59.0f + c.b * 11.0f) / 100.0f;
+}
+
 /// The shared S-curve on 0 .. 1 through (0.5, 0.5): an exponent above 1 steepens the middle, below 1 flattens it.
 inline float sCurve(float x, float exponent)
 {

@@ -49,11 +49,9 @@ void CharImage::vignette(
             t.at[i] = (std::sqrt(dx * dx + dy * dy) - innerRadius) / span;
         }
     };
-    const auto darken = [=](Rgb c, float dark) {
-        if (boostSaturation) {
-            const float level = luminance(c);
+    const auto darken = [=](Rgb c, float level, float dark) {
+        if (boostSaturation)
             c = eachChannel(c, [=](float v) { return v * (1.0f + dark) - dark * level; });
-        }
         return eachChannel(c, [=](float v) { return (1.0f - dark) * v; });
     };
     if (!softenEdges) {
@@ -62,7 +60,7 @@ void CharImage::vignette(
             becomeDarkness(weights, exponent, strength);
         };
         forEachBlockAround(*this, cx, cy, darknessAt, [=](Block& block, const float* dark) {
-            workPlanes(block, [=](Rgb c, int i) { return darken(c, dark[i]); });
+            workPlanes(block, [=](Rgb c, int i) { return darken(c, byteLuminance(c), dark[i]); });
         });
         return;
     }
@@ -84,7 +82,7 @@ void CharImage::vignette(
                 block.setColour(i,
                     {(1.0f - w) * c.r + w * b.r, (1.0f - w) * c.g + w * b.g, (1.0f - w) * c.b + w * b.b});
         }
-        workPlanes(block, [&](Rgb c, int i) { return darken(c, dark.at[i]); });
+        workPlanes(block, [&](Rgb c, int i) { return darken(c, luminance(c), dark.at[i]); });
         block.storePlanes();
     });
 }

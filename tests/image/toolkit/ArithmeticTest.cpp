@@ -33,6 +33,16 @@ TEST(Arithmetic, GivesOneLuminancePerWholeTone)
                     << r << " " << g << " " << b;
 }
 
+TEST(Arithmetic, GivesTheSameLuminanceOfBytes)
+{
+    for (int r = 0; r < 256; r++)
+        for (int g = 0; g < 256; g++)
+            for (int b = 0; b < 256; b++) {
+                const Rgb c = {float(r), float(g), float(b)};
+                ASSERT_EQ(byteLuminance(c), luminance(c)) << r << ' ' << g << ' ' << b;
+            }
+}
+
 TEST(Arithmetic, CurvesThroughTheMiddle)
 {
     for (float exponent : {0.5f, 1.0f, 2.8f}) {
