@@ -3,6 +3,7 @@
 
 import glob
 import os
+import platform
 import subprocess
 import sys
 
@@ -31,6 +32,17 @@ for path in ("applications/dovrel.lumora.desktop", "metainfo/dovrel.lumora.metai
 with open(help_document, "rb") as document:
     assert document.read(5) == b"%PDF-"
 
+# The engine, for every x86-64 processor and for those with AVX2. Elsewhere, and with sanitizers, the program holds it.
+with open(os.path.join(build, "CMakeCache.txt")) as cache:
+    sanitised = "LUMORA_SANITIZE:BOOL=ON" in cache.read()
+engine = None
+if platform.machine() == "x86_64" and not sanitised:
+    (engine,) = glob.glob(os.path.join(root, "usr", "lib", "**", "lumora", "liblumora_engine.so"), recursive=True)
+    faster = os.path.join(os.path.dirname(engine), "glibc-hwcaps", "x86-64-v3", "liblumora_engine.so")
+    assert os.path.getsize(faster) > 0, faster
+    if "x86-64-v3 (supported" in subprocess.check_output(["/lib64/ld-linux-x86-64.so.2", "--help"], text=True):
+        engine = faster
+
 # A desktop's viewer that only writes down what it was asked to open.
 asked = os.path.join(home, "asked")
 viewer = os.path.join(home, "bin", "xdg-open")
@@ -42,6 +54,8 @@ os.environ["PATH"] = os.path.dirname(viewer) + ":" + os.environ["PATH"]
 
 with Lumora(build, photo, program=os.path.join(root, "usr", "bin", "lumora")) as lumora:
     lumora.wait_for_title("Lumora - " + os.path.basename(photo))
+    with open(f"/proc/{lumora.process.pid}/maps") as maps:
+        assert engine is None or os.path.realpath(engine) in maps.read(), engine
     key("F1")
     wait_for("the viewer to be asked", lambda: os.path.exists(asked))
     with open(asked) as answer:
