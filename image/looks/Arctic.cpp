@@ -12,13 +12,13 @@ void CharImage::applyArcticFilter()
     const ToneTable strengths([](float lum) {
         return 1.0f - (lum < pivot ? std::pow((pivot - lum) * (1.0f / 135.0f), 1.1f) : (lum - pivot) * (1.0f / 120.0f));
     });
-    forEachPixel(*this, strengths, [](Rgb c, float strength) {
+    const auto bleached = [](Rgb c, float strength) {
         const float lum = byteLuminance(c);
         const float t = float(lum * per255);
         c = {c.r * 0.63f + t * 14.8f, c.g * 0.63f + t * 14.8f, c.b * 0.63f + t * 59.2f};
         c = partedTones(c, lum < pivot, strength);
         const float level = luminance(c) * -(1.1f - 1.0f);
         return eachChannel(c, [=](float v) { return v * 1.1f + level; });
-    });
-    fillHistogram(0.001f, 0.01f, 0.0f, 255.0f, true, false);
+    };
+    forEachPixel(*this, strengths, bleached, Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

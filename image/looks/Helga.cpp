@@ -26,16 +26,17 @@ HelgaParameters HelgaParameters::varied(const float* random)
 
 namespace {
 
-/// A cool tint in proportion to brightness, colours muted, channels under unequal gains on purpose.
+/// A cool tint in proportion to brightness, colours muted, channels under unequal gains on purpose; then the levels.
 void tintAndMute(CharImage& image, const HelgaParameters& p)
 {
-    forEachPixel(image, [&](Rgb c) {
+    const auto muted = [&](Rgb c) {
         const float l = float(byteLuminance(c) * per255);
         c = {p.tint[0] * l * 0.4f + c.r * 0.8f, p.tint[1] * l * 0.4f + c.g * 0.8f, p.tint[2] * l * 0.4f + c.b * 0.8f};
         const float level = luminance(c) * (1.0f - 0.6f);
         c = eachChannel(c, [=](float v) { return v * 0.6f + level; });
         return Rgb{float(c.r * 280.0f * per255), float(c.g * 275.0f * per255), float(c.b * 255.0f * per255)};
-    });
+    };
+    forEachPixel(image, muted, Stretch {0.001f, 0.001f, float(p.lowLevel), 255.0f, true, true});
 }
 
 /// Contrast about 128, compressed highlights, shadows lifted by up to 35 per cent.
@@ -64,7 +65,6 @@ void CharImage::applyHelgaFilter()
 {
     const HelgaParameters p = currentParameters<HelgaParameters>();
     tintAndMute(*this, p);
-    fillHistogram(0.001f, 0.001f, float(p.lowLevel), 255.0f, true, true);
 
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
     const float reach = float(1.49 * std::sqrt(double(halfWidth * halfWidth + halfHeight * halfHeight)));

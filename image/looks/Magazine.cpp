@@ -22,7 +22,7 @@ void CharImage::applyMagazineFilter()
             - (p.pivot > lum ? std::pow((p.pivot - lum) / p.pivot, p.shadowExponent)
                              : std::pow((lum - p.pivot) / (255.0f - p.pivot), p.highlightExponent));
     });
-    forEachPixel(*this, strengths, [=](Rgb c, float strength) {
+    const auto warmed = [=](Rgb c, float strength) {
         const float lum = byteLuminance(c);
         const float l = float(lum * per255);
         const float w = float(lum * -per255 * 0.27 + 0.27 + 0.2);
@@ -31,6 +31,6 @@ void CharImage::applyMagazineFilter()
         c = partedTones(c, p.pivot > lum, strength);
         const float level = luminance(c) * (1.0f - 1.23f);
         return eachChannel(c, [=](float v) { return v * 1.23f + level; });
-    });
-    fillHistogram(0.001f, 0.01f, 0.0f, 255.0f, true, false);
+    };
+    forEachPixel(*this, strengths, warmed, Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

@@ -23,6 +23,6 @@ void CharImage::applyMonoFilter()
 {
     const auto [gain] = currentParameters<MonoParameters>();
     const auto weighted = [](float weight) { return channelCurve([=](int v) { return float(v * weight * per255); }); };
-    forEachPixel(*this, weighted(gain[0]), weighted(gain[1]), weighted(gain[2]), [](Rgb c) { return luminance(c); });
-    fillHistogram(0.01f, 0.01f, 0.0f, 255.0f, true, true);
+    forEachPixel(*this, weighted(gain[0]), weighted(gain[1]), weighted(gain[2]), [](Rgb c) { return luminance(c); },
+        Stretch {0.01f, 0.01f, 0.0f, 255.0f, true, true});
 }

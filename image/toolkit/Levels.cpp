@@ -2,6 +2,8 @@
 
 #include "image/toolkit/PixelPass.h"
 
+#include <cstring>
+
 namespace {
 
 int sumOf(const GrowArray<int>& histogram)
@@ -36,7 +38,46 @@ int brightCutOff(const GrowArray<int>& histogram, float total, float fraction)
     return 0;
 }
 
+constexpr std::size_t sampleStep = 10; ///< every tenth pixel is sampled
+constexpr std::size_t neverSampled = 11; ///< but none of the last ones
+
+/// Counts the luminances of the pixels that stand `step` apart, up to and not including the place `end`.
+void countLuminances(const unsigned char* pixels, std::size_t end, std::size_t step, GrowArray<int>* histogram, int* minLum)
+{
+    int counts[256] = {};
+    int lowest = 255, highest = -1;
+    for (std::size_t i = 0; i < end; i += step) {
+        const int lum = int(byteLuminance(pixelAt(pixels + i * 4)));
+        counts[lum]++;
+        lowest = lum < lowest ? lum : lowest;
+        highest = lum > highest ? lum : highest;
+    }
+    for (int k = 0; k <= highest; k++)
+        histogram->add(counts[k]);
+    *minLum = highest < 0 ? 0 : lowest;
+}
+
+std::size_t sampledEnd(const CharImage& image)
+{
+    return image.pixelCount() > neverSampled ? image.pixelCount() - neverSampled : 0;
+}
+
 } // namespace
+
+Levels levelsOf(const GrowArray<int>& histogram, int minLum, const Stretch& stretch)
+{
+    const float total = float(sumOf(histogram));
+    const int lowIndex = darkCutOff(histogram, total, stretch.lowFraction);
+    const int highIndex = brightCutOff(histogram, total, stretch.highFraction);
+    Levels levels;
+    // The darkest sample counts on top of the dark cut-off, which darkens pictures without black: on purpose.
+    levels.offset = float(minLum + lowIndex);
+    levels.scale = (stretch.highLevel - stretch.lowLevel) / float(highIndex - lowIndex);
+    levels.lowLevel = stretch.lowLevel;
+    levels.floor = stretch.clampToLowLevel ? stretch.lowLevel : 0.0f;
+    levels.ceiling = stretch.clampToHighLevel ? stretch.highLevel : 255.0f;
+    return levels;
+}
 
 Levels levelsOf(const CharImage& image, float lowFraction, float highFraction, float lowLevel, float highLevel,
     bool clampToLowLevel, bool clampToHighLevel)
@@ -44,34 +85,29 @@ Levels levelsOf(const CharImage& image, float lowFraction, float highFraction, f
     GrowArray<int> histogram;
     int minLum;
     image.getHistogram(&histogram, &minLum);
-    const float total = float(sumOf(histogram));
-    const int lowIndex = darkCutOff(histogram, total, lowFraction);
-    const int highIndex = brightCutOff(histogram, total, highFraction);
-    Levels levels;
-    // The darkest sample counts on top of the dark cut-off, which darkens pictures without black: on purpose.
-    levels.offset = float(minLum + lowIndex);
-    levels.scale = (highLevel - lowLevel) / float(highIndex - lowIndex);
-    levels.lowLevel = lowLevel;
-    levels.floor = clampToLowLevel ? lowLevel : 0.0f;
-    levels.ceiling = clampToHighLevel ? highLevel : 255.0f;
-    return levels;
+    return levelsOf(
+        histogram, minLum, {lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel});
+}
+
+CharImage sampledPixels(const CharImage& image)
+{
+    const std::size_t end = sampledEnd(image), count = (end + sampleStep - 1) / sampleStep;
+    if (count == 0)
+        return {};
+    auto* pixels = new unsigned char[count * 4];
+    for (std::size_t i = 0; i < count; i++)
+        std::memcpy(pixels + i * 4, image.data + i * sampleStep * 4, 4);
+    return CharImage(pixels, int(count), 1);
+}
+
+void getHistogramOfSamples(const CharImage& samples, GrowArray<int>* histogram, int* minLum)
+{
+    countLuminances(samples.data, samples.pixelCount(), 1, histogram, minLum);
 }
 
 void CharImage::getHistogram(GrowArray<int>* hist, int* minLum) const
 {
-    int counts[256] = {};
-    int lowest = 255, highest = -1;
-    const std::size_t count = pixelCount();
-    for (std::size_t i = 0; i + 11 < count; i += 10) {
-        const unsigned char* pixel = data + i * bytesPerPixel;
-        const int lum = int(luminance(pixelAt(pixel)));
-        counts[lum]++;
-        lowest = lum < lowest ? lum : lowest;
-        highest = lum > highest ? lum : highest;
-    }
-    for (int k = 0; k <= highest; k++)
-        hist->add(counts[k]);
-    *minLum = highest < 0 ? 0 : lowest;
+    countLuminances(data, sampledEnd(*this), sampleStep, hist, minLum);
 }
 
 void CharImage::fillHistogram(

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "image/CharImage.h"
 #include "image/toolkit/Arithmetic.h"
-
-class CharImage;
 
 /// The levels stretch of fillHistogram for one picture: what a channel's whole value 0 .. 255 becomes, a whole value
 /// too. A pass that takes it on the way in saves a pass of its own over the picture.
@@ -20,5 +19,20 @@ struct Levels {
     }
 };
 
+/// What fillHistogram asks for.
+struct Stretch {
+    float lowFraction, highFraction; ///< of the samples, cut off at the dark and at the bright end
+    float lowLevel, highLevel; ///< where the cut-offs land, 0 .. 255
+    bool clampToLowLevel, clampToHighLevel; ///< hold there instead of at 0 or 255
+};
+
+/// From a histogram as getHistogram gives it.
+Levels levelsOf(const GrowArray<int>& histogram, int minLum, const Stretch& stretch);
+
 Levels levelsOf(const CharImage& image, float lowFraction, float highFraction, float lowLevel, float highLevel,
     bool clampToLowLevel, bool clampToHighLevel);
+
+/// The pixels that the histogram samples, as a picture of one row; one without pixels when there are none.
+CharImage sampledPixels(const CharImage& image);
+/// The histogram of a picture that consists of samples only.
+void getHistogramOfSamples(const CharImage& samples, GrowArray<int>* histogram, int* minLum);

@@ -49,48 +49,111 @@ template <class Function> inline Plane planeOf(const Block& block, Function func
     return plane;
 }
 
-/// Works `function(colour, i)` into the planes of a block and stores them.
-template <class Function> inline void workBlock(Block& block, Function function)
+/// What follows a pass before its values are stored: nothing, or the levels on the bytes that they would be.
+struct NoLevels {
+    float operator()(float v) const { return v; }
+};
+struct LevelsOnBytes {
+    Levels levels;
+    float operator()(float v) const { return levels(float(truncateAndClamp(v))); }
+};
+
+/// Works `function(colour, i)` into the planes of a block, then `finish` on each channel, and stores them.
+template <class Function, class Finish = NoLevels>
+inline void workBlock(Block& block, Function function, Finish finish = {})
 {
-    if constexpr (std::is_same_v<decltype(function(Rgb{}, 0)), float>) {
+    if constexpr (std::is_same_v<decltype(function(Rgb {}, 0)), float>) {
         for (int i = 0; i < blockPixels; i++)
             block.r.at[i] = function(block.colour(i), i);
+        for (int i = 0; i < blockPixels; i++)
+            block.r.at[i] = finish(block.r.at[i]);
         block.storeGrey();
     } else {
         workPlanes(block, function);
+        workPlanes(block, [=](Rgb c, int) { return eachChannel(c, finish); });
         block.storePlanes();
     }
 }
 
-/// Each pixel becomes `function(colour)`.
-template <class Function> void forEachPixel(CharImage& image, Function function)
+/// What a pass starts from: fills the planes of a block with its colours.
+struct Colours {
+    void fill(Block& block) { block.fillPlanes(); }
+    template <class Function> auto with(Function& function)
+    {
+        return [&](Rgb c, int) { return function(c); };
+    }
+};
+
+/// Colours taken through a curve per channel.
+struct CurvedColours {
+    const ChannelCurve &red, &green, &blue;
+
+    void fill(Block& block) { block.fillPlanes(red, green, blue); }
+    template <class Function> auto with(Function& function)
+    {
+        return [&](Rgb c, int) { return function(c); };
+    }
+};
+
+/// Colours with a tone each, looked up by their luminance.
+struct TonedColours {
+    const ToneTable& tones;
+    Plane tone = {};
+
+    void fill(Block& block)
+    {
+        block.fillPlanes();
+        tones.fill(block, tone);
+    }
+    template <class Function> auto with(Function& function)
+    {
+        return [&](Rgb c, int i) { return function(c, tone.at[i]); };
+    }
+};
+
+template <class Source, class Function, class Finish = NoLevels>
+void passOver(CharImage& image, Source source, Function& function, Finish finish = {})
 {
     forEachBlock(image, [&](Block& block) {
-        block.fillPlanes();
-        workBlock(block, [&](Rgb c, int) { return function(c); });
+        source.fill(block);
+        workBlock(block, source.with(function), finish);
     });
+}
+
+/// A pass and fillHistogram after it, in one walk over the picture: the levels ask only for every tenth pixel, so that the
+/// pass over those comes first.
+template <class Source, class Function>
+void passOver(CharImage& image, Source source, Function& function, const Stretch& stretch)
+{
+    CharImage samples = sampledPixels(image);
+    passOver(samples, source, function);
+    GrowArray<int> histogram;
+    int minLum;
+    getHistogramOfSamples(samples, &histogram, &minLum);
+    passOver(image, source, function, LevelsOnBytes {levelsOf(histogram, minLum, stretch)});
+}
+
+/// Each pixel becomes `function(colour)`. With a Stretch at the end, of this and the others, the levels follow.
+template <class Function, class... Finish>
+    requires std::is_invocable_v<Function, Rgb>
+void forEachPixel(CharImage& image, Function function, Finish... finish)
+{
+    passOver(image, Colours {}, function, finish...);
 }
 
 /// Each pixel becomes `function(colour)`, the colour taken through a curve per channel first.
-template <class Function>
-void forEachPixel(
-    CharImage& image, const ChannelCurve& red, const ChannelCurve& green, const ChannelCurve& blue, Function function)
+template <class Function, class... Finish>
+void forEachPixel(CharImage& image, const ChannelCurve& red, const ChannelCurve& green, const ChannelCurve& blue,
+    Function function, Finish... finish)
 {
-    forEachBlock(image, [&](Block& block) {
-        block.fillPlanes(red, green, blue);
-        workBlock(block, [&](Rgb c, int) { return function(c); });
-    });
+    passOver(image, CurvedColours {red, green, blue}, function, finish...);
 }
 
 /// Each pixel becomes `function(colour, tone)`, the tone looked up by the pixel's luminance.
-template <class Function> void forEachPixel(CharImage& image, const ToneTable& tones, Function function)
+template <class Function, class... Finish>
+void forEachPixel(CharImage& image, const ToneTable& tones, Function function, Finish... finish)
 {
-    Plane tone;
-    forEachBlock(image, [&](Block& block) {
-        block.fillPlanes();
-        tones.fill(block, tone);
-        workBlock(block, [&](Rgb c, int i) { return function(c, tone.at[i]); });
-    });
+    passOver(image, TonedColours {tones}, function, finish...);
 }
 
 /// Visits the image in blocks that lie within a row each: `function(block, x, y)`, the place being that of the block's
