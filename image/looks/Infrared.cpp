@@ -1,16 +1,31 @@
+#include "image/toolkit/Levels.h"
 #include "image/toolkit/PixelPass.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cmath>
 
 namespace {
+
+/// float(distance * per255) for a whole distance of 0 .. 255, without doubles. 1/255 is split: the product with its
+/// upper part is exact, and the lower part brings the sum close enough to be rounded alike.
+constexpr float shareOf255(float distance)
+{
+    constexpr float upper = 257.0f / 65536.0f, lower = float(per255 - upper);
+    return distance * upper + distance * lower;
+}
+
+static_assert([] {
+    for (int distance = 0; distance < 256; distance++)
+        if (shareOf255(float(distance)) != float(distance * per255))
+            return false;
+    return true;
+}());
 
 /// How close a colour is to a reference, 0 .. 1.
 float closeness(Rgb c, Rgb reference)
 {
-    const auto factor = [](float v, float r) { return float((255 - std::abs(int(v - r))) * per255); };
-    const float score = factor(c.r, reference.r) * factor(c.g, reference.g) * factor(c.b, reference.b);
-    return std::clamp(score, 0.0f, 1.0f);
+    const auto factor = [](float v, float r) { return shareOf255(255.0f - std::abs(v - r)); };
+    return factor(c.r, reference.r) * factor(c.g, reference.g) * factor(c.b, reference.b);
 }
 
 } // namespace
@@ -22,8 +37,10 @@ void CharImage::applyInfraredFilter()
         const float foliage = closeness(c, {0.0f, 255.0f, 0.0f});
         const float skin = closeness(c, {228.0f, 152.0f, 76.0f});
         const float sky = closeness(c, {150.0f, 150.0f, 255.0f});
-        return grey(float(foliage * 0.5 + skin + sky * -0.4) * 255.0f);
+        return float(foliage * 0.5 + skin + sky * -0.4) * 255.0f;
     });
-    fillHistogram(0.01f, 0.01f, 0.0f, 255.0f, true, true);
+    // The picture is neutral from here on: one channel of the levels does for all.
+    const Levels levels = levelsOf(*this, 0.01f, 0.01f, 0.0f, 255.0f, true, true);
+    forEachPixel(*this, [=](Rgb c) { return levels(c.r); });
     makeBlurry(int(std::max(width, height) * 0.01), 3.0f);
 }

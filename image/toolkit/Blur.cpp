@@ -1,10 +1,11 @@
 #include "image/CharImage.h"
 #include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/BlurKernel.h"
+#include "image/toolkit/BlurRows.h"
 #include "image/toolkit/Kernel.h"
 
 #include <algorithm>
-#include <cstring>
-#include <memory>
+#include <vector>
 
 namespace {
 
@@ -28,14 +29,144 @@ void blurLines(const unsigned char* from, unsigned char* to, const GrowArray<flo
         }
 }
 
+/// The blur as it is defined, for weights that whole numbers do not cover.
+void blurInFloats(CharImage& image, const GrowArray<float>& weights)
+{
+    CharImage pass(image);
+    const std::size_t pixel = std::size_t(image.bytesPerPixel), row = pixel * image.width;
+    blurLines(image.data, pass.data, weights, image.width, pixel, image.height, row);
+    blurLines(pass.data, image.data, weights, image.height, row, image.width, pixel);
+}
+
+/// The rows that are blurred across and wait to be blurred down, all channels of a row side by side. The oldest makes
+/// way for the newest.
+class WaitingRows {
+public:
+    const int height;
+    const std::size_t length; ///< bytes of a row
+
+    WaitingRows(const CharImage& image, int channels, int radius)
+        : height(image.height)
+        , length(std::size_t(image.width) * channels)
+        , kept(std::size_t(std::min(2 * radius + 2, height)))
+        , bytes(kept * length)
+    {
+    }
+
+    unsigned char* operator[](int y) { return &bytes[std::size_t(y) % kept * length]; }
+    /// The rows beyond the first and the last are these again.
+    const unsigned char* clamped(int y) { return (*this)[std::clamp(y, 0, height - 1)]; }
+
+private:
+    const std::size_t kept;
+    std::vector<unsigned char> bytes;
+};
+
+/// The blur of any weights: every tap of every pixel is weighed.
+class WeightedBlur {
+public:
+    WeightedBlur(const BlurKernel& k, const WaitingRows& waiting)
+        : kernel(k)
+        , rows(k.taps.size())
+        , result(waiting.length)
+    {
+    }
+
+    void across(unsigned char* padded, int width, unsigned char* to)
+    {
+        for (std::size_t t = 0; t < rows.size(); t++)
+            rows[t] = padded + kernel.radius + kernel.taps[t].offset;
+        weighRows(kernel.taps, rows.data(), std::size_t(width), to);
+    }
+
+    const unsigned char* down(WaitingRows& waiting, int y)
+    {
+        for (std::size_t t = 0; t < rows.size(); t++)
+            rows[t] = waiting.clamped(y + kernel.taps[t].offset);
+        weighRows(kernel.taps, rows.data(), result.size(), result.data());
+        return result.data();
+    }
+
+private:
+    const BlurKernel& kernel;
+    std::vector<const unsigned char*> rows;
+    std::vector<unsigned char> result;
+};
+
+/// The blur of equal weights: a byte's share is the same at every tap, and sums of shares move along.
+class BoxBlur {
+public:
+    BoxBlur(const BlurKernel& kernel, const WaitingRows& waiting)
+        : radius(kernel.radius)
+        , multiplier(kernel.taps[0].multiplier)
+        , sums(waiting.length)
+    {
+    }
+
+    /// Leaves the shares of the second pass.
+    void across(unsigned char* padded, int width, unsigned char* to)
+    {
+        takeShares(padded, std::size_t(width) + 2 * std::size_t(radius), multiplier);
+        sumWindows(padded, std::size_t(width), 2 * radius + 1, to);
+        takeShares(to, std::size_t(width), multiplier);
+    }
+
+    const unsigned char* down(WaitingRows& waiting, int y)
+    {
+        // It begins with the sums of a row above the first, which moves into place as every other does.
+        for (int offset = -radius; y == 0 && offset <= radius; offset++)
+            addRow(sums.data(), waiting.clamped(offset - 1), sums.size());
+        replaceRow(sums.data(), waiting.clamped(y - 1 - radius), waiting.clamped(y + radius), sums.size());
+        return sums.data();
+    }
+
+private:
+    const int radius;
+    const std::uint16_t multiplier;
+    std::vector<unsigned char> sums;
+};
+
+/// Both passes in one walk down the image: a row is blurred across as soon as a row above needs it, and overwritten in
+/// place once all that it goes into is at hand.
+template <class Blur> void blurRows(CharImage& image, const BlurKernel& kernel, int channels)
+{
+    const int width = image.width, height = image.height, radius = kernel.radius;
+    WaitingRows waiting(image, channels, radius);
+    std::vector<unsigned char> padded(std::size_t(width) + 2 * std::size_t(radius));
+    Blur blur(kernel, waiting);
+    const auto pixels = [&](int y) { return image.data + std::size_t(y) * width * 4; };
+    int ready = 0;
+    for (int y = 0; y < height; y++) {
+        for (; ready < std::min(y + radius + 1, height); ready++)
+            for (int channel = 0; channel < channels; channel++) {
+                takeChannel(pixels(ready), channel, width, radius, padded.data());
+                blur.across(padded.data(), width, waiting[ready] + std::size_t(channel) * width);
+            }
+        const unsigned char* red = blur.down(waiting, y);
+        const std::size_t toNext = channels == 1 ? 0 : std::size_t(width);
+        storeChannels(red, red + toNext, red + 2 * toNext, width, pixels(y));
+    }
+}
+
+/// A neutral picture is blurred once for all its channels.
+void blurInWholeNumbers(CharImage& image, const BlurKernel& kernel)
+{
+    const int channels = isNeutral(image) ? 1 : 3;
+    if (kernel.box)
+        blurRows<BoxBlur>(image, kernel, channels);
+    else
+        blurRows<WeightedBlur>(image, kernel, channels);
+}
+
 } // namespace
 
 void CharImage::makeBlurry(int size, float exponent)
 {
     GrowArray<float> weights;
     fillKernel(weights, size, exponent, true);
-    CharImage pass(*this);
-    const std::size_t pixel = std::size_t(bytesPerPixel), row = pixel * width;
-    blurLines(data, pass.data, weights, width, pixel, height, row);
-    blurLines(pass.data, data, weights, height, row, width, pixel);
+    const BlurKernel kernel(weights);
+    if (kernel.whole)
+        blurInWholeNumbers(*this, kernel);
+    else
+        blurInFloats(*this, weights);
 }

@@ -59,3 +59,14 @@ TEST(Infrared, BlursASinglePixelByTheLeastKernel)
     image->applyFilter(9);
     expectSame(*image, twin, "1x1");
 }
+
+TEST(Infrared, BlursByAHundredthOfTheLongerSide)
+{
+    for (const auto& [width, height] : {std::array{1300, 40}, std::array{30, 2650}}) {
+        Picture twin = photoLikePicture(width, height);
+        const auto image = imageOf(twin);
+        reference::infrared(twin);
+        image->applyFilter(9);
+        expectSame(*image, twin, std::to_string(width) + " x " + std::to_string(height));
+    }
+}

@@ -1,8 +1,12 @@
 #include "image/CharImage.h"
+#include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/BlurKernel.h"
+#include "image/toolkit/Kernel.h"
 #include "tests/reference/Toolkit.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace {
 
@@ -13,6 +17,68 @@ Picture blurred(const Picture& picture, int size, float exponent)
     Picture result = picture;
     std::copy_n(image->data, picture.pixels.size(), result.pixels.begin());
     return result;
+}
+
+Picture greyPicture(int width, int height, unsigned seed)
+{
+    Picture picture = randomPicture(width, height, seed);
+    for (std::size_t i = 0; i < picture.pixels.size(); i += 4)
+        picture.pixels[i + 1] = picture.pixels[i + 2] = picture.pixels[i];
+    return picture;
+}
+
+void expectBlurMatchesTwin(const Picture& picture, int size, float exponent)
+{
+    Picture expected = picture;
+    reference::makeBlurry(expected, size, exponent);
+    const auto image = imageOf(picture);
+    image->makeBlurry(size, exponent);
+    expectSame(*image, expected,
+        std::to_string(picture.width) + " x " + std::to_string(picture.height) + ", size " + std::to_string(size)
+            + ", exponent " + std::to_string(exponent));
+}
+
+bool isWhole(int size, float exponent, bool* box = nullptr)
+{
+    GrowArray<float> weights;
+    fillKernel(weights, size, exponent, true);
+    const BlurKernel kernel(weights);
+    if (box)
+        *box = kernel.box;
+    return kernel.whole;
+}
+
+/// What a tap in whole numbers makes of a sum.
+int stepped(const BlurTap& tap, int sum, unsigned char byte)
+{
+    int next = sum + blurShare(byte, tap.multiplier);
+    for (const BlurCarry carry : tap.carries)
+        next += carry.byte == byte && sum >= carry.leastSum;
+    return next & 255;
+}
+
+/// Holds every tap of a kernel, also those left out, to the float arithmetic: every byte, every `sumStep`-th sum and
+/// those around the powers of two, where the rounding changes.
+void expectTapsMatchFloats(int size, float exponent, int sumStep)
+{
+    GrowArray<float> weights;
+    fillKernel(weights, size, exponent, true);
+    const BlurKernel kernel(weights);
+    ASSERT_TRUE(kernel.whole);
+    const int reach = (weights.numThings - 1) / 2;
+    for (int t = 0; t <= reach; t++) {
+        const auto found = std::find_if(
+            kernel.taps.begin(), kernel.taps.end(), [=](const BlurTap& tap) { return tap.offset == reach - t; });
+        const BlurTap tap = found == kernel.taps.end() ? BlurTap{reach - t, 0, {}} : *found;
+        for (int sum = 0; sum < 256; sum++) {
+            if (sum % sumStep != 0 && (sum & (sum - 1)) != 0 && (sum & (sum + 1)) != 0)
+                continue;
+            for (int byte = 0; byte < 256; byte++)
+                ASSERT_EQ(stepped(tap, sum, static_cast<unsigned char>(byte)),
+                    truncateAndWrap(float(sum) + float(byte) * weights.theArray[t]))
+                    << "size " << size << ", exponent " << exponent << ", tap " << t << ", " << sum << " + " << byte;
+        }
+    }
 }
 
 } // namespace
@@ -108,11 +174,70 @@ TEST(Blur, MatchesItsTwinForEveryKernel)
 {
     const Picture picture = randomPicture(61, 9, 12);
     for (int size = 3; size <= 40; size++)
-        for (float exponent : {-1.0f, 0.3f, 0.5f, 1.0f, 1.5f, 2.0f, 3.0f, 40.0f}) {
-            Picture expected = picture;
-            reference::makeBlurry(expected, size, exponent);
-            const auto image = imageOf(picture);
-            image->makeBlurry(size, exponent);
-            expectSame(*image, expected, "size " + std::to_string(size) + ", exponent " + std::to_string(exponent));
+        for (float exponent : {-1.0f, 0.3f, 0.5f, 1.0f, 1.5f, 2.0f, 3.0f, 40.0f})
+            expectBlurMatchesTwin(picture, size, exponent);
+}
+
+TEST(Blur, MatchesItsTwinInGreyAndInColour)
+{
+    for (int size = 3; size <= 70; size++)
+        for (float exponent : {0.0f, 0.5f, 1.0f, 3.0f}) {
+            expectBlurMatchesTwin(randomPicture(45, 8, unsigned(size)), size, exponent);
+            expectBlurMatchesTwin(greyPicture(7, 50, unsigned(size)), size, exponent);
         }
+}
+
+TEST(Blur, MatchesItsTwinInAwkwardShapes)
+{
+    const int shapes[][2] = {{1, 1}, {1, 2}, {2, 1}, {1, 90}, {90, 1}, {3, 3}, {16, 17}, {1030, 3}, {2, 600}};
+    for (const auto& shape : shapes)
+        for (int size : {3, 4, 7, 26, 61})
+            for (float exponent : {0.0f, 1.0f, 3.0f}) {
+                expectBlurMatchesTwin(randomPicture(shape[0], shape[1], 5), size, exponent);
+                expectBlurMatchesTwin(greyPicture(shape[0], shape[1], 6), size, exponent);
+            }
+}
+
+TEST(Blur, IsNotTakenForGreyByOneChannelAlone)
+{
+    for (int channel = 0; channel < 3; channel++) {
+        Picture picture = greyPicture(40, 9, 3);
+        picture.at(39, 8)[channel] ^= 128;
+        expectBlurMatchesTwin(picture, 9, 1.0f);
+        expectBlurMatchesTwin(picture, 9, 0.0f);
+    }
+}
+
+TEST(Blur, MatchesItsTwinBeyondWholeNumbers)
+{
+    constexpr float infinity = std::numeric_limits<float>::infinity(), none = std::numeric_limits<float>::quiet_NaN();
+    for (float exponent : {200.0f, infinity, none})
+        for (int size : {3, 7, 20}) {
+            EXPECT_FALSE(isWhole(size, exponent));
+            expectBlurMatchesTwin(randomPicture(40, 9, 4), size, exponent);
+            expectBlurMatchesTwin(greyPicture(9, 40, 4), size, exponent);
+        }
+    expectBlurMatchesTwin(randomPicture(40, 9, 4), 9, -infinity);
+}
+
+TEST(Blur, KnowsItsBoxes)
+{
+    bool box = false;
+    EXPECT_TRUE(isWhole(7, 0.0f, &box) && box);
+    EXPECT_TRUE(isWhole(7, 3.0f, &box) && !box);
+    // The float next to 1/61 is less: 61 times that is just below 1, and rounding carries.
+    EXPECT_TRUE(isWhole(61, 0.0f, &box) && !box);
+    // Every share is 0: the picture turns black.
+    EXPECT_TRUE(isWhole(301, 0.0f, &box) && !box);
+    expectBlurMatchesTwin(randomPicture(9, 9, 1), 301, 0.0f);
+}
+
+TEST(Blur, HasAMultiplierForEveryTap)
+{
+    for (int size = 3; size <= 100; size++)
+        for (float exponent : {0.0f, 3.0f})
+            expectTapsMatchFloats(size, exponent, 256);
+    for (int size : {3, 6, 41})
+        for (float exponent : {0.0f, 1.0f, 3.0f, 40.0f})
+            expectTapsMatchFloats(size, exponent, 1);
 }
