@@ -49,6 +49,22 @@ TEST(Delicious, DrawsNoOutlinesOnOneColour)
         ASSERT_TRUE(std::equal(image->data, image->data + 3, image->data + 4 * i));
 }
 
+TEST(Delicious, IsItsColourCoreWithoutShadowsAndEdges)
+{
+    Picture picture(130, 70);
+    for (int y = 0; y < picture.height; y++)
+        for (int x = 0; x < picture.width; x++) {
+            picture.at(x, y)[0] = static_cast<unsigned char>(90 + x);
+            picture.at(x, y)[1] = static_cast<unsigned char>(60 + 2 * y);
+            picture.at(x, y)[2] = static_cast<unsigned char>(250 - x);
+        }
+    const auto look = imageOf(picture), core = imageOf(picture);
+    look->applyFilter(18);
+    core->deliciousColorCore2();
+    EXPECT_TRUE(std::equal(look->data, look->data + 130 * 70 * 4, core->data));
+    EXPECT_FALSE(std::equal(look->data, look->data + 130 * 70 * 4, picture.pixels.begin()));
+}
+
 TEST(Delicious, IgnoresTheVariation)
 {
     const auto fixed = imageOf(photoLikePicture(90, 70)), varied = imageOf(photoLikePicture(90, 70));

@@ -97,6 +97,24 @@ TEST(Maps, KeepEdgesAboveTheThreshold)
     EXPECT_EQ(aboveIt, (Map{0, 5, 22, 5, 0}));
 }
 
+TEST(Maps, MatchTheirTwinsAtTheEndsOfBlocks)
+{
+    const struct {
+        int width, height;
+    } sides[] = {{1, 1}, {1, 30}, {255, 3}, {256, 2}, {257, 12}, {513, 1}};
+    for (const auto& side : sides) {
+        const Picture picture = photoLikePicture(side.width, side.height);
+        const Map expected = reference::edgeMap(picture);
+        ASSERT_EQ(edges(picture), expected) << side.width;
+        for (int size : {3, 10, 11, 300}) {
+            Map fast = expected, slow = expected;
+            smooth(fast, side.width, side.height, size, 1.0f, 12.5f);
+            reference::smoothMap(slow, side.width, side.height, size, 1.0f, 12.5f);
+            ASSERT_EQ(fast, slow) << side.width << ", size " << size;
+        }
+    }
+}
+
 TEST(Maps, SmoothToNothingWithoutFiniteWeights)
 {
     // The middle weight overflows: its share of the infinite sum is no number, which is stored as 0.
