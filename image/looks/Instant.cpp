@@ -43,9 +43,13 @@ void CharImage::applyInstantFilter()
         raise(highlights, 1.5f);
         workPlanes(block, [&](Rgb c, int i) {
             const float q = highlights.at[i];
-            c = eachChannel(c, [=](float v) { return v * (1.0f - q) + v * q * 0.95f; });
-            return eachChannel(c, [=](float v) { return float((v - 128.0) * p.contrast + 128.0); });
+            return eachChannel(c, [=](float v) { return v * (1.0f - q) + v * q * 0.95f; });
         });
+        // A contrast of 1 changes no byte: the double difference only loses what lies far below 1.
+        if (p.contrast != 1.0f)
+            workPlanes(block, [&](Rgb c, int) {
+                return eachChannel(c, [=](float v) { return float((v - 128.0) * p.contrast + 128.0); });
+            });
         block.storePlanes();
     });
 
