@@ -237,17 +237,3 @@ void forEachBlockAround(CharImage& image, int centreX, int centreY, Evaluate eva
             work(centreY - dy, row);
     }
 }
-
-/// Each pixel becomes `function(colour, x, y)`.
-template <class Function> void forEachPixelAt(CharImage& image, Function function)
-{
-    for (int y = 0; y < image.height; y++) {
-        unsigned char* pixel = image.data + std::size_t(y) * image.width * 4;
-        for (int x = 0; x < image.width; x++, pixel += 4) {
-            const Rgb c = function(pixelAt(pixel), x, y);
-            pixel[0] = static_cast<unsigned char>(truncateAndClamp(c.r));
-            pixel[1] = static_cast<unsigned char>(truncateAndClamp(c.g));
-            pixel[2] = static_cast<unsigned char>(truncateAndClamp(c.b));
-        }
-    }
-}
