@@ -3,8 +3,26 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QSettings>
+#include <QStandardPaths>
 
 namespace {
+
+/// Keeps the platform's own panel from writing its history into the user's configuration when it goes: while this lives,
+/// settings are written nowhere.
+class NoPanelHistory {
+public:
+    NoPanelHistory() { setFolder(QStringLiteral("/dev/null")); }
+    ~NoPanelHistory() { setFolder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)); }
+    NoPanelHistory(const NoPanelHistory&) = delete;
+    NoPanelHistory& operator=(const NoPanelHistory&) = delete;
+
+private:
+    static void setFolder(const QString& folder)
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+    }
+};
 
 /// What both panels share: the six types, and the folder where the last one was left.
 void prepare(QFileDialog& panel, const QString& folder)
@@ -31,19 +49,24 @@ void MainWindowController::loadImageButtonPressed()
 {
     if (!mayBeEntered)
         return;
-    QFileDialog panel(this, tr("Select a file to open"));
-    panel.setFileMode(QFileDialog::ExistingFile);
-    panel.setWindowOpacity(0.95);
-    prepare(panel, panelFolder);
-    if (!runPanel(panel))
-        return;
-    for (const QString& file : panel.selectedFiles())
+    QStringList chosen;
+    {
+        const NoPanelHistory noHistory;
+        QFileDialog panel(this, tr("Select a file to open"));
+        panel.setFileMode(QFileDialog::ExistingFile);
+        panel.setWindowOpacity(0.95);
+        prepare(panel, panelFolder);
+        if (runPanel(panel))
+            chosen = panel.selectedFiles();
+    }
+    for (const QString& file : chosen)
         openFile(QFile::encodeName(file));
 }
 
 /// Asks for the path of the JPEG; empty when the panel was cancelled.
 QByteArray MainWindowController::askWhereToSave()
 {
+    const NoPanelHistory noHistory;
     QFileDialog panel(this, tr("Save as JPEG"));
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setDefaultSuffix(QStringLiteral("jpg"));

@@ -4,6 +4,7 @@
 #include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
 
+#include <QDirIterator>
 #include <QFileOpenEvent>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -295,6 +296,24 @@ private slots:
         desk.withPanel([](QFileDialog& panel) { QTest::keyClick(&panel, Qt::Key_Escape); },
             [&] { desk.click("btnSave"); });
         QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("photo.png"));
+    }
+
+    void nothingElseIsWritten()
+    {
+        const auto written = [] {
+            QStringList files;
+            for (QDirIterator it(configFolder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); it.hasNext();)
+                files << it.next();
+            return files;
+        };
+        Desk desk(makePhoto(60, 40));
+        desk.withPanel([&](QFileDialog& panel) { typeName(panel, desk.folder.filePath("photo.png")); },
+            [&] { desk.click("btnLoad"); });
+        desk.saveAs(desk.folder.filePath("out.jpg"));
+        QCOMPARE(written(), QStringList());
+        desk.window.applicationWillTerminate();
+        QCOMPARE(written(), QStringList(preferencesFile()));
+        QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList({"out.jpg", "photo.png"}));
     }
 
     void aFailedWriteIsLoggedAndLeavesTheOldFile()

@@ -18,6 +18,13 @@ def size_of(path):
     return subprocess.check_output([os.path.join(build, "bin", "journey_compare"), path], text=True).split()
 
 
+def files():
+    """Everything in the home folder but what the desktop itself keeps while it runs."""
+    return {os.path.join(folder, name) for folder, _, names in os.walk(home) for name in names
+            if not folder.startswith(os.environ["XDG_RUNTIME_DIR"])}
+
+
+there_before = files()
 with Lumora(build, photo) as lumora:
     lumora.wait_for_title("Lumora - " + os.path.basename(photo))
     lumora.press("Helga")
@@ -51,7 +58,10 @@ with Lumora(build, photo) as lumora:
         assert lumora.chosen(combo) == item, (combo, lumora.chosen(combo))
     lumora.quit()
 
-with open(os.path.join(home, ".config", "Dovrel", "Lumora.conf")) as preferences:
+preferences_file = os.path.join(home, ".config", "Dovrel", "Lumora.conf")
+written = files() - there_before
+assert written == {preferences_file, exact, saved}, f"written besides what was asked for: {written}"
+with open(preferences_file) as preferences:
     kept = preferences.read()
 for line in ("PrefsVersion=2", "UseMultiFilter=true", "CroppingStyle=1", "BorderStyle=5", "OutputSize=5"):
     assert line in kept.splitlines(), (line, kept)
