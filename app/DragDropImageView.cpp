@@ -80,6 +80,7 @@ const QImage& DragDropImageView::fitted()
         fit.image = shown.size() == shownPixels()
             ? shown
             : shown.scaled(shownPixels(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        fit.image.convertTo(QImage::Format_RGB32); // the screen's, so that painting only copies
     }
     return fit.image;
 }

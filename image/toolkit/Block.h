@@ -73,22 +73,28 @@ struct Block {
             setColour(i, {forRed.at[bytes[4 * i]], forGreen.at[bytes[4 * i + 1]], forBlue.at[bytes[4 * i + 2]]});
     }
 
-    /// Truncates and clamps the planes to bytes; the spare bytes stay.
-    void storePlanes()
+    /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255; the spare bytes stay.
+    template <class ToByte> void storePlanes(ToByte toByte)
     {
         for (int i = 0; i < blockPixels; i++) {
-            const std::uint32_t red = std::uint32_t(truncateAndClamp(r.at[i]));
-            const std::uint32_t green = std::uint32_t(truncateAndClamp(g.at[i]));
-            const std::uint32_t blue = std::uint32_t(truncateAndClamp(b.at[i]));
+            const std::uint32_t red = std::uint32_t(toByte(r.at[i]));
+            const std::uint32_t green = std::uint32_t(toByte(g.at[i]));
+            const std::uint32_t blue = std::uint32_t(toByte(b.at[i]));
             setWord(i, (word(i) & ~colourMask) | red << redShift | green << greenShift | blue << blueShift);
         }
     }
 
+    /// Truncates and clamps them.
+    void storePlanes()
+    {
+        storePlanes([](float v) { return truncateAndClamp(v); });
+    }
+
     /// Stores the red plane in all three channels.
-    void storeGrey()
+    template <class ToByte> void storeGrey(ToByte toByte)
     {
         for (int i = 0; i < blockPixels; i++) {
-            const std::uint32_t level = std::uint32_t(truncateAndClamp(r.at[i]));
+            const std::uint32_t level = std::uint32_t(toByte(r.at[i]));
             setWord(i, (word(i) & ~colourMask) | level << redShift | level << greenShift | level << blueShift);
         }
     }

@@ -115,5 +115,8 @@ void CharImage::fillHistogram(
 {
     const Levels levels =
         levelsOf(*this, lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel);
-    forEachPixel(*this, [=](Rgb c) { return eachChannel(c, levels); });
+    forEachBlock(*this, [=](Block& block) {
+        block.fillPlanes();
+        block.storePlanes([=](float v) { return levels.byteOf(v); });
+    });
 }

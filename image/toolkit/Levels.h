@@ -11,12 +11,13 @@ struct Levels {
     float lowLevel;
     float floor, ceiling;
 
-    float operator()(float v) const
+    int byteOf(float v) const
     {
         const float x = scale * (v - offset) + lowLevel;
         const float notAbove = x >= ceiling ? ceiling : x;
-        return float(truncateToInt(x < floor ? floor : notAbove) & 255);
+        return truncateToInt(x < floor ? floor : notAbove) & 255;
     }
+    float operator()(float v) const { return float(byteOf(v)); }
 };
 
 /// What fillHistogram asks for.

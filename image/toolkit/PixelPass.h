@@ -49,29 +49,26 @@ template <class Function> inline Plane planeOf(const Block& block, Function func
     return plane;
 }
 
-/// What follows a pass before its values are stored: nothing, or the levels on the bytes that they would be.
+/// How the values of a pass become bytes: truncated and clamped, and then perhaps taken through the levels.
 struct NoLevels {
-    float operator()(float v) const { return v; }
+    int operator()(float v) const { return truncateAndClamp(v); }
 };
 struct LevelsOnBytes {
     Levels levels;
-    float operator()(float v) const { return levels(float(truncateAndClamp(v))); }
+    int operator()(float v) const { return levels.byteOf(float(truncateAndClamp(v))); }
 };
 
-/// Works `function(colour, i)` into the planes of a block, then `finish` on each channel, and stores them.
-template <class Function, class Finish = NoLevels>
-inline void workBlock(Block& block, Function function, Finish finish = {})
+/// Works `function(colour, i)` into the planes of a block and stores them as bytes.
+template <class Function, class ToByte = NoLevels>
+inline void workBlock(Block& block, Function function, ToByte toByte = {})
 {
     if constexpr (std::is_same_v<decltype(function(Rgb {}, 0)), float>) {
         for (int i = 0; i < blockPixels; i++)
             block.r.at[i] = function(block.colour(i), i);
-        for (int i = 0; i < blockPixels; i++)
-            block.r.at[i] = finish(block.r.at[i]);
-        block.storeGrey();
+        block.storeGrey(toByte);
     } else {
         workPlanes(block, function);
-        workPlanes(block, [=](Rgb c, int) { return eachChannel(c, finish); });
-        block.storePlanes();
+        block.storePlanes(toByte);
     }
 }
 
@@ -111,12 +108,12 @@ struct TonedColours {
     }
 };
 
-template <class Source, class Function, class Finish = NoLevels>
-void passOver(CharImage& image, Source source, Function& function, Finish finish = {})
+template <class Source, class Function, class ToByte = NoLevels>
+void passOver(CharImage& image, Source source, Function& function, ToByte toByte = {})
 {
     forEachBlock(image, [&](Block& block) {
         source.fill(block);
-        workBlock(block, source.with(function), finish);
+        workBlock(block, source.with(function), toByte);
     });
 }
 
