@@ -22,7 +22,9 @@ MonoParameters MonoParameters::varied(const float* random)
 void CharImage::applyMonoFilter()
 {
     const auto [gain] = currentParameters<MonoParameters>();
-    const auto weighted = [](float weight) { return channelCurve([=](int v) { return float(v * weight * per255); }); };
-    forEachPixel(*this, weighted(gain[0]), weighted(gain[1]), weighted(gain[2]), [](Rgb c) { return luminance(c); },
-        Stretch {0.01f, 0.01f, 0.0f, 255.0f, true, true});
+    const auto weighted = [=](Rgb c) {
+        const auto share = [](float v, float weight) { return float(v * weight * per255); };
+        return luminance({share(c.r, gain[0]), share(c.g, gain[1]), share(c.b, gain[2])});
+    };
+    forEachPixel(*this, weighted, Stretch {0.01f, 0.01f, 0.0f, 255.0f, true, true});
 }
