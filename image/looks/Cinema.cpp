@@ -23,7 +23,7 @@ void CharImage::applyCinemaFilter()
 {
     const CinemaParameters p = currentParameters<CinemaParameters>();
     const Rgb tint = {float(p.tint[0]), float(p.tint[1]), float(p.tint[2])};
-    const Levels levels = levelsOf(*this, 0.05f, 0.0f, 5.0f, 255.0f, true, true);
+    const Levels levels = levelsOf(*this, {0.05f, 0.0f, 5.0f, 255.0f, true, true});
     forEachPixel(*this, [=](Rgb c) {
         c = eachChannel(c, levels);
         const float boost = float(byteLuminance(c) * per255);

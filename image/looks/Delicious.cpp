@@ -47,30 +47,6 @@ private:
     double m_red[256], m_green[256], m_blue[256];
 };
 
-/// Visits the image in blocks: `function(block, first, count)`, the pixels being `count` from the pixel `first` on.
-template <class Function> void forEachNumberedBlock(CharImage& image, Function function)
-{
-    std::size_t first = 0;
-    const std::size_t end = image.pixelCount();
-    forEachBlock(image, [&](Block& block) {
-        const int count = int(std::min<std::size_t>(blockPixels, end - first));
-        function(block, first, count);
-        first += std::size_t(count);
-    });
-}
-
-/// The colour of a hue and a saturation at a lightness. Pure red has the hue 1.0 and comes out grey, on purpose.
-Rgb colourOf(float hue, float saturation, float l)
-{
-    const float high = l <= 0.5f ? saturation * l + l : l + saturation - l * saturation;
-    const float low = 2.0f * l - high;
-    const float h6 = hue * 6.0f, sextant = float(int(h6)); // a hue of bytes is in range
-    const float step = high * ((high - low) / high) * (h6 - sextant);
-    const Rgb lastSextant = sextant == 5.0f ? Rgb{high, low, high - step} : grey(l);
-    const Rgb coloured = ofSextant(sextant, high, low + step, high - step, low, lastSextant);
-    return eachChannel(high > 0.0f ? coloured : grey(l), [](float u) { return u * 255.0f; });
-}
-
 void flattenShadows(Block& block)
 {
     block.fillPlanes();
@@ -103,8 +79,9 @@ void recolour(Block& block, const Plane& lightness)
         hue.at[i] = c.h;
         saturation.at[i] = c.s;
     }
+    // Pure red has the hue 1.0 and comes out grey, on purpose.
     for (int i = 0; i < blockPixels; i++)
-        block.setColour(i, colourOf(hue.at[i], saturation.at[i], lightness.at[i]));
+        block.setColour(i, rgbOf(Hsl {hue.at[i], saturation.at[i], lightness.at[i]}, float(int(hue.at[i] * 6.0f))));
     workBlock(block, [](Rgb c, int) {
         const float level = luminance(c);
         return eachChannel(c, [=](float v) { return v + v - level; });

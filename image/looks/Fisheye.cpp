@@ -67,7 +67,7 @@ void CharImage::makeFisheye()
     Plane placeX, placeY, reached;
     Neighbours h, v;
     Corners corners;
-    forEachBlockOfRows(*this, [&](Block& block, int firstX, int y) {
+    const auto bend = [&](Block& block, int firstX, int y) {
         for (int i = 0; i < blockPixels; i++) {
             const float dx = float(firstX + i) - cx, dy = float(y) - cy;
             const float q = float(std::sqrt(dx * dx + dy * dy) / reach);
@@ -89,7 +89,9 @@ void CharImage::makeFisheye()
             block.setColour(i, reached.at[i] > 0.0f ? c : grey(0.0f));
         }
         block.storePlanes();
-    });
+    };
+    for (int y = 0; y < height; y++)
+        forEachBlockOfRow(*this, y, [&](Block& block, int firstX) { bend(block, firstX, y); });
 }
 
 void CharImage::applyFisheyeFilter()

@@ -1,4 +1,3 @@
-#include "image/toolkit/Levels.h"
 #include "image/toolkit/PixelPass.h"
 
 #include <algorithm>
@@ -33,14 +32,12 @@ float closeness(Rgb c, Rgb reference)
 /// Black-and-white infrared film: foliage bright, skin and earth light, blue sky dark.
 void CharImage::applyInfraredFilter()
 {
-    forEachPixel(*this, [](Rgb c) {
+    const auto film = [](Rgb c) {
         const float foliage = closeness(c, {0.0f, 255.0f, 0.0f});
         const float skin = closeness(c, {228.0f, 152.0f, 76.0f});
         const float sky = closeness(c, {150.0f, 150.0f, 255.0f});
         return float(foliage * 0.5 + skin + sky * -0.4) * 255.0f;
-    });
-    // The picture is neutral from here on: one channel of the levels does for all.
-    const Levels levels = levelsOf(*this, 0.01f, 0.01f, 0.0f, 255.0f, true, true);
-    forEachPixel(*this, [=](Rgb c) { return levels(c.r); });
+    };
+    forEachPixel(*this, film, Stretch {0.01f, 0.01f, 0.0f, 255.0f, true, true});
     makeBlurry(int(std::max(width, height) * 0.01), 3.0f);
 }

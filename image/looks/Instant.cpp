@@ -24,7 +24,7 @@ InstantParameters InstantParameters::varied(const float* random)
 void CharImage::applyInstantFilter()
 {
     const InstantParameters p = currentParameters<InstantParameters>();
-    const Levels levels = levelsOf(*this, p.lowFraction, 0.01f, 50.0f, 250.0f, true, false);
+    const Levels levels = levelsOf(*this, {p.lowFraction, 0.01f, 50.0f, 250.0f, true, false});
     const auto curve = [=](float exponent) {
         const ChannelCurve film = filmCurve(exponent);
         return channelCurve([&](int v) { return film.at[int(levels(float(v)))]; });

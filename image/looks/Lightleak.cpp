@@ -42,8 +42,7 @@ float brightness(Rgb c)
 /// Moves `v` towards `colour` by `weight`, the doubled cast following the brightness `l`.
 float castBy(float v, float weight, float l, float colour)
 {
-    const float cast = weight * l * colour;
-    return v * (1.0f - weight) + (cast + cast);
+    return withDoubledCast(v, weight, weight * l * colour);
 }
 
 /// The look's contrast on one channel; it never goes below 62, on purpose.

@@ -23,7 +23,7 @@ LoloParameters LoloParameters::varied(const float* random)
 void CharImage::applyLoloFilter()
 {
     const LoloParameters p = currentParameters<LoloParameters>();
-    const Levels levels = levelsOf(*this, 0.005f, 0.01f, p.darkLevel, p.brightLevel, true, true);
+    const Levels levels = levelsOf(*this, {0.005f, 0.01f, p.darkLevel, p.brightLevel, true, true});
     forEachPixel(*this, [=](Rgb c) {
         c = eachChannel(c, levels);
         const float lum = byteLuminance(c);

@@ -25,7 +25,7 @@ Look1962Parameters Look1962Parameters::varied(const float* random)
 void CharImage::apply1962Filter()
 {
     const Look1962Parameters p = currentParameters<Look1962Parameters>();
-    const Levels levels = levelsOf(*this, p.darkFraction, p.brightFraction, p.darkLevel, 245.0f, false, false);
+    const Levels levels = levelsOf(*this, {p.darkFraction, p.brightFraction, p.darkLevel, 245.0f, false, false});
     forEachPixel(*this, [=](Rgb c) {
         c = eachChannel(c, levels);
         const float level = luminance({c.r * p.gain[0], c.g * p.gain[1], c.b * p.gain[2]});

@@ -66,17 +66,23 @@ inline Rgb ofSextant(float sextant, float high, float rising, float falling, flo
     return c;
 }
 
-inline Rgb rgbOf(Hsl c)
+/// `sextant` is the whole part of 6 c.h, which a caller who knows that its hues are in range forms by a plain cast: the
+/// compilers make vector code of that.
+inline Rgb rgbOf(Hsl c, float sextant)
 {
     const float v = c.l <= 0.5f ? c.s * c.l + c.l : c.l + c.s - c.l * c.s;
     const float m = 2.0f * c.l - v;
     const float sv = (v - m) / v;
     const float h6 = c.h * 6.0f;
-    const float sextant = float(truncateToInt(h6));
     const float vsf = v * sv * (h6 - sextant);
     const Rgb rest = sextant == 5.0f ? Rgb{v, m, v - vsf} : grey(c.l);
     const Rgb coloured = ofSextant(sextant, v, m + vsf, v - vsf, m, rest);
     return eachChannel(v > 0.0f ? coloured : grey(c.l), [](float u) { return u * 255.0f; });
+}
+
+inline Rgb rgbOf(Hsl c)
+{
+    return rgbOf(c, float(truncateToInt(c.h * 6.0f)));
 }
 
 inline Hsv hsvOf(Rgb c)

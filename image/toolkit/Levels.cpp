@@ -79,14 +79,12 @@ Levels levelsOf(const GrowArray<int>& histogram, int minLum, const Stretch& stre
     return levels;
 }
 
-Levels levelsOf(const CharImage& image, float lowFraction, float highFraction, float lowLevel, float highLevel,
-    bool clampToLowLevel, bool clampToHighLevel)
+Levels levelsOf(const CharImage& image, const Stretch& stretch)
 {
     GrowArray<int> histogram;
     int minLum;
     image.getHistogram(&histogram, &minLum);
-    return levelsOf(
-        histogram, minLum, {lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel});
+    return levelsOf(histogram, minLum, stretch);
 }
 
 CharImage sampledPixels(const CharImage& image)
@@ -114,7 +112,7 @@ void CharImage::fillHistogram(
     float lowFraction, float highFraction, float lowLevel, float highLevel, bool clampToLowLevel, bool clampToHighLevel)
 {
     const Levels levels =
-        levelsOf(*this, lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel);
+        levelsOf(*this, {lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel});
     forEachBlock(*this, [=](Block& block) {
         block.fillPlanes();
         block.storePlanes([=](float v) { return levels.byteOf(v); });

@@ -30,8 +30,7 @@ struct Stretch {
 /// From a histogram as getHistogram gives it.
 Levels levelsOf(const GrowArray<int>& histogram, int minLum, const Stretch& stretch);
 
-Levels levelsOf(const CharImage& image, float lowFraction, float highFraction, float lowLevel, float highLevel,
-    bool clampToLowLevel, bool clampToHighLevel);
+Levels levelsOf(const CharImage& image, const Stretch& stretch);
 
 /// The pixels that the histogram samples, as a picture of one row; one without pixels when there are none.
 CharImage sampledPixels(const CharImage& image);

@@ -6,6 +6,7 @@
 #include "image/toolkit/ToneTable.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <type_traits>
 #include <vector>
 
@@ -19,17 +20,36 @@ inline Rgb pixelAt(const unsigned char* pixel)
     return {float(pixel[0]), float(pixel[1]), float(pixel[2])};
 }
 
-/// Visits the image in blocks: `function(block)`.
-template <class Function> void forEachBlock(CharImage& image, Function function)
+/// Visits the image in blocks: `function(block, first, count)`, the pixels being `count` from the pixel `first` on.
+template <class Function> void forEachNumberedBlock(CharImage& image, Function function)
 {
     Block block;
-    const std::size_t count = image.pixelCount();
-    for (std::size_t i = 0; i < count; i += blockPixels) {
-        unsigned char* pixels = image.data + i * 4;
-        const int inBlock = int(std::min<std::size_t>(blockPixels, count - i));
-        block.read(pixels, inBlock);
-        function(block);
-        block.write(pixels, inBlock);
+    const std::size_t end = image.pixelCount();
+    for (std::size_t first = 0; first < end; first += blockPixels) {
+        unsigned char* pixels = image.data + first * 4;
+        const int count = int(std::min<std::size_t>(blockPixels, end - first));
+        block.read(pixels, count);
+        function(block, first, count);
+        block.write(pixels, count);
+    }
+}
+
+/// The same where the place does not matter: `function(block)`.
+template <class Function> void forEachBlock(CharImage& image, Function function)
+{
+    forEachNumberedBlock(image, [&](Block& block, std::size_t, int) { function(block); });
+}
+
+/// Visits one row in blocks: `function(block, x)`, x being the column of the block's first pixel.
+template <class Function> void forEachBlockOfRow(CharImage& image, int y, Function function)
+{
+    Block block;
+    for (int x = 0; x < image.width; x += blockPixels) {
+        unsigned char* pixels = image.data + (std::size_t(y) * image.width + x) * 4;
+        const int count = std::min(blockPixels, image.width - x);
+        block.read(pixels, count);
+        function(block, x);
+        block.write(pixels, count);
     }
 }
 
@@ -153,84 +173,35 @@ void forEachPixel(CharImage& image, const ToneTable& tones, Function function, F
     passOver(image, TonedColours {tones}, function, finish...);
 }
 
-/// Visits the image in blocks that lie within a row each: `function(block, x, y)`, the place being that of the block's
-/// first pixel.
-template <class Function> void forEachBlockOfRows(CharImage& image, Function function)
-{
-    Block block;
-    for (int y = 0; y < image.height; y++)
-        for (int x = 0; x < image.width; x += blockPixels) {
-            unsigned char* pixels = image.data + (std::size_t(y) * image.width + x) * 4;
-            const int inBlock = std::min(blockPixels, image.width - x);
-            block.read(pixels, inBlock);
-            function(block, x, y);
-            block.write(pixels, inBlock);
-        }
-}
-
-/// A weight per pixel that depends only on how far the pixel stands from a centre across and down, in whole pixels. It is
-/// evaluated once for the up to four pixels that mirror one another about the centre.
-template <class Evaluate> class MirroredWeights {
-public:
-    /// `evaluate(plane, dx, dy)` fills a plane for the distances across dx, dx + 1, ... and the distance down dy.
-    MirroredWeights(const CharImage& image, int centreX, int centreY, Evaluate evaluateRow)
-        : m_centreX(centreX)
-        , m_centreY(centreY)
-        , m_reach(std::max(centreX, image.width - 1 - centreX))
-        , m_evaluate(evaluateRow)
-        , m_half(roundUp(m_reach + 1))
-        , m_row(roundUp(image.width))
-    {
-    }
-
-    int farthestRow(const CharImage& image) const { return std::max(m_centreY, image.height - 1 - m_centreY); }
-
-    /// The weights of the two rows that stand `dy` from the centre, from the left edge on.
-    const std::vector<float>& row(int dy, int width)
-    {
-        Plane plane;
-        for (int dx = 0; dx <= m_reach; dx += blockPixels) {
-            m_evaluate(plane, dx, dy);
-            std::memcpy(m_half.data() + dx, plane.at, sizeof plane.at);
-        }
-        for (int x = 0; x < m_centreX && x < width; x++)
-            m_row[x] = m_half[m_centreX - x];
-        for (int x = std::max(m_centreX, 0); x < width; x++)
-            m_row[x] = m_half[x - m_centreX];
-        return m_row;
-    }
-
-private:
-    static std::size_t roundUp(int count) { return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels; }
-
-    int m_centreX, m_centreY, m_reach;
-    Evaluate m_evaluate;
-    std::vector<float> m_half, m_row;
-};
-
-/// Visits the image in blocks with a weight per pixel, mirrored about a pixel of the image: `function(block, weights)`
-/// works on the planes of the block, which are then stored. `evaluate` is that of MirroredWeights.
+/// Visits the image in blocks with a weight per pixel that depends only on how far the pixel stands from a centre, a pixel
+/// of the image, across and down. `evaluate(plane, dx, dy)` fills a plane with the weights for the distances across dx,
+/// dx + 1, ... and the distance down dy, once for the up to four pixels that mirror one another. `function(block,
+/// weights)` works on the planes of the block, which are then stored.
 template <class Evaluate, class Function>
 void forEachBlockAround(CharImage& image, int centreX, int centreY, Evaluate evaluate, Function function)
 {
-    MirroredWeights weights(image, centreX, centreY, evaluate);
-    Block block;
-    const auto work = [&](int y, const std::vector<float>& row) {
-        for (int x = 0; x < image.width; x += blockPixels) {
-            unsigned char* pixels = image.data + (std::size_t(y) * image.width + x) * 4;
-            const int inBlock = std::min(blockPixels, image.width - x);
-            block.read(pixels, inBlock);
+    const auto inWholeBlocks = [](int count) { return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels; };
+    const int reachX = std::max(centreX, image.width - 1 - centreX);
+    const int reachY = std::max(centreY, image.height - 1 - centreY);
+    std::vector<float> half(inWholeBlocks(reachX + 1)), row(inWholeBlocks(image.width));
+    const auto work = [&](int y) {
+        forEachBlockOfRow(image, y, [&](Block& block, int x) {
             block.fillPlanes();
             function(block, row.data() + x);
             block.storePlanes();
-            block.write(pixels, inBlock);
-        }
+        });
     };
-    for (int dy = 0; dy <= weights.farthestRow(image); dy++) {
-        const std::vector<float>& row = weights.row(dy, image.width);
+    for (int dy = 0; dy <= reachY; dy++) {
+        for (int dx = 0; dx <= reachX; dx += blockPixels) {
+            Plane plane;
+            evaluate(plane, dx, dy);
+            std::memcpy(half.data() + dx, plane.at, sizeof plane.at);
+        }
+        for (int x = 0; x < image.width; x++)
+            row[x] = half[std::abs(x - centreX)];
         if (centreY + dy < image.height)
-            work(centreY + dy, row);
+            work(centreY + dy);
         if (dy > 0 && centreY - dy >= 0)
-            work(centreY - dy, row);
+            work(centreY - dy);
     }
 }

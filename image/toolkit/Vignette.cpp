@@ -67,7 +67,7 @@ void CharImage::vignette(
 
     CharImage blurred(*this);
     blurred.makeBlurry(softeningSize(std::max(width, height)), 0.0f);
-    forEachBlockOfRows(*this, [&](Block& block, int x, int y) {
+    const auto softenAndDarken = [&](Block& block, int x, int y) {
         Plane t, dark;
         placeAt(t, x - cx, y - cy);
         dark = t;
@@ -84,5 +84,7 @@ void CharImage::vignette(
         }
         workPlanes(block, [&](Rgb c, int i) { return darken(c, luminance(c), dark.at[i]); });
         block.storePlanes();
-    });
+    };
+    for (int y = 0; y < height; y++)
+        forEachBlockOfRow(*this, y, [&](Block& block, int x) { softenAndDarken(block, x, y); });
 }
