@@ -12,13 +12,15 @@ void CharImage::applyArcticFilter()
     const ToneTable strengths([](float lum) {
         return 1.0f - (lum < pivot ? std::pow((pivot - lum) * (1.0f / 135.0f), 1.1f) : (lum - pivot) * (1.0f / 120.0f));
     });
-    const auto bleached = [](Rgb c, float strength) {
-        const float lum = byteLuminance(c);
-        const float t = float(lum * per255);
+    const auto bleached = [](auto c, auto strength) {
+        const auto lum = byteLuminance(c);
+        const auto t = rounded(lum * per255);
         c = {c.r * 0.63f + t * 14.8f, c.g * 0.63f + t * 14.8f, c.b * 0.63f + t * 59.2f};
-        c = partedTones(c, lum < pivot, strength);
-        const float level = luminance(c) * -(1.1f - 1.0f);
-        return eachChannel(c, [=](float v) { return v * 1.1f + level; });
+        return partedTones(c, lum < pivot, strength);
     };
-    forEachPixel(*this, strengths, bleached, Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
+    const auto coloured = [](auto c) {
+        const auto level = luminance(c) * -(1.1f - 1.0f);
+        return eachChannel(c, [=](auto v) { return v * 1.1f + level; });
+    };
+    forEachPixel(*this, strengths, Steps(bleached, coloured), Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

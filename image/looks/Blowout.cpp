@@ -5,9 +5,10 @@
 void CharImage::applyBlowoutFilter()
 {
     const Levels levels = levelsOf(*this, {0.01f, 0.1f, 20.0f, 255.0f, false, true});
-    forEachPixel(*this, [=](Rgb c) {
-        c = eachChannel(c, levels);
-        const float gain = lightnessOf(c) + 1.0f;
-        return eachChannel(c, [=](float v) { return v * gain; });
-    });
+    const auto levelled = [=](auto c) { return eachChannel(c, levels); };
+    const auto blown = [](auto c) {
+        const auto gain = lightnessOf(c) + 1.0f;
+        return eachChannel(c, [=](auto v) { return v * gain; });
+    };
+    forEachPixel(*this, Steps(levelled, blown));
 }

@@ -24,21 +24,25 @@ void CharImage::applyCinemaFilter()
     const CinemaParameters p = currentParameters<CinemaParameters>();
     const Rgb tint = {float(p.tint[0]), float(p.tint[1]), float(p.tint[2])};
     const Levels levels = levelsOf(*this, {0.05f, 0.0f, 5.0f, 255.0f, true, true});
-    forEachPixel(*this, [=](Rgb c) {
-        c = eachChannel(c, levels);
-        const float boost = float(byteLuminance(c) * per255);
-        c = eachChannel(c, [=](float v) { return v * (1.0f - boost) + v * boost * 1.5f; });
-        c = eachChannel(c, [](float v) { return float((v - 128.0) * double(1.1f) + 128.0); });
-
-        const float level = luminance(c) * (1.0f - 0.85f);
-        c = eachChannel(c, [=](float v) { return v * 0.85f + level; });
-
-        const float l = float(luminance(c) * per255);
-        const auto tinted = [=](float v, float t) { return withDoubledCast(v, p.weight, p.weight * (t * l)); };
-        c = {tinted(c.r, tint.r), tinted(c.g, tint.g), tinted(c.b, tint.b)};
-
-        c = eachChannel(c, [](float v) { return v * 1.5f; });
-        const float d = float(luminance(c) * -per255 + 1.0);
-        return eachChannel(c, [=](float v) { return v * (1.0f - d) + v * d * 1.5f; });
-    });
+    const auto levelled = [=](auto c) { return eachChannel(c, levels); };
+    const auto highlit = [=](auto c) {
+        const auto boost = rounded(byteLuminance(c) * per255);
+        c = eachChannel(c, [=](auto v) { return withShareTimes(v, boost, 1.5f); });
+        return eachChannel(c, [](auto v) { return withContrast(v, 1.1f); });
+    };
+    const auto muted = [](auto c) {
+        const auto level = luminance(c) * (1.0f - 0.85f);
+        return eachChannel(c, [=](auto v) { return v * 0.85f + level; });
+    };
+    const auto tinted = [=](auto c) {
+        const auto l = rounded(luminance(c) * per255);
+        const auto towards = [=](auto v, float t) { return withDoubledCast(v, p.weight, p.weight * (t * l)); };
+        c = {towards(c.r, tint.r), towards(c.g, tint.g), towards(c.b, tint.b)};
+        return eachChannel(c, [](auto v) { return v * 1.5f; });
+    };
+    const auto lifted = [](auto c) {
+        const auto d = rounded(luminance(c) * -per255 + 1.0);
+        return eachChannel(c, [=](auto v) { return withShareTimes(v, d, 1.5f); });
+    };
+    forEachPixel(*this, Steps(levelled, highlit, muted, tinted, lifted));
 }

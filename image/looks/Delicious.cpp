@@ -50,7 +50,7 @@ private:
 void flattenShadows(Block& block)
 {
     block.fillPlanes();
-    workBlock(block, [](Rgb c, int) { return luminance(c) < 50.0f ? grey(outlineGrey) : c; });
+    workBlock(block, stepsOf([](Rgb c) { return luminance(c) < 50.0f ? grey(outlineGrey) : c; }), nullptr);
 }
 
 /// What a curve makes of the bytes of a map beside a block.
@@ -82,10 +82,11 @@ void recolour(Block& block, const Plane& lightness)
     // Pure red has the hue 1.0 and comes out grey, on purpose.
     for (int i = 0; i < blockPixels; i++)
         block.setColour(i, rgbOf(Hsl {hue.at[i], saturation.at[i], lightness.at[i]}, float(int(hue.at[i] * 6.0f))));
-    workBlock(block, [](Rgb c, int) {
+    const auto doubled = [](Rgb c) {
         const float level = luminance(c);
         return eachChannel(c, [=](float v) { return v + v - level; });
-    });
+    };
+    workBlock(block, stepsOf(doubled), nullptr);
 }
 
 /// How much of the outlines' grey covers a pixel, by the strength of its edge.
@@ -97,10 +98,10 @@ ChannelCurve inkOfEdges()
 void drawOutlines(Block& block, const Plane& ink)
 {
     block.fillPlanes();
-    workBlock(block, [&](Rgb c, int i) {
-        const float t = ink.at[i];
+    const auto inked = [](Rgb c, float t) {
         return eachChannel(c, [=](float v) { return float(int((1.0 - t) * v + t * outlineGrey)); });
-    });
+    };
+    workBlock(block, stepsOf(inked), ink.at);
 }
 
 } // namespace

@@ -29,33 +29,18 @@ namespace {
 /// A cool tint in proportion to brightness, colours muted, channels under unequal gains on purpose; then the levels.
 void tintAndMute(CharImage& image, const HelgaParameters& p)
 {
-    const auto muted = [&](Rgb c) {
-        const float l = float(byteLuminance(c) * per255);
-        c = {p.tint[0] * l * 0.4f + c.r * 0.8f, p.tint[1] * l * 0.4f + c.g * 0.8f, p.tint[2] * l * 0.4f + c.b * 0.8f};
-        const float level = luminance(c) * (1.0f - 0.6f);
-        c = eachChannel(c, [=](float v) { return v * 0.6f + level; });
-        return Rgb{float(c.r * 280.0f * per255), float(c.g * 275.0f * per255), float(c.b * 255.0f * per255)};
+    const auto tinted = [&](auto c) {
+        const auto l = rounded(byteLuminance(c) * per255);
+        const auto towards = [=](auto v, float tint) { return tint * l * 0.4f + v * 0.8f; };
+        return Colour {towards(c.r, p.tint[0]), towards(c.g, p.tint[1]), towards(c.b, p.tint[2])};
     };
-    forEachPixel(image, muted, Stretch {0.001f, 0.001f, float(p.lowLevel), 255.0f, true, true});
-}
-
-/// Contrast about 128, compressed highlights, shadows lifted by up to 35 per cent.
-Rgb contrastAndLift(Rgb c, float contrast)
-{
-    c = eachChannel(c, [=](float v) {
-        const float u = float(contrast * (v - 128.0) + 128.0);
-        return float((u - 255.0) * double(0.97f) + 255.0);
-    });
-    const float a = float(luminance(c) * -per255 + 1.0);
-    const float w = a * a;
-    return eachChannel(c, [=](float z) { return (1.0f - w) * z + w * z * 1.35f; });
-}
-
-/// Darkens and saturates by the fall-off `e` (0 at the centre, 1 far out). Saturation may pass 1: the black floor
-/// catches it.
-Hsv darkenAndSaturate(Hsv c, float e)
-{
-    return {c.h, float(c.s * (1.0 + 0.4 * e)), float(c.v * (1.0 - e))};
+    const auto muted = [](auto c) {
+        const auto level = luminance(c) * (1.0f - 0.6f);
+        c = eachChannel(c, [=](auto v) { return v * 0.6f + level; });
+        return Colour {
+            rounded(c.r * 280.0f * per255), rounded(c.g * 275.0f * per255), rounded(c.b * 255.0f * per255)};
+    };
+    forEachPixel(image, Steps(tinted, muted), Stretch {0.001f, 0.001f, float(p.lowLevel), 255.0f, true, true});
 }
 
 } // namespace
@@ -75,18 +60,21 @@ void CharImage::applyHelgaFilter()
         }
         applySCurve(fallOff, p.edgeExponent);
     };
-    const float floor = float(p.blackFloor);
-    forEachBlockAround(*this, width / 2, height / 2, fallOffAt, [=](Block& block, const float* fallOff) {
-        workPlanes(block, [=](Rgb c, int) { return contrastAndLift(c, p.contrast); });
-        // Hue, saturation and value stand in the planes for a while: one loop for all of it would be too much for the
-        // compilers' vectorisers.
-        workPlanes(block, [=](Rgb c, int i) {
-            const Hsv hsv = darkenAndSaturate(hsvOf(c), fallOff[i]);
-            return Rgb {hsv.h, hsv.s, hsv.v};
-        });
-        workPlanes(block, [=](Rgb c, int) { return rgbOf(Hsv {c.r, c.g, c.b}); });
-        workPlanes(block, [=](Rgb c, int) {
-            return eachChannel(c, [=](float v) { return float(truncateToInt(v)) < floor ? floor : v; });
-        });
-    });
+    const auto contrasted = [=](auto c) {
+        c = eachChannel(c, [=](auto v) { return withContrast(v, p.contrast); });
+        return eachChannel(c, [](auto v) { return rounded((v - 255.0) * double(0.97f) + 255.0); });
+    };
+    // Compressed highlights, and shadows lifted by up to 35 per cent.
+    const auto lifted = [](auto c) {
+        const auto a = rounded(luminance(c) * -per255 + 1.0);
+        return eachChannel(c, [w = a * a](auto z) { return withShareTimes(z, w, 1.35f); });
+    };
+    // Saturation may pass 1: the black floor catches it.
+    const auto darkened = [](auto c, auto e) { return withSaturationAndValueTimes(c, 1.0 + 0.4 * e, 1.0 - e); };
+    // Half a step more than the floor makes no other byte, and no trial can be in doubt of it.
+    const auto floored = [floor = p.blackFloor + 0.5f](auto c) {
+        return eachChannel(c, [=](auto v) { return notBelow(v, floor); });
+    };
+    forEachPixelAround(
+        *this, width / 2, height / 2, 1.0f, fallOffAt, Steps(contrasted, lifted, darkened, floored));
 }

@@ -30,28 +30,19 @@ void CharImage::applyInstantFilter()
         return channelCurve([&](int v) { return film.at[int(levels(float(v)))]; });
     };
     const ChannelCurve red = curve(p.exponent[0]), green = curve(p.exponent[1]), blue = curve(p.exponent[2]);
-    forEachBlock(*this, [&](Block& block) {
-        block.fillPlanes(red, green, blue);
-        workPlanes(block, [](Rgb c, int) {
-            const float l = float(luminance(c) * per255);
-            const float w = float((1.0 - l * l * l) * 0.38);
-            const auto tinted = [=](float v, float tint) { return withDoubledCast(v, w, w * (l * tint)); };
-            c = {tinted(c.r, 126.0f), tinted(c.g, 61.0f), tinted(c.b, 38.0f)};
-            return eachChannel(c, [](float v) { return (v + 5.0f) * 1.1f; });
-        });
-        Plane highlights = planeOf(block, [](Rgb c) { return float(luminance(c) * per255); });
-        raise(highlights, 1.5f);
-        workPlanes(block, [&](Rgb c, int i) {
-            const float q = highlights.at[i];
-            return eachChannel(c, [=](float v) { return v * (1.0f - q) + v * q * 0.95f; });
-        });
-        // A contrast of 1 changes no byte: the double difference only loses what lies far below 1.
-        if (p.contrast != 1.0f)
-            workPlanes(block, [&](Rgb c, int) {
-                return eachChannel(c, [=](float v) { return float((v - 128.0) * p.contrast + 128.0); });
-            });
-        block.storePlanes();
-    });
+    const auto browned = [](auto c) {
+        const auto l = rounded(luminance(c) * per255);
+        const auto w = rounded((1.0 - l * l * l) * 0.38);
+        const auto towards = [=](auto v, float tint) { return withDoubledCast(v, w, w * (l * tint)); };
+        c = {towards(c.r, 126.0f), towards(c.g, 61.0f), towards(c.b, 38.0f)};
+        return eachChannel(c, [](auto v) { return (v + 5.0f) * 1.1f; });
+    };
+    const auto dimmed = [](auto c) {
+        const auto q = sesquiPower(rounded(luminance(c) * per255));
+        return eachChannel(c, [=](auto v) { return withShareTimes(v, q, 0.95f); });
+    };
+    const auto contrasted = [=](auto c) { return eachChannel(c, [=](auto v) { return withContrast(v, p.contrast); }); };
+    forEachPixel(*this, red, green, blue, Steps(browned, dimmed, contrasted));
 
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
     const float halfDiagonal = std::sqrt(halfWidth * halfWidth + halfHeight * halfHeight);

@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr double heaviestGlow = 0.15;
+
 /// Where the light came in: a new place and reach on every call, whatever the variation switch says.
 struct Leak {
     int x, y;
@@ -30,26 +32,19 @@ struct Leak {
         }
         raise(glow, 1.5f);
         for (float& g : glow.at)
-            g = float(g * 0.15);
+            g = float(g * heaviestGlow);
     }
 };
 
-float brightness(Rgb c)
+template <class Channel> Channel brightness(Colour<Channel> c)
 {
-    return float(luminance(c) * per255);
+    return rounded(luminance(c) * per255);
 }
 
 /// Moves `v` towards `colour` by `weight`, the doubled cast following the brightness `l`.
-float castBy(float v, float weight, float l, float colour)
+template <class Channel, class Weight> Channel castBy(Channel v, Weight weight, Channel l, float colour)
 {
     return withDoubledCast(v, weight, weight * l * colour);
-}
-
-/// The look's contrast on one channel; it never goes below 62, on purpose.
-float contrast(float v, float p)
-{
-    const float raised = (v * (1.0f - p) + v * p * 1.1f) * 1.35f;
-    return truncateToInt(raised) <= 61 ? 62.0f : raised;
 }
 
 } // namespace
@@ -60,28 +55,31 @@ void CharImage::applyLightleakFilter()
     if (pixelCount() == 0)
         return;
     const Leak leak = Leak::drawn(*this);
-    const auto glowAt = [=](Plane& glow, int dx, int dy) { leak.glowAt(glow, dx, dy); };
-    forEachBlockAround(*this, leak.x, leak.y, glowAt, [](Block& block, const float* glow) {
-        workPlanes(block, [=](Rgb c, int i) {
-            const float shade = float(1.0 - float(byteLuminance(c) * per255));
-            const float k = shade * shade;
-            c = eachChannel(c, [=](float v) { return float(v * (1.0f - k) + v * k * 0.4); });
-
-            float l = brightness(c);
-            const float a = float((1.0 - l * l * l) * 0.53);
-            c = {castBy(c.r, a, l, 117.0f) + 20.0f, castBy(c.g, a, l, 67.0f) + 20.0f, castBy(c.b, a, l, 110.0f) + 20.0f};
-
-            const float m = luminance(c) * (1.0f - 0.9f);
-            c = eachChannel(c, [=](float v) { return v * 0.9f + m; });
-
-            const float g = glow[i];
-            l = brightness(c);
-            return Rgb{castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};
-        });
-        Plane p = planeOf(block, brightness);
-        raise(p, 1.5f);
-        workPlanes(block, [&](Rgb c, int i) { return eachChannel(c, [&](float v) { return contrast(v, p.at[i]); }); });
-    });
+    const auto shaded = [](auto c) {
+        const auto shade = rounded(1.0 - rounded(byteLuminance(c) * per255));
+        const auto k = shade * shade;
+        return eachChannel(c, [=](auto v) { return withShareTimes(v, k, 0.4); });
+    };
+    const auto violet = [](auto c) {
+        const auto l = brightness(c);
+        const auto a = rounded((1.0 - l * l * l) * 0.53);
+        return Colour {castBy(c.r, a, l, 117.0f) + 20.0f, castBy(c.g, a, l, 67.0f) + 20.0f, castBy(c.b, a, l, 110.0f) + 20.0f};
+    };
+    const auto muted = [](auto c) {
+        const auto m = luminance(c) * (1.0f - 0.9f);
+        return eachChannel(c, [=](auto v) { return v * 0.9f + m; });
+    };
+    const auto glowing = [](auto c, auto g) {
+        const auto l = brightness(c);
+        return Colour {castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};
+    };
+    // It never goes below 62, on purpose. Up to half a step more makes no other byte, and no trial can be in doubt of it.
+    const auto contrasted = [](auto c) {
+        const auto p = sesquiPower(brightness(c));
+        return eachChannel(c, [=](auto v) { return notBelow(withShareTimes(v, p, 1.1f) * 1.35f, 62.5f); });
+    };
+    forEachPixelAround(*this, leak.x, leak.y, heaviestGlow, [=](Plane& glow, int dx, int dy) { leak.glowAt(glow, dx, dy); },
+        Steps(shaded, violet, muted, glowing, contrasted));
 
     const float halfWidth = width * 0.5f, halfHeight = height * 0.5f;
     vignette(0.0f, std::sqrt(halfWidth * halfWidth + halfHeight * halfHeight), 1.2f, 0.2f, true, false);

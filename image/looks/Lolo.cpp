@@ -24,16 +24,19 @@ void CharImage::applyLoloFilter()
 {
     const LoloParameters p = currentParameters<LoloParameters>();
     const Levels levels = levelsOf(*this, {0.005f, 0.01f, p.darkLevel, p.brightLevel, true, true});
-    forEachPixel(*this, [=](Rgb c) {
-        c = eachChannel(c, levels);
-        const float lum = byteLuminance(c);
-        c = eachChannel(c, [=](float v) { return p.saturation * v + lum * (1.0f - p.saturation); });
-        c = eachChannel(c, [](float v) { return float((v - 128.0) * 1.5 + 128.0); });
-
-        const float t = float(luminance(c) * per255);
-        const Rgb warm = {c.r * 0.97f + t * 12.9f, c.g * 0.97f + t * 9.66f, c.b * 0.97f};
-
-        const float level = luminance(warm) * (1.0f - 0.9f);
-        return Rgb{warm.r * 0.9f + level, warm.g * 0.9f + level, c.b * 0.873f + level}; // 0.873 = 0.97 x 0.9
-    });
+    const auto levelled = [=](auto c) { return eachChannel(c, levels); };
+    const auto saturated = [=](auto c) {
+        const auto lum = byteLuminance(c);
+        c = eachChannel(c, [=](auto v) { return p.saturation * v + lum * (1.0f - p.saturation); });
+        return eachChannel(c, [](auto v) { return withContrast(v, 1.5); });
+    };
+    const auto warmed = [](auto c) {
+        const auto t = rounded(luminance(c) * per255);
+        return Colour {c.r * 0.97f + t * 12.9f, c.g * 0.97f + t * 9.66f, c.b};
+    };
+    const auto muted = [](auto c) {
+        const auto level = luminance(Colour {c.r, c.g, c.b * 0.97f}) * (1.0f - 0.9f);
+        return Colour {c.r * 0.9f + level, c.g * 0.9f + level, c.b * 0.873f + level}; // 0.873 = 0.97 x 0.9
+    };
+    forEachPixel(*this, Steps(levelled, saturated, warmed, muted));
 }

@@ -28,7 +28,7 @@ void CharImage::apply1962Filter()
     const Levels levels = levelsOf(*this, {p.darkFraction, p.brightFraction, p.darkLevel, 245.0f, false, false});
     forEachPixel(*this, [=](Rgb c) {
         c = eachChannel(c, levels);
-        const float level = luminance({c.r * p.gain[0], c.g * p.gain[1], c.b * p.gain[2]});
+        const float level = luminance(Rgb{c.r * p.gain[0], c.g * p.gain[1], c.b * p.gain[2]});
         return p.contrast * (level - p.pivot) + p.pivot;
     });
 }

@@ -22,15 +22,17 @@ void CharImage::applyMagazineFilter()
             - (p.pivot > lum ? std::pow((p.pivot - lum) / p.pivot, p.shadowExponent)
                              : std::pow((lum - p.pivot) / (255.0f - p.pivot), p.highlightExponent));
     });
-    const auto warmed = [=](Rgb c, float strength) {
-        const float lum = byteLuminance(c);
-        const float l = float(lum * per255);
-        const float w = float(lum * -per255 * 0.27 + 0.27 + 0.2);
-        const auto tinted = [=](float v, float tint) { return withDoubledCast(v, w, w * (l * tint)); };
-        c = {tinted(c.r, 232.0f), tinted(c.g, 135.0f), tinted(c.b, 44.0f)};
-        c = partedTones(c, p.pivot > lum, strength);
-        const float level = luminance(c) * (1.0f - 1.23f);
-        return eachChannel(c, [=](float v) { return v * 1.23f + level; });
+    const auto warmed = [=](auto c, auto strength) {
+        const auto lum = byteLuminance(c);
+        const auto l = rounded(lum * per255);
+        const auto w = rounded(lum * -per255 * 0.27 + 0.27 + 0.2);
+        const auto towards = [=](auto v, float tint) { return withDoubledCast(v, w, w * (l * tint)); };
+        c = {towards(c.r, 232.0f), towards(c.g, 135.0f), towards(c.b, 44.0f)};
+        return partedTones(c, lum < p.pivot, strength);
     };
-    forEachPixel(*this, strengths, warmed, Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
+    const auto coloured = [](auto c) {
+        const auto level = luminance(c) * (1.0f - 1.23f);
+        return eachChannel(c, [=](auto v) { return v * 1.23f + level; });
+    };
+    forEachPixel(*this, strengths, Steps(warmed, coloured), Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

@@ -16,10 +16,14 @@
 /// 1/255, the factor that stands for every division by 255.
 inline constexpr double per255 = 0.00392156862745098;
 
-/// One pixel's colour while it is worked on, each channel on 0 .. 255 (and beyond, until it is stored).
-struct Rgb {
-    float r, g, b;
+/// One pixel's colour while it is worked on, each channel on 0 .. 255 (and beyond, until it is stored). A recipe that is
+/// written for any kind of channel can be tried with quicker ones first (Trial.h); Rgb is what it means.
+template <class Channel> struct Colour {
+    Channel r, g, b;
 };
+template <class Channel> Colour(Channel, Channel, Channel) -> Colour<Channel>;
+
+using Rgb = Colour<float>;
 
 /// A neutral colour.
 inline Rgb grey(float level)
@@ -28,15 +32,53 @@ inline Rgb grey(float level)
 }
 
 /// The same function on each channel.
-template <class Function> inline Rgb eachChannel(Rgb c, Function f)
+template <class Channel, class Function> inline auto eachChannel(Colour<Channel> c, Function f)
 {
-    return {f(c.r), f(c.g), f(c.b)};
+    return Colour {f(c.r), f(c.g), f(c.b)};
+}
+
+/// Where a recipe rounds a step in double.
+inline float rounded(double value)
+{
+    return float(value);
+}
+
+/// One of two values; compilers make vector code of it.
+template <class Channel> inline Channel select(bool condition, Channel yes, Channel no)
+{
+    return condition ? yes : no;
+}
+
+template <class Channel> inline Channel larger(Channel a, Channel b)
+{
+    return select(a < b, b, a);
+}
+
+template <class Channel> inline Channel smaller(Channel a, Channel b)
+{
+    return select(b < a, b, a);
+}
+
+template <class Channel> inline Channel largest(Colour<Channel> c)
+{
+    return larger(larger(c.r, c.g), c.b);
+}
+
+template <class Channel> inline Channel smallest(Colour<Channel> c)
+{
+    return smaller(smaller(c.r, c.g), c.b);
+}
+
+/// What is no number becomes the floor, too.
+template <class Channel> inline Channel notBelow(Channel v, float floor)
+{
+    return larger(Channel(floor), v);
 }
 
 /// Luminance of Rec. 601 weights, shortened to two places.
-inline float luminance(Rgb c)
+template <class Channel> inline Channel luminance(Colour<Channel> c)
 {
-    return float(c.r * 0.3 + c.g * 0.59 + c.b * 0.11);
+    return rounded(c.r * 0.3 + c.g * 0.59 + c.b * 0.11);
 }
 
 /// The same for channels that are whole numbers of 0 .. 255, without a double: 100 times their luminance is a whole
@@ -54,19 +96,32 @@ inline float sCurve(float x, float exponent)
     return float(1.0 - 0.5 * std::pow(float(2.0 - 2.0 * x), exponent));
 }
 
+/// Multiplies the share `share` (0 .. 1) of a channel by `gain`.
+template <class Channel, class Gain> inline Channel withShareTimes(Channel v, Channel share, Gain gain)
+{
+    return rounded(v * (1.0f - share) + v * share * gain);
+}
+
+/// Contrast about the middle of the channel.
+template <class Channel, class Gain> inline Channel withContrast(Channel v, Gain gain)
+{
+    return rounded((v - 128.0) * gain + 128.0);
+}
+
 /// Moves a channel towards a cast that is counted twice, by `weight` (0 .. 1, already part of the cast).
-inline float withDoubledCast(float v, float weight, float cast)
+template <class Channel, class Weight> inline Channel withDoubledCast(Channel v, Weight weight, Channel cast)
 {
     return v * (1.0f - weight) + (cast + cast);
 }
 
 /// Parts the tones: dark colours keep the share `strength` (0 .. 1) of their distance from black, light ones of that
 /// from white.
-inline Rgb partedTones(Rgb c, bool dark, float strength)
+template <class Channel, class Condition, class Strength>
+inline Colour<Channel> partedTones(Colour<Channel> c, Condition dark, Strength strength)
 {
-    return eachChannel(c, [=](float v) {
-        const float sunk = v * strength, lifted = float((v - 255.0) * strength + 255.0);
-        return dark ? sunk : lifted;
+    return eachChannel(c, [=](Channel v) {
+        const Channel sunk = v * strength, lifted = rounded((v - 255.0) * strength + 255.0);
+        return select(dark, sunk, lifted);
     });
 }
 

@@ -17,6 +17,19 @@ struct alignas(64) Plane {
     float at[blockPixels];
 };
 
+/// The channels of a block's pixels.
+struct Planes {
+    Plane r, g, b;
+
+    Rgb colour(int i) const { return {r.at[i], g.at[i], b.at[i]}; }
+    void setColour(int i, Rgb c)
+    {
+        r.at[i] = c.r;
+        g.at[i] = c.g;
+        b.at[i] = c.b;
+    }
+};
+
 /// What each value of a channel becomes as a float: a per-channel curve needs no more than 256 evaluations.
 struct ChannelCurve {
     float at[256];
@@ -40,22 +53,13 @@ inline ChannelCurve filmCurve(float exponent)
     });
 }
 
-/// The pixels of a block as the image holds them, and their channels as planes. A block that is only part filled is
+/// The pixels of a block as the image holds them, and their channels. A block that is only part filled is
 /// computed to its end all the same; the surplus is never written back.
-struct Block {
+struct Block : Planes {
     alignas(64) unsigned char bytes[blockPixels * 4] = {};
-    Plane r, g, b;
 
     void read(const unsigned char* pixels, int count) { std::memcpy(bytes, pixels, std::size_t(count) * 4); }
     void write(unsigned char* pixels, int count) const { std::memcpy(pixels, bytes, std::size_t(count) * 4); }
-
-    Rgb colour(int i) const { return {r.at[i], g.at[i], b.at[i]}; }
-    void setColour(int i, Rgb c)
-    {
-        r.at[i] = c.r;
-        g.at[i] = c.g;
-        b.at[i] = c.b;
-    }
 
     void fillPlanes()
     {
@@ -73,15 +77,23 @@ struct Block {
             setColour(i, {forRed.at[bytes[4 * i]], forGreen.at[bytes[4 * i + 1]], forBlue.at[bytes[4 * i + 2]]});
     }
 
-    /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255; the spare bytes stay.
+    /// Stores `bytesOf(i)`, a Colour of 0 .. 255, for each pixel; the spare bytes stay.
+    template <class BytesOf> void storeBytes(BytesOf bytesOf)
+    {
+        for (int i = 0; i < blockPixels; i++)
+            setBytes(i, bytesOf(i));
+    }
+    void setBytes(int i, Colour<int> c)
+    {
+        setWord(i,
+            (word(i) & ~colourMask) | std::uint32_t(c.r) << redShift | std::uint32_t(c.g) << greenShift
+                | std::uint32_t(c.b) << blueShift);
+    }
+
+    /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255.
     template <class ToByte> void storePlanes(ToByte toByte)
     {
-        for (int i = 0; i < blockPixels; i++) {
-            const std::uint32_t red = std::uint32_t(toByte(r.at[i]));
-            const std::uint32_t green = std::uint32_t(toByte(g.at[i]));
-            const std::uint32_t blue = std::uint32_t(toByte(b.at[i]));
-            setWord(i, (word(i) & ~colourMask) | red << redShift | green << greenShift | blue << blueShift);
-        }
+        storeBytes([&](int i) { return eachChannel(colour(i), toByte); });
     }
 
     /// Truncates and clamps them.
@@ -93,10 +105,10 @@ struct Block {
     /// Stores the red plane in all three channels.
     template <class ToByte> void storeGrey(ToByte toByte)
     {
-        for (int i = 0; i < blockPixels; i++) {
-            const std::uint32_t level = std::uint32_t(toByte(r.at[i]));
-            setWord(i, (word(i) & ~colourMask) | level << redShift | level << greenShift | level << blueShift);
-        }
+        storeBytes([&](int i) {
+            const int level = toByte(r.at[i]);
+            return Colour {level, level, level};
+        });
     }
 
 private:

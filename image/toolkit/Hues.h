@@ -1,6 +1,7 @@
 #pragma once
 
-#include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/ErrorBound.h"
+#include "image/toolkit/Single.h"
 
 // The colour-space conversions of ColorSpace.h for use inside a pixel function: values chosen, not branched on.
 // Quotients of zero are formed and then passed over.
@@ -13,28 +14,16 @@ struct Hsv {
     float h, s, v; ///< degrees, 0 .. 1, 0 .. 1
 };
 
-inline float largest(Rgb c)
-{
-    const float ofTwo = c.r < c.g ? c.g : c.r;
-    return ofTwo < c.b ? c.b : ofTwo;
-}
-
-inline float smallest(Rgb c)
-{
-    const float ofTwo = c.g < c.r ? c.g : c.r;
-    return c.b < ofTwo ? c.b : ofTwo;
-}
-
 /// A colour on 0 .. 255 scaled to 0 .. 1.
-inline Rgb scaledToOne(Rgb c)
+template <class Channel> inline Colour<Channel> scaledToOne(Colour<Channel> c)
 {
-    return eachChannel(c, [](float v) { return float(v * per255); });
+    return eachChannel(c, [](Channel v) { return rounded(v * per255); });
 }
 
 /// The lightness of a colour on 0 .. 255 without the rest of the conversion.
-inline float lightnessOf(Rgb c)
+template <class Channel> inline Channel lightnessOf(Colour<Channel> c)
 {
-    const Rgb unit = scaledToOne(c);
+    const Colour unit = scaledToOne(c);
     return (largest(unit) + smallest(unit)) * 0.5f;
 }
 
@@ -115,4 +104,43 @@ inline Rgb rgbOf(Hsv c)
     const float p = c.v * (1.0f - c.s), q = c.v * (1.0f - c.s * f), t = c.v * (1.0f - c.s * (1.0f - f));
     const Rgb coloured = ofSextant(sextant, c.v, t, q, p, Rgb{c.v, p, q});
     return eachChannel(c.s == 0.0f ? grey(c.v) : coloured, [](float u) { return u * 255.0f; });
+}
+
+/// Multiplies saturation and value of a colour on 0 .. 255 and keeps its hue. The factors are doubles.
+inline Rgb withSaturationAndValueTimes(Rgb c, double saturation, double value)
+{
+    const Hsv hsv = hsvOf(c);
+    return rgbOf(Hsv {hsv.h, float(hsv.s * saturation), float(hsv.v * value)});
+}
+
+/// What differs between channels by less is too near for a trial to tell how the conversion there and back ends: a hue next
+/// to a full turn may come out as magenta, and a value of 0 makes no saturation.
+inline constexpr float nearHue = 1.0f / 64.0f;
+
+/// The same without the way over the hue: every channel keeps its share of the distance from the largest one. Gives a whole
+/// number, on which no trial decides, where that would not be the same.
+inline Colour<Single> withSaturationAndValueTimes(Colour<Single> c, Single saturation, Single value)
+{
+    const Single max = largest(c);
+    const bool unclear = smaller(std::fabs(c.g.value - c.b.value), std::fabs(max.value)) < nearHue;
+    return eachChannel(c, [=](Single v) { return select(unclear, Single(255.0f), value * (max - saturation * (max - v))); });
+}
+
+/// The exact way rounds the hue 27 times half a last place at most, counted in sextants, and its other steps 12 times; the
+/// quotients cancel, so that all this stays in proportion to the largest channel and the factors. Their sum is less than
+/// 100 half places.
+inline Colour<ErrorBound> withSaturationAndValueTimes(Colour<ErrorBound> c, ErrorBound saturation, ErrorBound value)
+{
+    const ErrorBound max = largest(c);
+    const double magnitude = std::max({c.r.magnitude(), c.g.magnitude(), c.b.magnitude()});
+    const double before = std::max({c.r.error, c.g.error, c.b.error});
+    const bool clear = before < nearHue / 4 && magnitude < 1e4;
+    const double onTheWay = clear ? 100.0 * 0x1p-24 * magnitude * value.magnitude() * std::max(1.0, saturation.magnitude())
+                                  : std::numeric_limits<double>::infinity();
+    return eachChannel(c, [=](ErrorBound v) {
+        ErrorBound fromLargest = max - v;
+        fromLargest.low = 0.0;
+        const ErrorBound darkened = rounded(value * (max - saturation * fromLargest));
+        return ErrorBound(darkened.low - onTheWay, darkened.high + onTheWay, darkened.error + onTheWay);
+    });
 }

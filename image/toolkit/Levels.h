@@ -1,7 +1,8 @@
 #pragma once
 
 #include "image/CharImage.h"
-#include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/ErrorBound.h"
+#include "image/toolkit/Single.h"
 
 /// The levels stretch of fillHistogram for one picture: what a channel's whole value 0 .. 255 becomes, a whole value
 /// too. A pass that takes it on the way in saves a pass of its own over the picture.
@@ -18,6 +19,8 @@ struct Levels {
         return truncateToInt(x < floor ? floor : notAbove) & 255;
     }
     float operator()(float v) const { return float(byteOf(v)); }
+    Single operator()(Single v) const { return (*this)(v.value); }
+    ErrorBound operator()(ErrorBound v) const;
 };
 
 /// What fillHistogram asks for.

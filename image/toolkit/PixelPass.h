@@ -3,10 +3,11 @@
 #include "image/CharImage.h"
 #include "image/toolkit/Block.h"
 #include "image/toolkit/Levels.h"
+#include "image/toolkit/Recipe.h"
 #include "image/toolkit/ToneTable.h"
+#include "image/toolkit/Trial.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <type_traits>
 #include <vector>
 
@@ -53,51 +54,67 @@ template <class Function> void forEachBlockOfRow(CharImage& image, int y, Functi
     }
 }
 
-/// Works `function(colour, i)` into the planes of a block.
-template <class Function> inline void workPlanes(Block& block, Function function)
-{
-    for (int i = 0; i < blockPixels; i++)
-        block.setColour(i, function(block.colour(i), i));
-}
-
-/// What `function(colour)` gives for each pixel of a block.
-template <class Function> inline Plane planeOf(const Block& block, Function function)
-{
-    Plane plane;
-    for (int i = 0; i < blockPixels; i++)
-        plane.at[i] = function(block.colour(i));
-    return plane;
-}
-
 /// How the values of a pass become bytes: truncated and clamped, and then perhaps taken through the levels.
 struct NoLevels {
     int operator()(float v) const { return truncateAndClamp(v); }
+    int ofWhole(int v) const { return v; }
 };
 struct LevelsOnBytes {
     Levels levels;
-    int operator()(float v) const { return levels.byteOf(float(truncateAndClamp(v))); }
+    int operator()(float v) const { return ofWhole(truncateAndClamp(v)); }
+    int ofWhole(int v) const { return levels.byteOf(float(v)); }
 };
 
-/// Works `function(colour, i)` into the planes of a block and stores them as bytes.
-template <class Function, class ToByte = NoLevels>
-inline void workBlock(Block& block, Function function, ToByte toByte = {})
+/// Works a recipe into the planes of a block and stores them as bytes. The weights are those of its pixels, if any.
+template <class Recipe, class ToByte = NoLevels>
+void workBlock(Block& block, const Recipe& recipe, const float* weights, ToByte toByte = {})
 {
-    if constexpr (std::is_same_v<decltype(function(Rgb {}, 0)), float>) {
+    recipe.forEach([&](const auto& step) {
         for (int i = 0; i < blockPixels; i++)
-            block.r.at[i] = function(block.colour(i), i);
+            if constexpr (isNeutral<Recipe>)
+                block.r.at[i] = applied(step, block.colour(i), weights, i);
+            else
+                block.setColour(i, applied(step, block.colour(i), weights, i));
+    });
+    if constexpr (isNeutral<Recipe>)
         block.storeGrey(toByte);
-    } else {
-        workPlanes(block, function);
+    else
         block.storePlanes(toByte);
-    }
 }
 
-/// What a pass starts from: fills the planes of a block with its colours.
-struct Colours {
-    void fill(Block& block) { block.fillPlanes(); }
-    template <class Function> auto with(Function& function)
+/// A recipe and how to work it into the bytes of a block whose planes are filled. One that is written for any kind of
+/// channel is tried first.
+template <class Recipe, class ToByte = NoLevels> class BlockWork {
+public:
+    BlockWork(const Recipe& recipe, const Inputs& inputs, ToByte toByte = {})
+        : m_recipe(recipe)
+        , m_toByte(toByte)
     {
-        return [&](Rgb c, int) { return function(c); };
+        if constexpr (isMadeFor<Single, Recipe>)
+            m_error = errorOf(recipe, inputs);
+    }
+
+    void operator()(Block& block, const float* weights) const
+    {
+        if constexpr (isMadeFor<Single, Recipe>)
+            if (m_error < tolerableError)
+                return tryBlock(block, m_recipe, weights, m_error, m_toByte);
+        workBlock(block, m_recipe, weights, m_toByte);
+    }
+
+private:
+    Recipe m_recipe;
+    ToByte m_toByte;
+    double m_error = 0.0;
+};
+
+/// What a pass starts from: fills the planes of a block with its colours, and gives the weights of its pixels.
+struct Colours {
+    Inputs inputs() const { return {ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), {}}; }
+    const float* fill(Block& block) const
+    {
+        block.fillPlanes();
+        return nullptr;
     }
 };
 
@@ -105,57 +122,57 @@ struct Colours {
 struct CurvedColours {
     const ChannelCurve &red, &green, &blue;
 
-    void fill(Block& block) { block.fillPlanes(red, green, blue); }
-    template <class Function> auto with(Function& function)
+    Inputs inputs() const { return {ChannelRanges::of(red), ChannelRanges::of(green), ChannelRanges::of(blue), {}}; }
+    const float* fill(Block& block) const
     {
-        return [&](Rgb c, int) { return function(c); };
+        block.fillPlanes(red, green, blue);
+        return nullptr;
     }
 };
 
-/// Colours with a tone each, looked up by their luminance.
+/// Colours weighted with a tone each, looked up by their luminance.
 struct TonedColours {
     const ToneTable& tones;
     Plane tone = {};
 
-    void fill(Block& block)
+    Inputs inputs() const
+    {
+        return {ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), tones.range()};
+    }
+    const float* fill(Block& block)
     {
         block.fillPlanes();
         tones.fill(block, tone);
-    }
-    template <class Function> auto with(Function& function)
-    {
-        return [&](Rgb c, int i) { return function(c, tone.at[i]); };
+        return tone.at;
     }
 };
 
-template <class Source, class Function, class ToByte = NoLevels>
-void passOver(CharImage& image, Source source, Function& function, ToByte toByte = {})
+template <class Source, class Recipe, class ToByte = NoLevels>
+void passOver(CharImage& image, Source& source, const Recipe& recipe, ToByte toByte = {})
 {
-    forEachBlock(image, [&](Block& block) {
-        source.fill(block);
-        workBlock(block, source.with(function), toByte);
-    });
+    const BlockWork work(recipe, source.inputs(), toByte);
+    forEachBlock(image, [&](Block& block) { work(block, source.fill(block)); });
 }
 
 /// A pass and fillHistogram after it, in one walk over the picture: the levels ask only for every tenth pixel, so that the
 /// pass over those comes first.
-template <class Source, class Function>
-void passOver(CharImage& image, Source source, Function& function, const Stretch& stretch)
+template <class Source, class Recipe>
+void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stretch& stretch)
 {
     CharImage samples = sampledPixels(image);
-    passOver(samples, source, function);
+    passOver(samples, source, recipe);
     GrowArray<int> histogram;
     int minLum;
     getHistogramOfSamples(samples, &histogram, &minLum);
-    passOver(image, source, function, LevelsOnBytes {levelsOf(histogram, minLum, stretch)});
+    passOver(image, source, recipe, LevelsOnBytes {levelsOf(histogram, minLum, stretch)});
 }
 
-/// Each pixel becomes `function(colour)`. With a Stretch at the end, of this and the others, the levels follow.
-template <class Function, class... Finish>
-    requires std::is_invocable_v<Function, Rgb>
-void forEachPixel(CharImage& image, Function function, Finish... finish)
+/// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the others, the
+/// levels follow.
+template <class Function, class... Finish> void forEachPixel(CharImage& image, Function function, Finish... finish)
 {
-    passOver(image, Colours {}, function, finish...);
+    Colours source;
+    passOver(image, source, stepsOf(function), finish...);
 }
 
 /// Each pixel becomes `function(colour)`, the colour taken through a curve per channel first.
@@ -163,32 +180,36 @@ template <class Function, class... Finish>
 void forEachPixel(CharImage& image, const ChannelCurve& red, const ChannelCurve& green, const ChannelCurve& blue,
     Function function, Finish... finish)
 {
-    passOver(image, CurvedColours {red, green, blue}, function, finish...);
+    CurvedColours source {red, green, blue};
+    passOver(image, source, stepsOf(function), finish...);
 }
 
 /// Each pixel becomes `function(colour, tone)`, the tone looked up by the pixel's luminance.
 template <class Function, class... Finish>
 void forEachPixel(CharImage& image, const ToneTable& tones, Function function, Finish... finish)
 {
-    passOver(image, TonedColours {tones}, function, finish...);
+    TonedColours source {tones};
+    passOver(image, source, stepsOf(function), finish...);
 }
 
-/// Visits the image in blocks with a weight per pixel that depends only on how far the pixel stands from a centre, a pixel
-/// of the image, across and down. `evaluate(plane, dx, dy)` fills a plane with the weights for the distances across dx,
-/// dx + 1, ... and the distance down dy, once for the up to four pixels that mirror one another. `function(block,
-/// weights)` works on the planes of the block, which are then stored.
+/// Each pixel becomes `function(colour, weight)`, the weight depending only on how far the pixel stands from a centre, a
+/// pixel of the image, across and down. `evaluate(plane, dx, dy)` fills a plane with the weights, 0 .. `heaviest`, for the
+/// distances across dx, dx + 1, ... and the distance down dy, once for the up to four pixels that mirror one another.
 template <class Evaluate, class Function>
-void forEachBlockAround(CharImage& image, int centreX, int centreY, Evaluate evaluate, Function function)
+void forEachPixelAround(
+    CharImage& image, int centreX, int centreY, float heaviest, Evaluate evaluate, Function function)
 {
     const auto inWholeBlocks = [](int count) { return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels; };
     const int reachX = std::max(centreX, image.width - 1 - centreX);
     const int reachY = std::max(centreY, image.height - 1 - centreY);
     std::vector<float> half(inWholeBlocks(reachX + 1)), row(inWholeBlocks(image.width));
-    const auto work = [&](int y) {
+    Inputs inputs = Colours {}.inputs();
+    inputs.weight = {0.0, heaviest};
+    const BlockWork work(stepsOf(function), inputs);
+    const auto workRow = [&](int y) {
         forEachBlockOfRow(image, y, [&](Block& block, int x) {
             block.fillPlanes();
-            function(block, row.data() + x);
-            block.storePlanes();
+            work(block, row.data() + x);
         });
     };
     for (int dy = 0; dy <= reachY; dy++) {
@@ -197,11 +218,13 @@ void forEachBlockAround(CharImage& image, int centreX, int centreY, Evaluate eva
             evaluate(plane, dx, dy);
             std::memcpy(half.data() + dx, plane.at, sizeof plane.at);
         }
-        for (int x = 0; x < image.width; x++)
-            row[x] = half[std::abs(x - centreX)];
+        for (int x = 0; x < centreX; x++)
+            row[x] = half[centreX - x];
+        for (int x = centreX; x < image.width; x++)
+            row[x] = half[x - centreX];
         if (centreY + dy < image.height)
-            work(centreY + dy);
+            workRow(centreY + dy);
         if (dy > 0 && centreY - dy >= 0)
-            work(centreY - dy);
+            workRow(centreY - dy);
     }
 }

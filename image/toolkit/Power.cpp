@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstdlib>
+#include <limits>
 
 // std::pow one value at a time would cost more than all the rest of a look. Here the power is formed in double for a
 // whole block, as 2 to the exponent times the binary logarithm, to better than 2^-31 of its value. The C library's
@@ -17,8 +18,15 @@ constexpr double log2 = 0.6931471805599453;
 
 struct Power {
     double value;
-    double log; ///< of the value, to the base 2, or a bound of it
+    double unsure; ///< the part of the value by which the library's may be another before it is rounded
 };
+
+/// The part of a result of this logarithm, to the base 2, by which the library may err before it rounds: its logarithm is
+/// good to 1.83 x 2^-33, its power of 2 to 1.69 x 2^-34. Extreme results are not made here.
+inline double libraryError(double log)
+{
+    return std::fabs(log) < 60.0 ? 0x1p-31 + std::fabs(log) * 0x1p-32 : std::numeric_limits<double>::infinity();
+}
 
 // base = m 2^k with m on sqrt(1/2) .. sqrt(2).
 constexpr std::uint32_t rootOfHalf = 0x3f3504f3u;
@@ -61,38 +69,37 @@ inline Power powerOf(float base, double exponent)
     e = e * f + 1.0;
     e = e * f + 1.0;
     const double scale = std::bit_cast<double>((std::bit_cast<std::uint64_t>(shifted) + 1023u) << 52);
-    return {e * scale, y};
+    return {e * scale, libraryError(y) + 0x1p-30};
 }
 
 /// The same for the exponent 1.5, which half of the looks use.
 inline Power sesquiPowerOf(float base)
 {
     const double x = base;
-    return {x * std::sqrt(x), 1.5 * (std::abs(wholeLog(base)) + 1)};
+    return {x * std::sqrt(x), libraryError(1.5 * (std::abs(wholeLog(base)) + 0.5))};
 }
 
-// The C library might round to another float next to the middle between two. Distances are in steps of a double, 2^29 of
-// which make one of a float.
-constexpr double unit = 536870912.0;
+/// Both ends of where the library's result may lie. They round to the same float unless the middle between two lies there.
+struct Rounded {
+    float below, above;
+};
 
-inline double distanceFromMiddle(Power p)
+inline Rounded roundedBothWays(Power p)
 {
-    const std::int64_t below = std::bit_cast<std::int64_t>(p.value) & 0x1fffffff;
-    return std::fabs(double(std::int32_t(below)) - unit / 2);
-}
-
-/// Beyond the half of any rounding, the library's own error is below 1/64 + |log| / 512 of a float's last place for
-/// results that are not extreme (its logarithm is good to 1.83 x 2^-33).
-inline double unsureDistance(Power p)
-{
-    const double log = std::fabs(p.log);
-    return log < 20.0 ? unit / 64 + log * (unit / 512) : unit;
+    const double reach = p.value * p.unsure;
+    return {float(p.value - reach), float(p.value + reach)};
 }
 
 /// A base for which powerOf is not made.
 inline bool isOdd(float base)
 {
     return !(base >= 1e-30f && base <= 1e30f);
+}
+
+/// Zero, without a sign, is frequent, and stays zero under a positive exponent.
+inline bool isZero(float base)
+{
+    return std::bit_cast<std::uint32_t>(base) == 0;
 }
 
 /// `power(base)` for each value, and std::pow where it is not sure.
@@ -104,9 +111,10 @@ template <class Function> void raiseBy(Plane& values, float exponent, Function p
         const float base = values.at[i];
         const bool odd = isOdd(base);
         const Power p = power(odd ? 1.0f : base);
-        result.at[i] = float(p.value);
-        const float far = float(distanceFromMiddle(p) - unsureDistance(p));
-        unsure[i] = odd ? 1 : far > 0.0f ? 0 : 1;
+        const Rounded rounded = roundedBothWays(p);
+        const bool zero = isZero(base) && exponent > 0.0f;
+        result.at[i] = zero ? 0.0f : rounded.below;
+        unsure[i] = zero ? 0 : odd ? 1 : rounded.below == rounded.above ? 0 : 1;
     }
     for (int i = 0; i < blockPixels; i += 8) {
         int any = 0;
@@ -124,9 +132,17 @@ template <class Function> void raiseBy(Plane& values, float exponent, Function p
 void raise(Plane& values, float exponent)
 {
     if (exponent == 1.5f)
-        raiseBy(values, exponent, sesquiPowerOf);
+        raiseBy(values, exponent, [](float base) { return sesquiPowerOf(base); });
     else
         raiseBy(values, exponent, [=](float base) { return powerOf(base, exponent); });
+}
+
+float sesquiPower(float value)
+{
+    const bool odd = isOdd(value);
+    const Power p = sesquiPowerOf(odd ? 1.0f : value);
+    const Rounded rounded = roundedBothWays(p);
+    return odd || rounded.below != rounded.above ? std::pow(value, 1.5f) : rounded.below;
 }
 
 void applySCurve(Plane& values, float exponent)

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "image/toolkit/Block.h"
+#include "image/toolkit/ErrorBound.h"
 
+#include <algorithm>
 #include <memory>
 
 /// A function of the luminance of a byte pixel, evaluated once for each luminance that there is. Since 100 times the
@@ -21,6 +23,13 @@ public:
 
     /// The luminance of the pixels with that whole number, exactly as luminance() gives it.
     static float luminanceOf(int n) { return float(n / 100.0); }
+
+    /// From the least value to the greatest.
+    ErrorBound range() const
+    {
+        const auto [lowest, highest] = std::minmax_element(values.get(), values.get() + tones);
+        return {*lowest, *highest};
+    }
 
     /// Looks up the pixels of a block that holds their bytes as floats.
     void fill(const Block& block, Plane& plane) const

@@ -59,9 +59,8 @@ void CharImage::vignette(
             placeAt(weights, dx, dy);
             becomeDarkness(weights, exponent, strength);
         };
-        forEachBlockAround(*this, cx, cy, darknessAt, [=](Block& block, const float* dark) {
-            workPlanes(block, [=](Rgb c, int i) { return darken(c, byteLuminance(c), dark[i]); });
-        });
+        forEachPixelAround(
+            *this, cx, cy, 1.0f, darknessAt, [=](Rgb c, float dark) { return darken(c, byteLuminance(c), dark); });
         return;
     }
 
@@ -82,8 +81,7 @@ void CharImage::vignette(
                 block.setColour(i,
                     {(1.0f - w) * c.r + w * b.r, (1.0f - w) * c.g + w * b.g, (1.0f - w) * c.b + w * b.b});
         }
-        workPlanes(block, [&](Rgb c, int i) { return darken(c, luminance(c), dark.at[i]); });
-        block.storePlanes();
+        workBlock(block, stepsOf([=](Rgb c, float darkness) { return darken(c, luminance(c), darkness); }), dark.at);
     };
     for (int y = 0; y < height; y++)
         forEachBlockOfRow(*this, y, [&](Block& block, int x) { softenAndDarken(block, x, y); });

@@ -1,0 +1,145 @@
+#pragma once
+
+#include "image/toolkit/Arithmetic.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+/// What is known of a value of a recipe: its exact evaluation and the one in Single both lie on low .. high, and are at
+/// most `error` apart. A recipe that is evaluated with these, over all that it may be given, shows how far its evaluation
+/// in Single may be off: forward error analysis on intervals.
+struct ErrorBound {
+    double low, high, error;
+    bool isDouble; ///< the exact evaluation is at a step that it makes in double
+
+    ErrorBound() = default;
+    ErrorBound(double lowest, double highest, double apart = 0.0, bool inDouble = false)
+        : low(lowest)
+        , high(highest)
+        , error(apart)
+        , isDouble(inDouble)
+    {
+    }
+    ErrorBound(float constant)
+        : ErrorBound(constant, constant)
+    {
+    }
+    ErrorBound(double constant)
+        : ErrorBound(constant, constant, std::fabs(constant - double(float(constant))), true)
+    {
+    }
+
+    double magnitude() const { return std::max(std::fabs(low), std::fabs(high)); }
+
+    /// After so many roundings to a float in one or the other evaluation. A rounding in double, and one of the smallest
+    /// floats, hide in what is added.
+    ErrorBound roundedTimes(int times) const
+    {
+        const double lost = magnitude() * 0x1.001p-24 + 0x1p-149;
+        return {low - lost, high + lost, error + times * lost, isDouble};
+    }
+
+    /// After steps whose results, each as often as it is rounded in either evaluation, are `results` in sum at most.
+    static ErrorBound afterSteps(double lowest, double highest, double apart, double results)
+    {
+        const double lost = results * 0x1.001p-24 + 0x1p-140;
+        return {lowest - lost, highest + lost, apart + lost};
+    }
+
+    friend ErrorBound operator+(ErrorBound a, ErrorBound b)
+    {
+        return step(a, b, a.low + b.low, a.high + b.high, a.error + b.error);
+    }
+    friend ErrorBound operator-(ErrorBound a, ErrorBound b)
+    {
+        return step(a, b, a.low - b.high, a.high - b.low, a.error + b.error);
+    }
+    friend ErrorBound operator*(ErrorBound a, ErrorBound b)
+    {
+        const auto [lowest, highest] = std::minmax({a.low * b.low, a.low * b.high, a.high * b.low, a.high * b.high});
+        return step(a, b, lowest, highest, a.magnitude() * b.error + b.magnitude() * a.error);
+    }
+
+private:
+    static ErrorBound step(ErrorBound a, ErrorBound b, double lowest, double highest, double apart)
+    {
+        const bool inDouble = a.isDouble || b.isDouble;
+        return ErrorBound(lowest, highest, apart, inDouble).roundedTimes(inDouble ? 1 : 2);
+    }
+};
+
+inline ErrorBound rounded(ErrorBound v)
+{
+    ErrorBound single = v.roundedTimes(1);
+    single.isDouble = false;
+    return single;
+}
+
+/// Whether a value lies below another when that may depend on the pixel. Both evaluations must know it exactly.
+struct MayBe {
+    double error; ///< infinite if they do not
+};
+
+inline MayBe operator<(ErrorBound a, float)
+{
+    return {a.error == 0.0 ? 0.0 : std::numeric_limits<double>::infinity()};
+}
+
+inline ErrorBound select(MayBe condition, ErrorBound yes, ErrorBound no)
+{
+    return {std::min(yes.low, no.low), std::max(yes.high, no.high), std::max(yes.error, no.error) + condition.error};
+}
+
+inline ErrorBound byteLuminance(Colour<ErrorBound> c)
+{
+    const ErrorBound level = luminance(c);
+    const bool bytes = c.r.error == 0.0 && c.g.error == 0.0 && c.b.error == 0.0;
+    return {level.low, level.high, bytes ? 0.0 : std::numeric_limits<double>::infinity()};
+}
+
+/// By the exact form and the one of Single together, more closely than the intervals of the exact steps would have it.
+template <class Gain> ErrorBound withShareTimes(ErrorBound v, ErrorBound share, Gain constantGain)
+{
+    const ErrorBound gain = constantGain;
+    const double more = gain.low - 1.0, atLow = 1.0 + more * share.low, atHigh = 1.0 + more * share.high;
+    const auto [lowest, highest] = std::minmax({v.low * atLow, v.low * atHigh, v.high * atLow, v.high * atHigh});
+    const double factor = std::max(std::fabs(atLow), std::fabs(atHigh));
+    const double rest = std::max(std::fabs(1.0 - share.low), std::fabs(1.0 - share.high));
+    const double inExact = 2.0 * (rest + share.magnitude() * gain.magnitude()) + factor;
+    const double inSingle = 2.0 * share.magnitude() * std::fabs(more) + 2.0 * factor;
+    const double error = factor * v.error + v.magnitude() * std::fabs(more) * share.error
+        + v.magnitude() * share.magnitude() * gain.error;
+    return ErrorBound::afterSteps(lowest, highest, error, v.magnitude() * (inExact + inSingle));
+}
+
+template <class Gain> ErrorBound withContrast(ErrorBound v, Gain constantGain)
+{
+    const ErrorBound gain = constantGain;
+    const auto contrast = [&](double level) { return (level - 128.0) * gain.low + 128.0; };
+    const auto [lowest, highest] = std::minmax(contrast(v.low), contrast(v.high));
+    const double product = v.magnitude() * gain.magnitude();
+    const double result = std::max(std::fabs(lowest), std::fabs(highest));
+    const double inSingle = product + 128.0 * gain.magnitude() + 128.0 * std::fabs(1.0 - gain.low) + result;
+    const double error = gain.magnitude() * v.error + (v.magnitude() + 128.0) * gain.error;
+    return ErrorBound::afterSteps(lowest, highest, error, result + inSingle);
+}
+
+inline ErrorBound sesquiPower(ErrorBound v)
+{
+    const double highest = v.high * std::sqrt(v.high), steepest = 1.5 * std::sqrt(v.high);
+    const double error = v.low >= 0.0 ? steepest * v.error : std::numeric_limits<double>::infinity();
+    return ErrorBound::afterSteps(0.0, highest, error, 4.0 * highest);
+}
+
+// Extremes are as far off as the values that they are taken of.
+
+inline ErrorBound larger(ErrorBound a, ErrorBound b)
+{
+    return {std::max(a.low, b.low), std::max(a.high, b.high), std::max(a.error, b.error)};
+}
+
+inline ErrorBound smaller(ErrorBound a, ErrorBound b)
+{
+    return {std::min(a.low, b.low), std::min(a.high, b.high), std::max(a.error, b.error)};
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "image/toolkit/Arithmetic.h"
+
+/// A channel or a share while a recipe is tried: every step is made in single precision, also those that the recipe itself
+/// makes in double. Vector code does twice as many of them at once.
+struct Single {
+    float value;
+
+    Single() = default;
+    Single(float v)
+        : value(v)
+    {
+    }
+    Single(double v)
+        : value(float(v))
+    {
+    }
+
+    friend Single operator+(Single a, Single b) { return a.value + b.value; }
+    friend Single operator-(Single a, Single b) { return a.value - b.value; }
+    friend Single operator*(Single a, Single b) { return a.value * b.value; }
+    friend bool operator<(Single a, Single b) { return a.value < b.value; }
+};
+
+/// The weights of a block's pixels as such.
+struct SingleWeights {
+    const float* at;
+    Single operator[](int i) const { return at[i]; }
+};
+
+inline Single rounded(Single v)
+{
+    return v;
+}
+
+inline Single select(bool condition, Single yes, Single no)
+{
+    return condition ? yes.value : no.value;
+}
+
+inline Single byteLuminance(Colour<Single> c)
+{
+    return byteLuminance(Rgb {c.r.value, c.g.value, c.b.value});
+}
+
+// The forms that cost least; ErrorBound.h knows them.
+
+template <class Gain> inline Single withShareTimes(Single v, Single share, Gain gain)
+{
+    return v * (1.0f + share * (Single(gain) - 1.0f));
+}
+
+template <class Gain> inline Single withContrast(Single v, Gain gain)
+{
+    return v * gain + (128.0f - 128.0f * Single(gain));
+}
+
+inline Single sesquiPower(Single v)
+{
+    return v.value * std::sqrt(v.value);
+}

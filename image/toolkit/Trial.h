@@ -1,0 +1,141 @@
+#pragma once
+
+#include "image/toolkit/Block.h"
+#include "image/toolkit/ErrorBound.h"
+#include "image/toolkit/Recipe.h"
+#include "image/toolkit/Single.h"
+
+#include <algorithm>
+
+// A recipe that makes some steps in double costs vector code twice the time. Such a recipe is tried in single precision
+// throughout. Where the result stands so near to a whole number that the exact result might stand on the other side, the
+// exact recipe decides, so that the bytes are always the exact ones. How near that is follows from the recipe itself. The
+// technique is that of the static floating-point filters of computational geometry (Fortune and Van Wyk, 1993).
+
+/// What a picture may hold in a channel, in a few ranges: the narrower they are, the closer are the bounds.
+inline constexpr int rangesPerChannel = 4;
+struct ChannelRanges {
+    ErrorBound at[rangesPerChannel];
+
+    /// Bytes as they are.
+    static ChannelRanges ofBytes()
+    {
+        ChannelRanges ranges;
+        for (int k = 0; k < rangesPerChannel; k++)
+            ranges.at[k] = {k * 256.0 / rangesPerChannel, (k + 1) * 256.0 / rangesPerChannel - 1.0};
+        return ranges;
+    }
+
+    /// Bytes that a curve has changed.
+    static ChannelRanges of(const ChannelCurve& curve)
+    {
+        constexpr int length = 256 / rangesPerChannel;
+        ChannelRanges ranges;
+        for (int k = 0; k < rangesPerChannel; k++) {
+            const auto [lowest, highest] = std::minmax_element(curve.at + k * length, curve.at + (k + 1) * length);
+            ranges.at[k] = {*lowest, *highest};
+        }
+        return ranges;
+    }
+};
+
+/// All that a recipe may be given.
+struct Inputs {
+    ChannelRanges red, green, blue;
+    ErrorBound weight;
+};
+
+/// The results of a trial are compared with whole numbers in such parts of 1.
+inline constexpr int partBits = 14, partsOfOne = 1 << partBits;
+inline constexpr double largestResult = 2147483647.0 / partsOfOne;
+
+/// How far the trial of a recipe may be off in a channel; infinite where a trial is out of the question.
+template <class... Step> double errorOf(const Steps<Step...>& steps, const Inputs& inputs)
+{
+    double error = 0.0;
+    for (const ErrorBound r : inputs.red.at)
+        for (const ErrorBound g : inputs.green.at)
+            for (const ErrorBound b : inputs.blue.at) {
+                const Colour<ErrorBound> c = applied(steps, Colour {r, g, b}, &inputs.weight, 0);
+                for (const ErrorBound v : {c.r, c.g, c.b})
+                    error = v.magnitude() < largestResult ? std::max(error, v.error)
+                                                          : std::numeric_limits<double>::infinity();
+            }
+    return error;
+}
+
+/// Errors up to which a trial saves time.
+inline constexpr double tolerableError = 0.05;
+
+/// A result in parts, held at 0.5 and 255.5: beyond them the byte is certain.
+inline constexpr auto inParts = [](float v) {
+    const int parts = int(v * float(partsOfOne));
+    const int notBelow = parts > partsOfOne / 2 ? parts : partsOfOne / 2;
+    return notBelow < 255 * partsOfOne + partsOfOne / 2 ? notBelow : 255 * partsOfOne + partsOfOne / 2;
+};
+
+/// Places in a block, in groups.
+struct Places {
+    static constexpr int together = 16;
+    int at[blockPixels + together], count = 0;
+
+    /// Where `marked` is 1.
+    explicit Places(const unsigned char (&marked)[blockPixels])
+    {
+        for (int i = 0; i < blockPixels; i += 8) {
+            std::uint64_t any;
+            std::memcpy(&any, marked + i, 8);
+            for (int j = i; any != 0 && j < i + 8; j++)
+                if (marked[j])
+                    at[count++] = j;
+        }
+        std::fill_n(at + count, together, 0); // so that the last group is whole
+    }
+};
+
+/// The exact recipe for the pixels at these places.
+template <class... Step, class ToByte>
+void workPlaces(Block& block, const Places& places, const Steps<Step...>& steps, const float* weights, ToByte toByte)
+{
+    constexpr int together = Places::together;
+    for (int first = 0; first < places.count; first += together) {
+        const int* at = places.at + first;
+        Rgb c[together];
+        for (int j = 0; j < together; j++)
+            c[j] = block.colour(at[j]);
+        steps.forEach([&](const auto& step) {
+            for (int j = 0; j < together; j++)
+                c[j] = applied(step, c[j], weights, at[j]);
+        });
+        for (int j = 0; j < together && first + j < places.count; j++)
+            block.setBytes(at[j], eachChannel(c[j], toByte));
+    }
+}
+
+/// Works a recipe into the bytes of a block, `error` being how far a trial may be off; the planes stay as they were.
+template <class... Step, class ToByte>
+void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, double error, ToByte toByte)
+{
+    Planes trial;
+    const Planes* from = &block;
+    steps.forEach([&](const auto& step) {
+        for (int i = 0; i < blockPixels; i++) {
+            const Rgb before = from->colour(i);
+            const Colour<Single> c
+                = applied(step, Colour<Single> {before.r, before.g, before.b}, SingleWeights {weights}, i);
+            trial.setColour(i, {c.r.value, c.g.value, c.b.value});
+        }
+        from = &trial;
+    });
+    // One part more for what is cut off, and one for the error's own.
+    const int reach = int(error * partsOfOne) + 2;
+    alignas(64) unsigned char unsure[blockPixels];
+    block.storeBytes([&](int i) {
+        const Colour<int> parts = eachChannel(trial.colour(i), inParts);
+        const Colour<int> beyondWhole
+            = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
+        unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
+        return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
+    });
+    workPlaces(block, Places(unsure), steps, weights, toByte);
+}
