@@ -20,9 +20,10 @@ void expectPowers(float exponent, float first, float last, std::uint32_t step)
         }
         const Plane bases = values;
         raise(values, exponent);
-        if (exponent == 1.5f)
+        if (exponent == 1.5f) {
             for (int i = 0; i < blockPixels; i++)
                 ASSERT_EQ(sesquiPower(bases.at[i]), values.at[i]) << bases.at[i];
+        }
         for (int i = 0; i < blockPixels; i++)
             ASSERT_EQ(std::bit_cast<std::uint32_t>(values.at[i]),
                 std::bit_cast<std::uint32_t>(std::pow(bases.at[i], exponent)))
