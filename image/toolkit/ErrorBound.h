@@ -117,7 +117,7 @@ template <class Gain> ErrorBound withContrast(ErrorBound v, Gain constantGain)
 {
     const ErrorBound gain = constantGain;
     const auto contrast = [&](double level) { return (level - 128.0) * gain.low + 128.0; };
-    const auto [lowest, highest] = std::minmax(contrast(v.low), contrast(v.high));
+    const auto [lowest, highest] = std::minmax({contrast(v.low), contrast(v.high)});
     const double product = v.magnitude() * gain.magnitude();
     const double result = std::max(std::fabs(lowest), std::fabs(highest));
     const double inSingle = product + 128.0 * gain.magnitude() + 128.0 * std::fabs(1.0 - gain.low) + result;

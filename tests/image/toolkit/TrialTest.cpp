@@ -1,0 +1,174 @@
+#include "image/toolkit/Hues.h"
+#include "image/toolkit/Levels.h"
+#include "image/toolkit/PixelPass.h"
+#include "image/toolkit/Power.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+namespace {
+
+constexpr double infinite = std::numeric_limits<double>::infinity();
+
+float randomByte(std::mt19937& random)
+{
+    return float(random() % 256);
+}
+
+Inputs bytes(float heaviest)
+{
+    const ChannelRanges all = ChannelRanges::ofBytes();
+    return {all, all, all, {0.0, heaviest}};
+}
+
+/// Holds what errorOf promises for a recipe to its evaluations of many colours, and to a promise that is of any use.
+template <class... Step> void expectErrorHolds(const Steps<Step...>& steps)
+{
+    const float heaviest = 0.75f;
+    const double error = errorOf(steps, bytes(heaviest));
+    ASSERT_LT(error, tolerableError);
+    std::mt19937 random(7);
+    double worst = 0.0;
+    for (int k = 0; k < 200000; k++) {
+        Rgb c = {randomByte(random), randomByte(random), randomByte(random)};
+        if (k % 4 == 0)
+            c.g = c.b; // hues and extremes that meet
+        const float weight = float(random() % 1001) * 0.001f * heaviest;
+        const Rgb exact = applied(steps, c, &weight, 0);
+        const Colour<Single> tried = applied(steps, Colour<Single> {c.r, c.g, c.b}, SingleWeights {&weight}, 0);
+        for (const auto& [wanted, got] :
+            {std::pair(exact.r, tried.r.value), std::pair(exact.g, tried.g.value), std::pair(exact.b, tried.b.value)}) {
+            const double off = std::fabs(double(wanted) - double(got));
+            if (got != std::trunc(got)) // a whole number leaves the pixel to the exact recipe
+                worst = std::max(worst, off);
+        }
+    }
+    EXPECT_LE(worst, error) << error;
+}
+
+/// The bytes of a picture of many colours after a pass of the recipe in its own arithmetic, one pixel at a time.
+template <class... Step> void expectPassIsExact(const Steps<Step...>& steps)
+{
+    constexpr int width = 300, height = 200;
+    std::mt19937 random(3);
+    CharImage image(new unsigned char[width * height * 4], width, height);
+    for (int i = 0; i < width * height * 4; i++)
+        image.data[i] = static_cast<unsigned char>(random());
+    const CharImage before(image);
+    forEachPixel(image, steps);
+    for (int i = 0; i < width * height; i++) {
+        const unsigned char* pixel = image.data + 4 * i;
+        const Rgb exact = applied(steps, pixelAt(before.data + 4 * i), static_cast<const float*>(nullptr), 0);
+        ASSERT_EQ(pixel[0], truncateAndClamp(exact.r)) << i;
+        ASSERT_EQ(pixel[1], truncateAndClamp(exact.g)) << i;
+        ASSERT_EQ(pixel[2], truncateAndClamp(exact.b)) << i;
+        ASSERT_EQ(pixel[3], before.data[4 * i + 3]) << i;
+    }
+}
+
+const auto tenths = [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 0.1 + 3.7); }); };
+
+} // namespace
+
+TEST(Trial, KnowsHowFarEachKindOfStepIsOff)
+{
+    expectErrorHolds(Steps(tenths));
+    expectErrorHolds(Steps([](auto c) {
+        const auto level = luminance(c) * 0.4f;
+        return eachChannel(c, [=](auto v) { return v * 0.6f - level; });
+    }));
+    expectErrorHolds(Steps([](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 1.54f); }); },
+        [](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 0.3); }); }));
+    expectErrorHolds(Steps([](auto c) {
+        const auto share = rounded(byteLuminance(c) * per255);
+        return eachChannel(c, [=](auto v) { return withShareTimes(v, share, 1.5f); });
+    }));
+    expectErrorHolds(Steps([](auto c) {
+        const auto share = rounded(luminance(c) * -per255 + 1.0);
+        return eachChannel(c, [=](auto v) { return withShareTimes(v, share, 0.4); });
+    }));
+    expectErrorHolds(Steps([](auto c, auto weight) {
+        return eachChannel(c, [=](auto v) { return withDoubledCast(v, weight, weight * v); });
+    }));
+    expectErrorHolds(Steps([](auto c, auto weight) { return partedTones(c, byteLuminance(c) < 135.0f, weight); }));
+    expectErrorHolds(Steps([](auto c) {
+        const auto power = sesquiPower(rounded(luminance(c) * per255 + 0.1));
+        return eachChannel(c, [=](auto v) { return notBelow(v * power, 62.5f); });
+    }));
+    expectErrorHolds(Steps([](auto c) {
+        const auto gain = lightnessOf(c) + 1.0f;
+        return eachChannel(c, [=](auto v) { return v * gain; });
+    }));
+    const Levels levels = {12.0f, 1.7f, 5.0f, 5.0f, 255.0f};
+    expectErrorHolds(Steps([=](auto c) { return eachChannel(c, levels); }, tenths));
+}
+
+TEST(Trial, KnowsHowFarTheShortWayPastTheHueIsOff)
+{
+    const auto spread = [](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 1.51); }); };
+    const auto darkened = [](auto c, auto e) { return withSaturationAndValueTimes(c, 1.0 + 0.4 * e, 1.0 - e); };
+    expectErrorHolds(Steps(darkened));
+    expectErrorHolds(Steps(spread, darkened));
+}
+
+TEST(Trial, LeavesTheUnclearHuesToTheExactRecipe)
+{
+    // Neutral colours, a hue that falls short of a full turn by a hair, and a value of 0.
+    const Single half = 0.5f, more = 1.2f;
+    for (const Colour<Single>& c : {Colour<Single> {90.0f, 40.0f, 40.0f}, Colour<Single> {90.0f, 40.0f, 40.001f},
+             Colour<Single> {70.0f, 70.0f, 70.0f}, Colour<Single> {0.0f, -20.0f, -30.0f}})
+        EXPECT_EQ(withSaturationAndValueTimes(c, more, half).r.value, 255.0f);
+    EXPECT_NE(withSaturationAndValueTimes(Colour<Single> {90.0f, 40.0f, 50.0f}, more, half).r.value, 255.0f);
+}
+
+TEST(Trial, GivesUpWhereABoundIsOutOfReach)
+{
+    // Bytes only may be compared, curved by levels or weighed by their whole luminance.
+    const auto compared = [](auto c) {
+        const auto level = luminance(c);
+        return eachChannel(c, [=](auto v) { return select(level < 128.0f, v, v * 2.0f); });
+    };
+    EXPECT_EQ(errorOf(Steps(compared), bytes(1.0f)), infinite);
+    EXPECT_EQ(errorOf(Steps(tenths, [](auto c) {
+        return eachChannel(c, [level = byteLuminance(c)](auto) { return level; });
+    }), bytes(1.0f)), infinite);
+    const Levels levels = {12.0f, 1.7f, 5.0f, 5.0f, 255.0f};
+    EXPECT_EQ(errorOf(Steps(tenths, [=](auto c) { return eachChannel(c, levels); }), bytes(1.0f)), infinite);
+    // A root steepens without end towards 0, and parts of 1 no longer fit an int.
+    EXPECT_EQ(errorOf(Steps([](auto c) {
+        return eachChannel(c, [](auto v) { return sesquiPower(v - 1.0f); });
+    }), bytes(1.0f)), infinite);
+    EXPECT_EQ(errorOf(Steps([](auto c) { return eachChannel(c, [](auto v) { return v * 1000.0f; }); }), bytes(1.0f)),
+        infinite);
+}
+
+TEST(Trial, GivesTheBytesOfTheExactRecipe)
+{
+    // Every tenth value of this is a whole number, or would be without its rounding.
+    expectPassIsExact(Steps(tenths));
+    // A third is never one, and 255 times it is.
+    expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return rounded(v * (1.0 / 3.0)); }); },
+        [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 2.9999999); }); }));
+    // Far out on both sides.
+    expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 9.7); }); }));
+    // Too inexact for a trial.
+    expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 4000.3); }); },
+        [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 0.0003); }); }));
+}
+
+TEST(Trial, CollectsPlacesInGroups)
+{
+    unsigned char marked[blockPixels] = {};
+    EXPECT_EQ(Places(marked).count, 0);
+    for (int i : {0, 7, 8, 100, 255})
+        marked[i] = 1;
+    const Places places(marked);
+    ASSERT_EQ(places.count, 5);
+    for (int k = 0; k < 5; k++)
+        EXPECT_EQ(places.at[k], (std::array {0, 7, 8, 100, 255})[std::size_t(k)]);
+    for (unsigned char& mark : marked)
+        mark = 1;
+    EXPECT_EQ(Places(marked).count, blockPixels);
+}
