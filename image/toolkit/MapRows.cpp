@@ -32,12 +32,12 @@ GrowArray<float> printedKernel(int size, float exponent)
     return weights;
 }
 
-/// A truncated sum; a value that would change too much stays as it was.
+/// A sum as a byte, truncated and wrapped; a value that would change too much stays as it was.
 inline float settled(float sum, float value, float keptChange)
 {
     const bool keeps = (sum - value >= keptChange) | (value - sum >= keptChange);
     const float settling = keeps ? value : sum;
-    return float(int(settling));
+    return float(int(settling) & 255);
 }
 
 /// The smoothed values of a block whose weighted values stand `x` after each source, in one loop without ways to memory
