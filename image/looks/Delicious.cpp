@@ -1,51 +1,15 @@
 #include "image/looks/Delicious.h"
 
 #include "image/toolkit/Hues.h"
+#include "image/toolkit/MapRows.h"
 #include "image/toolkit/PixelPass.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace {
 
 constexpr float outlineGrey = 25.0f;
-
-/// The squared S-curve, twice as steep in the middle.
-float steepened(float v)
-{
-    const float x = float(v * per255);
-    if (x < 0.5f)
-        return (x + x) * (x + x) * 0.5f * 255.0f;
-    const float rest = float(2.0 - 2.0 * x);
-    return float(1.0 - 0.5 * (rest * rest)) * 255.0f;
-}
-
-/// The brightness of a pixel after steepening. A luminance is a sum of three doubles; here each stands in a table.
-class SteepTones {
-public:
-    SteepTones()
-    {
-        for (int v = 0; v < 256; v++) {
-            const float steep = steepened(float(v));
-            m_red[v] = steep * 0.3;
-            m_green[v] = steep * 0.59;
-            m_blue[v] = steep * 0.11;
-        }
-    }
-
-    /// Writes the tones of a block's first `count` pixels: 0 .. 255, the curve never leaves it.
-    void fill(const Block& block, unsigned char* tones, int count) const
-    {
-        for (int i = 0; i < count; i++) {
-            const unsigned char* pixel = block.bytes + 4 * i;
-            const float tone = float(m_red[pixel[0]] + m_green[pixel[1]] + m_blue[pixel[2]]);
-            tones[i] = static_cast<unsigned char>(int(tone));
-        }
-    }
-
-private:
-    double m_red[256], m_green[256], m_blue[256];
-};
+constexpr int faintestEdge = 120; ///< leaves no ink; every stronger one does
 
 void flattenShadows(Block& block)
 {
@@ -53,13 +17,16 @@ void flattenShadows(Block& block)
     workBlock(block, stepsOf([](Rgb c) { return luminance(c) < 50.0f ? grey(outlineGrey) : c; }), nullptr);
 }
 
-/// What a curve makes of the bytes of a map beside a block.
-Plane lookedUp(const ChannelCurve& curve, const unsigned char* map, int count)
+/// What a curve makes of whole values of 0 .. 255.
+Plane lookedUp(const ChannelCurve& curve, const Plane& values)
 {
-    Plane values = {};
-    for (int i = 0; i < count; i++)
-        values.at[i] = curve.at[map[i]];
-    return values;
+    int index[blockPixels];
+    for (int i = 0; i < blockPixels; i++)
+        index[i] = int(values.at[i]);
+    Plane results;
+    for (int i = 0; i < blockPixels; i++)
+        results.at[i] = curve.at[index[i]];
+    return results;
 }
 
 /// The lightness of the band of each tone.
@@ -92,7 +59,9 @@ void recolour(Block& block, const Plane& lightness)
 /// How much of the outlines' grey covers a pixel, by the strength of its edge.
 ChannelCurve inkOfEdges()
 {
-    return channelCurve([](int edge) { return edge > 120 ? float(float((edge - 120) * (1.0 / 135.0)) * 0.9) : 0.0f; });
+    return channelCurve([](int edge) {
+        return edge > faintestEdge ? float(float((edge - faintestEdge) * (1.0 / 135.0)) * 0.9) : 0.0f;
+    });
 }
 
 void drawOutlines(Block& block, const Plane& ink)
@@ -102,6 +71,15 @@ void drawOutlines(Block& block, const Plane& ink)
         return eachChannel(c, [=](float v) { return float(int((1.0 - t) * v + t * outlineGrey)); });
     };
     workBlock(block, stepsOf(inked), ink.at);
+}
+
+/// Whether a block has an edge that leaves ink.
+bool hasOutlines(const Plane& edges)
+{
+    int found = 0;
+    for (int i = 0; i < blockPixels; i++)
+        found |= edges.at[i] > float(faintestEdge);
+    return found;
 }
 
 } // namespace
@@ -119,33 +97,56 @@ unsigned char bandedTone(unsigned char tone)
 /// A cartoon: flat shadows, brightness in seven soft bands, strong colours, dark outlines.
 void CharImage::applyDeliciousFilter()
 {
-    const auto tones = std::make_unique<unsigned char[]>(pixelCount());
-    const auto edges = std::make_unique<unsigned char[]>(pixelCount());
-    const SteepTones steep;
     const ChannelCurve lightness = bandedLightness(), ink = inkOfEdges();
-    forEachNumberedBlock(*this, [&](Block& block, std::size_t first, int count) {
-        flattenShadows(block);
-        steep.fill(block, tones.get() + first, count);
-    });
-    fillEdgeDetectMap(edges.get());
-    smoothCharMap(tones.get(), width, height, 10, 1.0f, 20.0f);
-    smoothCharMap(edges.get(), width, height, 3, 1.0f, -1.0f);
-    forEachNumberedBlock(*this, [&](Block& block, std::size_t first, int count) {
-        recolour(block, lookedUp(lightness, tones.get() + first, count));
-        drawOutlines(block, lookedUp(ink, edges.get() + first, count));
-    });
+    SmoothedRows tones(width, height, 10, 1.0f, 20.0f);
+    EdgeRows edges(width, height);
+    SmoothedRows outlines(width, height, 3, 1.0f, -1.0f, tones.delay());
+    const auto measure = [&](int y) {
+        forEachBlockOfRow(*this, y, [&](Block& block, int x) {
+            flattenShadows(block); // the planes hold the colours, too
+            tones.setBlock(x, planeOf(block, [](Rgb c) { return steepTone(c); }));
+            edges.setBlock(x, planeOf(block, [](Rgb c) { return byteLuminance(c); }));
+        });
+        tones.endRow();
+        edges.endRow();
+    };
+    const auto outline = [&](int y) {
+        for (int x = 0; x < width; x += blockPixels)
+            outlines.setBlock(x, edges.block(x, y));
+        outlines.endRow();
+    };
+    const auto draw = [&](int y) {
+        forEachBlockOfRow(*this, y, [&](Block& block, int x) {
+            recolour(block, lookedUp(lightness, tones.block(x, y)));
+            const Plane strengths = outlines.block(x, y);
+            if (hasOutlines(strengths))
+                drawOutlines(block, lookedUp(ink, strengths));
+        });
+    };
+    for (int y = 0; y < height + tones.delay(); y++) {
+        if (y < height)
+            measure(y);
+        if (y >= edges.delay && y < height + edges.delay)
+            outline(y - edges.delay);
+        if (y >= tones.delay())
+            draw(y - tones.delay());
+    }
 }
 
 /// The brightness and the colours of the cartoon alone.
 void CharImage::deliciousColorCore2()
 {
-    const auto tones = std::make_unique<unsigned char[]>(pixelCount());
-    const SteepTones steep;
     const ChannelCurve lightness = bandedLightness();
-    forEachNumberedBlock(
-        *this, [&](Block& block, std::size_t first, int count) { steep.fill(block, tones.get() + first, count); });
-    smoothCharMap(tones.get(), width, height, 10, 1.0f, 20.0f);
-    forEachNumberedBlock(*this, [&](Block& block, std::size_t first, int count) {
-        recolour(block, lookedUp(lightness, tones.get() + first, count));
+    SmoothedRows tones(width, height, 10, 1.0f, 20.0f);
+    const auto measure = [&](int y) {
+        forEachBlockOfRow(*this, y, [&](Block& block, int x) {
+            block.fillPlanes();
+            tones.setBlock(x, planeOf(block, [](Rgb c) { return steepTone(c); }));
+        });
+        tones.endRow();
+    };
+    forEachDelayedRow(height, tones.delay(), measure, [&](int y) {
+        forEachBlockOfRow(
+            *this, y, [&](Block& block, int x) { recolour(block, lookedUp(lightness, tones.block(x, y))); });
     });
 }

@@ -24,6 +24,25 @@ TEST(Delicious, TurnsPureRedGrey)
     EXPECT_EQ(image->data[0], image->data[2]);
 }
 
+TEST(Delicious, SteepensEveryColourAsTheRecipeDoes)
+{
+    double red[256], green[256], blue[256];
+    for (int v = 0; v < 256; v++) {
+        const float x = float(v * 0.00392156862745098), twice = x + x, rest = float(2 - 2.0 * x);
+        const float curve = x < 0.5f ? twice * twice * 0.5f : float(1 - 0.5 * (rest * rest));
+        const float steep = curve * 255.0f;
+        red[v] = steep * 0.3;
+        green[v] = steep * 0.59;
+        blue[v] = steep * 0.11;
+    }
+    for (int r = 0; r < 256; r++)
+        for (int g = 0; g < 256; g++)
+            for (int b = 0; b < 256; b++)
+                if (const int tone = int(float(red[r] + green[g] + blue[b]));
+                    steepTone({float(r), float(g), float(b)}) != float(tone))
+                    FAIL() << r << ' ' << g << ' ' << b << " should be " << tone;
+}
+
 TEST(Delicious, BandsTones)
 {
     const int centres[] = {21, 63, 106, 148, 191, 233, 255};

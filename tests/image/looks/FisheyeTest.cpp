@@ -5,6 +5,26 @@ TEST(Fisheye, MatchesItsTwin)
     expectLookMatchesTwin(10, reference::fisheye);
 }
 
+TEST(Fisheye, MatchesItsTwinInOddShapes)
+{
+    // Several bands and blocks, long and narrow shapes, whole and half centres.
+    const int sizes[][2] = {{700, 37}, {37, 700}, {1, 300}, {513, 1}, {600, 601}, {257, 400}, {1400, 900}};
+    for (const auto& size : sizes) {
+        Picture expected = randomPicture(size[0], size[1], 3);
+        const auto image = imageOf(expected);
+        image->makeFisheye();
+        reference::fisheye(expected);
+        expectSame(*image, expected, std::to_string(size[0]) + "x" + std::to_string(size[1]));
+    }
+}
+
+TEST(Fisheye, LeavesAnEmptyImageEmpty)
+{
+    CharImage image;
+    image.makeFisheye();
+    EXPECT_EQ(image.data, nullptr);
+}
+
 TEST(Fisheye, KeepsTheCentrePixelsPlace)
 {
     Picture picture = flatPicture(101, 101, 10, 10, 10);

@@ -78,6 +78,16 @@ TEST(Maps, PrintTheirKernels)
         EXPECT_EQ(smooth(map, 2, 2, size, 2.0f, 0), kernelLines({"0.166667", "0.666667", "0.166667"}));
 }
 
+TEST(Maps, PrintTheKernelOfAnEmptyMap)
+{
+    for (const int side : {0, -3}) {
+        Map map(1, 9);
+        EXPECT_EQ(smooth(map, side, 4, 3, 1.0f, 0), kernelLines({"0.250000", "0.500000", "0.250000"}));
+        EXPECT_EQ(smooth(map, 4, side, 3, 1.0f, 0), kernelLines({"0.250000", "0.500000", "0.250000"}));
+        EXPECT_EQ(map[0], 9);
+    }
+}
+
 TEST(Maps, KeepEdgesAboveTheThreshold)
 {
     Map spike(9, 0);
