@@ -54,6 +54,22 @@ template <class Function> void forEachBlockOfRow(CharImage& image, int y, Functi
     }
 }
 
+/// Works `function(colour, i)` into the planes of a block.
+template <class Function> inline void workPlanes(Block& block, Function function)
+{
+    for (int i = 0; i < blockPixels; i++)
+        block.setColour(i, function(block.colour(i), i));
+}
+
+/// What `function(colour)` gives for each pixel of a block.
+template <class Function> inline Plane planeOf(const Block& block, Function function)
+{
+    Plane plane;
+    for (int i = 0; i < blockPixels; i++)
+        plane.at[i] = function(block.colour(i));
+    return plane;
+}
+
 /// How the values of a pass become bytes: truncated and clamped, and then perhaps taken through the levels.
 struct NoLevels {
     int operator()(float v) const { return truncateAndClamp(v); }

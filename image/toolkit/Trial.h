@@ -74,13 +74,13 @@ inline constexpr auto inParts = [](float v) {
     return notBelow < 255 * partsOfOne + partsOfOne / 2 ? notBelow : 255 * partsOfOne + partsOfOne / 2;
 };
 
-/// Places in a block, in groups.
-struct Places {
+/// The pixels of a block on which a trial does not decide, in groups.
+struct UnsurePixels {
     static constexpr int together = 16;
     int at[blockPixels + together], count = 0;
 
     /// Where `marked` is 1.
-    explicit Places(const unsigned char (&marked)[blockPixels])
+    explicit UnsurePixels(const unsigned char (&marked)[blockPixels])
     {
         for (int i = 0; i < blockPixels; i += 8) {
             std::uint64_t any;
@@ -93,13 +93,13 @@ struct Places {
     }
 };
 
-/// The exact recipe for the pixels at these places.
+/// The exact recipe for these pixels.
 template <class... Step, class ToByte>
-void workPlaces(Block& block, const Places& places, const Steps<Step...>& steps, const float* weights, ToByte toByte)
+void decideExactly(Block& block, const UnsurePixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
 {
-    constexpr int together = Places::together;
-    for (int first = 0; first < places.count; first += together) {
-        const int* at = places.at + first;
+    constexpr int together = UnsurePixels::together;
+    for (int first = 0; first < pixels.count; first += together) {
+        const int* at = pixels.at + first;
         Rgb c[together];
         for (int j = 0; j < together; j++)
             c[j] = block.colour(at[j]);
@@ -107,7 +107,7 @@ void workPlaces(Block& block, const Places& places, const Steps<Step...>& steps,
             for (int j = 0; j < together; j++)
                 c[j] = applied(step, c[j], weights, at[j]);
         });
-        for (int j = 0; j < together && first + j < places.count; j++)
+        for (int j = 0; j < together && first + j < pixels.count; j++)
             block.setBytes(at[j], eachChannel(c[j], toByte));
     }
 }
@@ -137,5 +137,5 @@ void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, d
         unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
         return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
     });
-    workPlaces(block, Places(unsure), steps, weights, toByte);
+    decideExactly(block, UnsurePixels(unsure), steps, weights, toByte);
 }

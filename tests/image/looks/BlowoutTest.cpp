@@ -16,9 +16,9 @@ TEST(Blowout, MatchesItsTwin)
 
 TEST(Blowout, BrightensByLightness)
 {
-    EXPECT_EQ(afterLevels(20, {128, 128, 128}, blowoutLevels), (Colour{192, 192, 192}));
-    EXPECT_EQ(afterLevels(20, {255, 0, 0}, blowoutLevels), (Colour{255, 0, 0}));
-    EXPECT_EQ(afterLevels(20, {20, 20, 20}, blowoutLevels), (Colour{21, 21, 21}));
-    EXPECT_EQ(afterLevels(20, {0, 0, 0}, blowoutLevels), (Colour{0, 0, 0}));
-    EXPECT_EQ(afterLevels(20, {255, 255, 255}, blowoutLevels), (Colour{255, 255, 255}));
+    EXPECT_EQ(afterLevels(20, {128, 128, 128}, blowoutLevels), (ByteColour{192, 192, 192}));
+    EXPECT_EQ(afterLevels(20, {255, 0, 0}, blowoutLevels), (ByteColour{255, 0, 0}));
+    EXPECT_EQ(afterLevels(20, {20, 20, 20}, blowoutLevels), (ByteColour{21, 21, 21}));
+    EXPECT_EQ(afterLevels(20, {0, 0, 0}, blowoutLevels), (ByteColour{0, 0, 0}));
+    EXPECT_EQ(afterLevels(20, {255, 255, 255}, blowoutLevels), (ByteColour{255, 255, 255}));
 }

@@ -18,13 +18,13 @@ TEST(Cinema, MatchesItsTwin)
 
 TEST(Cinema, KeepsTheDarkestBlackAndWhiteWhite)
 {
-    EXPECT_EQ(afterLevels(8, {5, 5, 5}, cinemaLevels), (Colour{0, 0, 0}));
-    EXPECT_EQ(afterLevels(8, {255, 255, 255}, cinemaLevels), (Colour{255, 255, 255}));
+    EXPECT_EQ(afterLevels(8, {5, 5, 5}, cinemaLevels), (ByteColour{0, 0, 0}));
+    EXPECT_EQ(afterLevels(8, {255, 255, 255}, cinemaLevels), (ByteColour{255, 255, 255}));
 }
 
 TEST(Cinema, TurnsGreyBlue)
 {
-    const Colour c = afterLevels(8, {128, 128, 128}, cinemaLevels);
+    const ByteColour c = afterLevels(8, {128, 128, 128}, cinemaLevels);
     EXPECT_EQ(c[0], c[1]);
     EXPECT_NEAR(c[0], 145, 1);
     EXPECT_NEAR(c[2], 162, 1);

@@ -9,8 +9,8 @@ TEST(Colorcross, MatchesItsTwin)
 
 TEST(Colorcross, StaysOffBlackAndWhite)
 {
-    EXPECT_EQ(underLook(0, {0, 0, 0}), (Colour{20, 20, 20}));
-    EXPECT_EQ(underLook(0, {255, 255, 255}), (Colour{250, 250, 250}));
+    EXPECT_EQ(underLook(0, {0, 0, 0}), (ByteColour{20, 20, 20}));
+    EXPECT_EQ(underLook(0, {255, 255, 255}), (ByteColour{250, 250, 250}));
 }
 
 TEST(Colorcross, KeepsTheMiddleForEveryExponent)
@@ -36,7 +36,7 @@ TEST(Colorcross, PrintsItsPowers)
 TEST(Colorcross, IsALookupPerChannel)
 {
     CharImage::useRandom = 0;
-    const Colour once = underLook(0, {77, 77, 77}), again = underLook(0, {77, 3, 200});
+    const ByteColour once = underLook(0, {77, 77, 77}), again = underLook(0, {77, 3, 200});
     EXPECT_EQ(once[0], again[0]);
 }
 

@@ -8,7 +8,7 @@ void infraredLevels(Picture& picture)
     reference::makeBlurry(picture, 4, 3.0f);
 }
 
-Colour greyOf(int level)
+ByteColour greyOf(int level)
 {
     return {level, level, level};
 }
@@ -22,7 +22,7 @@ TEST(Infrared, MatchesItsTwin)
 
 TEST(Infrared, GivesTheReferenceColoursTheirGreys)
 {
-    const Colour colours[] = {
+    const ByteColour colours[] = {
         {0, 0, 0}, {0, 255, 0}, {228, 152, 76}, {150, 150, 255}, {255, 255, 255}, {128, 128, 128}};
     const int greys[] = {7, 138, 239, 0, 5, 84};
     for (int i = 0; i < 6; i++) {

@@ -17,7 +17,7 @@ TEST(Instant, HasNoBlackBeforeItsVignette)
     Picture twin = flatPicture(1, 1, 0, 0, 0);
     reference::instant(twin);
     expectSame(*image, twin, "1x1");
-    EXPECT_EQ((Colour{image->data[0], image->data[1], image->data[2]}), (Colour{27, 23, 21}));
+    EXPECT_EQ((ByteColour{image->data[0], image->data[1], image->data[2]}), (ByteColour{27, 23, 21}));
 }
 
 TEST(Instant, IsAFunctionOfEachPixelUpToItsVignette)

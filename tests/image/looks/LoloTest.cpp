@@ -18,13 +18,13 @@ TEST(Lolo, MatchesItsTwin)
 
 TEST(Lolo, WarmsGrey)
 {
-    EXPECT_EQ(afterLevels(2, {128, 128, 128}, loloLevels), (Colour{130, 129, 124}));
+    EXPECT_EQ(afterLevels(2, {128, 128, 128}, loloLevels), (ByteColour{130, 129, 124}));
 }
 
 TEST(Lolo, KeepsTheDarkestBlack)
 {
     // The levels hold the darkest at 30; contrast takes 30 to (30 - 128) x 1.5 + 128 = -19.
-    EXPECT_EQ(afterLevels(2, {30, 30, 30}, loloLevels), (Colour{0, 0, 0}));
+    EXPECT_EQ(afterLevels(2, {30, 30, 30}, loloLevels), (ByteColour{0, 0, 0}));
 }
 
 TEST(Lolo, HoldsItsVariedBrightLevelAt255)

@@ -18,7 +18,7 @@ TEST(Look1974, MatchesItsTwin)
 
 TEST(Look1974, WashesBlackInBrownAndClipsWhite)
 {
-    const Colour black = {10, 0, 0}, white = {255, 255, 255};
+    const ByteColour black = {10, 0, 0}, white = {255, 255, 255};
     expectBeforeLevels(7, {0, 0, 0}, black, black, white, levels1974);
     expectBeforeLevels(7, {255, 255, 255}, white, black, white, levels1974);
 }

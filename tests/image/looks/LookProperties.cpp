@@ -4,12 +4,12 @@
 
 namespace {
 
-Colour colourAt(const CharImage& image, int i)
+ByteColour colourAt(const CharImage& image, int i)
 {
     return {image.data[4 * i], image.data[4 * i + 1], image.data[4 * i + 2]};
 }
 
-void setColour(Picture& picture, int i, Colour c)
+void setColour(Picture& picture, int i, ByteColour c)
 {
     for (int k = 0; k < 3; k++)
         picture.at(i, 0)[k] = static_cast<unsigned char>(c[k]);
@@ -38,7 +38,7 @@ void expectLookMatchesTwin(int filter, void (*twin)(Picture&))
         }
 }
 
-Picture sampledPicture(Colour dark, Colour bright)
+Picture sampledPicture(ByteColour dark, ByteColour bright)
 {
     Picture picture(400, 1);
     for (int i = 0; i < 400; i += 10)
@@ -46,7 +46,7 @@ Picture sampledPicture(Colour dark, Colour bright)
     return picture;
 }
 
-void expectBeforeLevels(int filter, Colour colour, Colour expected, Colour blackBecomes, Colour whiteBecomes,
+void expectBeforeLevels(int filter, ByteColour colour, ByteColour expected, ByteColour blackBecomes, ByteColour whiteBecomes,
     const std::function<void(Picture&)>& levels)
 {
     CharImage::useRandom = 0;
@@ -58,10 +58,10 @@ void expectBeforeLevels(int filter, Colour colour, Colour expected, Colour black
     Picture stretched = sampledPicture(blackBecomes, whiteBecomes);
     setColour(stretched, 1, expected);
     levels(stretched);
-    EXPECT_EQ(colourAt(*image, 1), (Colour{stretched.at(1, 0)[0], stretched.at(1, 0)[1], stretched.at(1, 0)[2]}));
+    EXPECT_EQ(colourAt(*image, 1), (ByteColour{stretched.at(1, 0)[0], stretched.at(1, 0)[1], stretched.at(1, 0)[2]}));
 }
 
-Colour afterLevels(int filter, Colour colour, const std::function<void(CharImage&)>& levels)
+ByteColour afterLevels(int filter, ByteColour colour, const std::function<void(CharImage&)>& levels)
 {
     CharImage::useRandom = 0;
     const auto place = [](int v) { return v / 9 * 10 + v % 9 + 1; }; // never a sampled pixel
@@ -73,7 +73,7 @@ Colour afterLevels(int filter, Colour colour, const std::function<void(CharImage
                 setColour(ramp, place(v), {v, v, v});
             const auto levelled = imageOf(ramp);
             levels(*levelled);
-            Colour before = {-1, -1, -1};
+            ByteColour before = {-1, -1, -1};
             for (int k = 0; k < 3; k++)
                 for (int v = 0; v < 256 && before[k] < 0; v++)
                     if (levelled->data[4 * place(v)] == colour[k])
@@ -90,7 +90,7 @@ Colour afterLevels(int filter, Colour colour, const std::function<void(CharImage
     return {};
 }
 
-Colour underLook(int filter, Colour colour)
+ByteColour underLook(int filter, ByteColour colour)
 {
     CharImage::useRandom = 0;
     const auto image = imageOf(flatPicture(1, 1, colour[0], colour[1], colour[2]));

@@ -10,7 +10,7 @@ void magazineLevels(Picture& picture)
 }
 
 // White may lose one in the saturation step, which adds two rounded products.
-constexpr Colour white = {254, 254, 254};
+constexpr ByteColour white = {254, 254, 254};
 
 } // namespace
 

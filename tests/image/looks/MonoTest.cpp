@@ -18,7 +18,7 @@ TEST(Mono, MatchesItsTwin)
 
 TEST(Mono, WeakensBlue)
 {
-    const Colour black = {0, 0, 0}, white = {241, 241, 241};
+    const ByteColour black = {0, 0, 0}, white = {241, 241, 241};
     expectBeforeLevels(5, {0, 0, 255}, {14, 14, 14}, black, white, monoLevels);
     expectBeforeLevels(5, {255, 0, 0}, {76, 76, 76}, black, white, monoLevels);
     expectBeforeLevels(5, {0, 255, 0}, {150, 150, 150}, black, white, monoLevels);

@@ -158,17 +158,17 @@ TEST(Trial, GivesTheBytesOfTheExactRecipe)
         [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 0.0003); }); }));
 }
 
-TEST(Trial, CollectsPlacesInGroups)
+TEST(Trial, CollectsThePixelsOnWhichItDoesNotDecide)
 {
     unsigned char marked[blockPixels] = {};
-    EXPECT_EQ(Places(marked).count, 0);
+    EXPECT_EQ(UnsurePixels(marked).count, 0);
     for (int i : {0, 7, 8, 100, 255})
         marked[i] = 1;
-    const Places places(marked);
-    ASSERT_EQ(places.count, 5);
+    const UnsurePixels pixels(marked);
+    ASSERT_EQ(pixels.count, 5);
     for (int k = 0; k < 5; k++)
-        EXPECT_EQ(places.at[k], (std::array {0, 7, 8, 100, 255})[std::size_t(k)]);
+        EXPECT_EQ(pixels.at[k], (std::array {0, 7, 8, 100, 255})[std::size_t(k)]);
     for (unsigned char& mark : marked)
         mark = 1;
-    EXPECT_EQ(Places(marked).count, blockPixels);
+    EXPECT_EQ(UnsurePixels(marked).count, blockPixels);
 }
