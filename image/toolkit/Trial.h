@@ -76,7 +76,7 @@ inline constexpr auto inParts = [](float v) {
 
 /// The pixels of a block on which a trial does not decide, in groups.
 struct UnsurePixels {
-    static constexpr int together = 16;
+    static constexpr int together = 8;
     int at[blockPixels + together], count = 0;
 
     /// Where `marked` is 1.

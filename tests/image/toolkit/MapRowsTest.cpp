@@ -47,7 +47,7 @@ TEST(MapRows, MeasureEdgesOneRowLater)
             Plane luminances = {};
             for (int i = 0; i < blockPixels && x + i < width; i++) {
                 const unsigned char* pixel = picture.at(x + i, y);
-                luminances.at[i] = luminance({float(pixel[0]), float(pixel[1]), float(pixel[2])});
+                luminances.at[i] = luminance(Rgb{float(pixel[0]), float(pixel[1]), float(pixel[2])});
             }
             edges.setBlock(x, luminances);
         }
