@@ -4,9 +4,9 @@
 #include "render/PhotoSaver.h"
 #include "ui_MainWindow.h"
 
-#include <QFileDialog>
+#include <QColorSpace>
+#include <QFileInfo>
 #include <QTransform>
-#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -78,8 +78,10 @@ QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
 
 QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
 {
-    // The platform's y axis points down, so that its positive angles turn clockwise.
-    return image.transformed(QTransform().rotate(-double(degrees)));
+    // The platform's y axis points down, so that its positive angles turn clockwise. Turning drops the colour space.
+    QImage turned = image.transformed(QTransform().rotate(-double(degrees)));
+    turned.setColorSpace(image.colorSpace());
+    return turned;
 }
 
 void MainWindowController::rotateImageRight()

@@ -4,6 +4,7 @@
 #include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
 
+#include <QColorSpace>
 #include <QDirIterator>
 #include <QFileOpenEvent>
 #include <QLineEdit>
@@ -210,6 +211,21 @@ private slots:
         QCOMPARE(pixelsOf(desk.window.getoriginalImage()), photo);
         desk.click("btnLeft");
         QCOMPARE(desk.window.getoriginalImage().pixel(0, 0), photo.pixel(2999, 0));
+    }
+
+    void theColourSpaceSurvivesTurningAndFlattening()
+    {
+        Desk desk(makePhoto(60, 40));
+        const QColorSpace sRgb(QColorSpace::SRgb);
+        for (const char* button : {"btnRight", "btnRight", "btnLeft", "btnFlatten"}) {
+            desk.click(button);
+            QCOMPARE(desk.window.getoriginalImage().colorSpace(), sRgb);
+            QCOMPARE(desk.window.getFiltersAppliedImage().colorSpace(), sRgb);
+        }
+        QCOMPARE(MainWindowController::rotateNSImage(desk.window.getoriginalImage(), 180).colorSpace(), sRgb);
+        QImage small = desk.window.getoriginalImage();
+        MainWindowController::downsizeNSImage(small, 20);
+        QCOMPARE(small.colorSpace(), sRgb);
     }
 
     void flatteningBakesTheLooksIn()
