@@ -84,22 +84,12 @@ QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
     return turned;
 }
 
-void MainWindowController::rotateImageRight()
+void MainWindowController::rotateImage(float degrees)
 {
     const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
     if (!work || originalImage.isNull())
         return;
-    setoriginalImage(rotateNSImage(originalImage, -90.0f));
-    applyMultipleFilters();
-    updateThumbnailImages();
-}
-
-void MainWindowController::rotateImageLeft()
-{
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
-    if (!work || originalImage.isNull())
-        return;
-    setoriginalImage(rotateNSImage(originalImage, 90.0f));
+    setoriginalImage(rotateNSImage(originalImage, degrees));
     applyMultipleFilters();
     updateThumbnailImages();
 }

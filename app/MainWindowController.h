@@ -96,8 +96,8 @@ public slots:
     void reExpose();
     void settingChanged();
     void loadImageButtonPressed();
-    void rotateImageRight();
-    void rotateImageLeft();
+    void rotateImageRight() { rotateImage(-90.0f); }
+    void rotateImageLeft() { rotateImage(90.0f); }
     void flattenImage();
     void saveFilteredImage();
     void openHelp();
@@ -141,6 +141,7 @@ private:
     void showStep(const QString& name);
     void showAppliedFilters();
     void setCurrentFile(const QByteArray& path);
+    void rotateImage(float degrees);
     int largerFrameSide() const;
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave();
