@@ -55,7 +55,7 @@ void MainWindowController::pressFilterButton(int filter)
 
 void MainWindowController::applyOriginalFilter()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return showAppliedFilters();
     removeAllFilters();
@@ -64,7 +64,7 @@ void MainWindowController::applyOriginalFilter()
 
 void MainWindowController::applyMultipleFilters()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (work && !originalImage.isNull())
         ui->mainImageView->setImage(saveMultipleFilters(true));
 }
@@ -97,7 +97,7 @@ void MainWindowController::updateBreadcrumb()
 
 void MainWindowController::multiFilterToggled()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return;
     doMultiFiltering = ui->chkMultiFilter->isChecked();
@@ -115,7 +115,7 @@ void MainWindowController::multiFilterToggled()
 
 void MainWindowController::useRandomToggled()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return;
     CharImage::useRandom = ui->chkRandomness->isChecked() ? 1 : 0;
@@ -125,7 +125,7 @@ void MainWindowController::useRandomToggled()
 
 void MainWindowController::reExpose()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return;
     CharImage::renewRandomNumbers();

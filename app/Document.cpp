@@ -86,7 +86,7 @@ QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
 
 void MainWindowController::rotateImage(float degrees)
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work || originalImage.isNull())
         return;
     setoriginalImage(rotateNSImage(originalImage, degrees));

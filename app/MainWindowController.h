@@ -120,6 +120,8 @@ private:
     public:
         /// `steps`: how many it has; `isLong`: known to take more than a moment.
         Work(MainWindowController& controller, int steps, bool isLong);
+        /// One render of the preview.
+        explicit Work(MainWindowController& controller);
         ~Work();
         Work(const Work&) = delete;
         Work& operator=(const Work&) = delete;
