@@ -103,11 +103,8 @@ void MainWindowController::multiFilterToggled()
     doMultiFiltering = ui->chkMultiFilter->isChecked();
     if (!doMultiFiltering) {
         // Only the look that was added last stays.
-        const bool any = filterIDs.numThings > 0;
-        const int last = any ? filterIDs.theArray[filterIDs.numThings - 1] : -1;
-        removeAllFilters();
-        if (any)
-            addAppliedFilter(last);
+        if (filterIDs.numThings > 0)
+            removeOtherFilters(filterIDs.theArray[filterIDs.numThings - 1]);
         applyMultipleFilters();
     }
     updateBreadcrumb();
