@@ -52,7 +52,6 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
 
 void MainWindowController::setCurrentFile(const QByteArray& path)
 {
-    currentFilePath = path;
     currentFileName = fileNameOf(path);
     // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
     const QString name = shownName(currentFileName).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));

@@ -157,8 +157,7 @@ private:
     QImage originalThumb; ///< its thumbnail copy
     QImage filtersAppliedImage; ///< the latest render
     QByteArray originalExif; ///< what the camera wrote into the photo's file
-    QByteArray currentFilePath; ///< of the last loaded file
-    QByteArray currentFileName; ///< its last component, the name offered when saving
+    QByteArray currentFileName; ///< of the last loaded file, the name offered when saving
     QByteArray fileWhenShown;
     QString refusal; ///< why the last load failed
     QString panelFolder; ///< where a panel was left; empty before the first
