@@ -22,16 +22,21 @@ QImage scaledTo(const QImage& image, const QSize& size)
 
 bool MainWindowController::openFile(const QByteArray& path)
 {
-    if (loadImageFromFile(path))
-        return true;
-    if (!refusal.isEmpty())
-        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), refusal);
-    return false;
+    QString reason;
+    const bool taken = takeFile(path, &reason);
+    if (!reason.isEmpty())
+        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), reason);
+    return taken;
 }
 
 bool MainWindowController::loadImageFromFile(const QByteArray& path)
 {
-    refusal.clear();
+    QString reason;
+    return takeFile(path, &reason);
+}
+
+bool MainWindowController::takeFile(const QByteArray& path, QString* reason)
+{
     const Work work(*this, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
     if (!work)
         return false;
@@ -39,7 +44,7 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
     showStep(tr("Decode"));
     LoadedPhoto photo = loadPhoto(path);
     if (photo.image.isNull()) {
-        refusal = photo.reason;
+        *reason = photo.reason;
         return false;
     }
     originalExif = photo.exif;

@@ -142,6 +142,8 @@ private:
     int stepsOfRender() const;
     void showStep(const QString& name);
     void showAppliedFilters();
+    /// Loads a file; where it is refused there is a `reason`, where other work is under way there is none.
+    bool takeFile(const QByteArray& path, QString* reason);
     void setCurrentFile(const QByteArray& path);
     void rotateImage(float degrees);
     int largerFrameSide() const;
@@ -159,7 +161,6 @@ private:
     QByteArray originalExif; ///< what the camera wrote into the photo's file
     QByteArray currentFileName; ///< of the last loaded file, the name offered when saving
     QByteArray fileWhenShown;
-    QString refusal; ///< why the last load failed
     QString panelFolder; ///< where a panel was left; empty before the first
 
     int workDepth = 0;
