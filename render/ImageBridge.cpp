@@ -2,6 +2,7 @@
 
 #include "image/CharImage.h"
 #include "image/framing/BestFit.h"
+#include "render/LargePages.h"
 #include "render/OnWhite.h"
 #include "render/Resample.h"
 
@@ -113,6 +114,7 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
 {
     const std::size_t size = blockSize(outWidth, outHeight);
     std::unique_ptr<unsigned char[]> block(new unsigned char[size]);
+    useLargePages(block.get(), size);
     if (image.isNull()) {
         std::memset(block.get(), 255, size);
         return block.release();
