@@ -55,7 +55,7 @@ void MainWindowController::pressFilterButton(int filter)
 
 void MainWindowController::applyOriginalFilter()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return showAppliedFilters();
     removeAllFilters();
@@ -64,7 +64,7 @@ void MainWindowController::applyOriginalFilter()
 
 void MainWindowController::applyMultipleFilters()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (work && !originalImage.isNull())
         ui->mainImageView->setImage(saveMultipleFilters(true));
 }
@@ -97,17 +97,14 @@ void MainWindowController::updateBreadcrumb()
 
 void MainWindowController::multiFilterToggled()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return;
     doMultiFiltering = ui->chkMultiFilter->isChecked();
     if (!doMultiFiltering) {
         // Only the look that was added last stays.
-        const bool any = filterIDs.numThings > 0;
-        const int last = any ? filterIDs.theArray[filterIDs.numThings - 1] : -1;
-        removeAllFilters();
-        if (any)
-            addAppliedFilter(last);
+        if (filterIDs.numThings > 0)
+            removeOtherFilters(filterIDs.theArray[filterIDs.numThings - 1]);
         applyMultipleFilters();
     }
     updateBreadcrumb();
@@ -115,7 +112,7 @@ void MainWindowController::multiFilterToggled()
 
 void MainWindowController::useRandomToggled()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return;
     CharImage::useRandom = ui->chkRandomness->isChecked() ? 1 : 0;
@@ -125,7 +122,7 @@ void MainWindowController::useRandomToggled()
 
 void MainWindowController::reExpose()
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return;
     CharImage::renewRandomNumbers();

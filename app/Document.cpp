@@ -4,9 +4,9 @@
 #include "render/PhotoSaver.h"
 #include "ui_MainWindow.h"
 
-#include <QFileDialog>
+#include <QColorSpace>
+#include <QFileInfo>
 #include <QTransform>
-#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -22,16 +22,21 @@ QImage scaledTo(const QImage& image, const QSize& size)
 
 bool MainWindowController::openFile(const QByteArray& path)
 {
-    if (loadImageFromFile(path))
-        return true;
-    if (!refusal.isEmpty())
-        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), refusal);
-    return false;
+    QString reason;
+    const bool taken = takeFile(path, &reason);
+    if (!reason.isEmpty())
+        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), reason);
+    return taken;
 }
 
 bool MainWindowController::loadImageFromFile(const QByteArray& path)
 {
-    refusal.clear();
+    QString reason;
+    return takeFile(path, &reason);
+}
+
+bool MainWindowController::takeFile(const QByteArray& path, QString* reason)
+{
     const Work work(*this, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
     if (!work)
         return false;
@@ -39,7 +44,7 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
     showStep(tr("Decode"));
     LoadedPhoto photo = loadPhoto(path);
     if (photo.image.isNull()) {
-        refusal = photo.reason;
+        *reason = photo.reason;
         return false;
     }
     originalExif = photo.exif;
@@ -52,7 +57,6 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
 
 void MainWindowController::setCurrentFile(const QByteArray& path)
 {
-    currentFilePath = path;
     currentFileName = fileNameOf(path);
     // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
     const QString name = shownName(currentFileName).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
@@ -78,26 +82,18 @@ QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
 
 QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
 {
-    // The platform's y axis points down, so that its positive angles turn clockwise.
-    return image.transformed(QTransform().rotate(-double(degrees)));
+    // The platform's y axis points down, so that its positive angles turn clockwise. Turning drops the colour space.
+    QImage turned = image.transformed(QTransform().rotate(-double(degrees)));
+    turned.setColorSpace(image.colorSpace());
+    return turned;
 }
 
-void MainWindowController::rotateImageRight()
+void MainWindowController::rotateImage(float degrees)
 {
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work || originalImage.isNull())
         return;
-    setoriginalImage(rotateNSImage(originalImage, -90.0f));
-    applyMultipleFilters();
-    updateThumbnailImages();
-}
-
-void MainWindowController::rotateImageLeft()
-{
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
-    if (!work || originalImage.isNull())
-        return;
-    setoriginalImage(rotateNSImage(originalImage, 90.0f));
+    setoriginalImage(rotateNSImage(originalImage, degrees));
     applyMultipleFilters();
     updateThumbnailImages();
 }

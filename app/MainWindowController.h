@@ -96,8 +96,8 @@ public slots:
     void reExpose();
     void settingChanged();
     void loadImageButtonPressed();
-    void rotateImageRight();
-    void rotateImageLeft();
+    void rotateImageRight() { rotateImage(-90.0f); }
+    void rotateImageLeft() { rotateImage(90.0f); }
     void flattenImage();
     void saveFilteredImage();
     void openHelp();
@@ -120,6 +120,8 @@ private:
     public:
         /// `steps`: how many it has; `isLong`: known to take more than a moment.
         Work(MainWindowController& controller, int steps, bool isLong);
+        /// One render of the preview.
+        explicit Work(MainWindowController& controller);
         ~Work();
         Work(const Work&) = delete;
         Work& operator=(const Work&) = delete;
@@ -140,7 +142,10 @@ private:
     int stepsOfRender() const;
     void showStep(const QString& name);
     void showAppliedFilters();
+    /// Loads a file; where it is refused there is a `reason`, where other work is under way there is none.
+    bool takeFile(const QByteArray& path, QString* reason);
     void setCurrentFile(const QByteArray& path);
+    void rotateImage(float degrees);
     int largerFrameSide() const;
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave();
@@ -154,10 +159,8 @@ private:
     QImage originalThumb; ///< its thumbnail copy
     QImage filtersAppliedImage; ///< the latest render
     QByteArray originalExif; ///< what the camera wrote into the photo's file
-    QByteArray currentFilePath; ///< of the last loaded file
-    QByteArray currentFileName; ///< its last component, the name offered when saving
+    QByteArray currentFileName; ///< of the last loaded file, the name offered when saving
     QByteArray fileWhenShown;
-    QString refusal; ///< why the last load failed
     QString panelFolder; ///< where a panel was left; empty before the first
 
     int workDepth = 0;

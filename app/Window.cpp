@@ -153,7 +153,7 @@ void MainWindowController::windowDidResize()
 {
     if (largerFrameSide() <= displayRes)
         return;
-    const Work work(*this, stepsOfRender(), takesLong(originalDisplay));
+    const Work work(*this);
     if (!work)
         return resizeSettles.start();
     displayRes = displayResAfterResize(displayRes, largerFrameSide());

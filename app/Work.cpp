@@ -25,6 +25,11 @@ MainWindowController::Work::Work(MainWindowController& owner, int steps, bool is
     controller.ui->progressBar->setMaximum(steps);
 }
 
+MainWindowController::Work::Work(MainWindowController& owner)
+    : Work(owner, owner.stepsOfRender(), takesLong(owner.originalDisplay))
+{
+}
+
 MainWindowController::Work::~Work()
 {
     if (!allowed || --controller.workDepth > 0)

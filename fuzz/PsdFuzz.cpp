@@ -1,22 +1,10 @@
 // The PSD reader on any bytes: build/fuzz/fuzz/PsdFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/PsdFuzz
 
+#include "fuzz/ReaderFuzz.h"
 #include "render/formats/PsdHandler.h"
-
-#include <QBuffer>
-#include <QImage>
-#include <QVariant>
-#include <cstdint>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
-    QBuffer file(&bytes);
-    file.open(QIODevice::ReadOnly);
-    PsdHandler handler;
-    handler.setDevice(&file);
-    const QSize told = handler.option(QImageIOHandler::Size).toSize();
-    QImage image;
-    if (handler.read(&image) && image.size() != told)
-        __builtin_trap();
+    readAnyBytes<PsdHandler>(data, size);
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include "image/CharImage.h"
 #include "image/framing/BestFit.h"
+#include "render/LargePages.h"
 #include "render/OnWhite.h"
 #include "render/Resample.h"
 
@@ -65,6 +66,12 @@ PlacedRect fillArea(float aspect, int outWidth, int outHeight, const Margins& ma
     return {x, outHeight - (y + height), width, height};
 }
 
+/// Whether a picture drawn there leaves nothing of the output as it was.
+bool covers(const PlacedRect& rect, int outWidth, int outHeight)
+{
+    return rect.x <= 0.0 && rect.y <= 0.0 && rect.x + rect.width >= outWidth && rect.y + rect.height >= outHeight;
+}
+
 void freeBlock(void* pixels)
 {
     delete[] static_cast<unsigned char*>(pixels);
@@ -105,10 +112,13 @@ CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth,
 unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outHeight, int orientation, int left,
     int right, int top, int bottom, bool fast)
 {
-    std::unique_ptr<unsigned char[]> block(new unsigned char[blockSize(outWidth, outHeight)]);
-    std::memset(block.get(), 255, blockSize(outWidth, outHeight));
-    if (image.isNull())
+    const std::size_t size = blockSize(outWidth, outHeight);
+    std::unique_ptr<unsigned char[]> block(new unsigned char[size]);
+    useLargePages(block.get(), size);
+    if (image.isNull()) {
+        std::memset(block.get(), 255, size);
         return block.release();
+    }
     const QImage source = turned(onWhite(image), orientation);
     const Margins margins{left, right, top, bottom};
     // Single precision can lose a pixel of the picture's own aspect; a picture of the output's size fills it.
@@ -120,6 +130,8 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
         rect.x = outWidth - (rect.x + rect.width);
         rect.y = outHeight - (rect.y + rect.height);
     }
+    if (!covers(rect, outWidth, outHeight))
+        std::memset(block.get(), 255, size);
     drawScaled(source, rect, fast, block.get(), outWidth, outHeight);
     return block.release();
 }

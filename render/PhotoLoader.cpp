@@ -3,6 +3,7 @@
 #include "render/ColorProfile.h"
 #include "render/FreeMemory.h"
 #include "render/JpegMarkers.h"
+#include "render/LargePages.h"
 #include "render/OnWhite.h"
 #include "render/formats/PsdHandler.h"
 #include "render/formats/TgaHandler.h"
@@ -103,7 +104,7 @@ bool isForPhotos(const QByteArray& format)
     return format != "icns" && format != "svg" && format != "svgz" && format != "pdf";
 }
 
-/// Decodes the first picture of the file; gives the reason when there is none.
+/// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
 QString decode(QIODevice& file, QImage& image)
 {
     if (const auto handler = ownHandler(file)) {
@@ -127,9 +128,11 @@ QString decode(QIODevice& file, QImage& image)
         const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()));
         if (!refusal.isEmpty())
             return refusal;
+        // The decoder fills a picture that fits, and makes another where this one does not.
+        image = QImage(size, reader.imageFormat());
+        useLargePages(image.bits(), std::size_t(image.sizeInBytes()));
     }
-    image = reader.read();
-    return image.isNull() ? text("The picture is damaged and cannot be read.") : QString();
+    return reader.read(&image) ? QString() : text("The picture is damaged and cannot be read.");
 }
 
 LoadedPhoto load(const QByteArray& path)

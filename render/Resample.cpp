@@ -74,6 +74,54 @@ void copyRows(const QImage& source, int x, int y, unsigned char* out, int outWid
             source.constScanLine(row - y) + std::size_t(left - x) * 4, std::size_t(right - left) * 4);
 }
 
+/// The weighted sum of the source rows that make one output row, from the byte `first` of a row on.
+void sumDown(const QImage& source, const Side& rows, std::size_t index, std::size_t first, std::vector<float>& sums)
+{
+    const Taps& row = rows.taps[index];
+    const float* weights = rows.weights.data() + row.weights;
+    const unsigned char* top = source.constScanLine(row.first) + first;
+    for (std::size_t k = 0; k < sums.size(); k++)
+        sums[k] = weights[0] * top[k];
+    for (int tap = 1; tap < row.count; tap++) {
+        const unsigned char* bytes = source.constScanLine(row.first + tap) + first;
+        const float weight = weights[tap];
+        for (std::size_t k = 0; k < sums.size(); k++)
+            sums[k] += weight * bytes[k];
+    }
+}
+
+/// Four floats that are added and multiplied by one instruction.
+using Pixel = float __attribute__((vector_size(16)));
+
+Pixel pixelAt(const float* floats)
+{
+    Pixel pixel;
+    std::memcpy(&pixel, floats, sizeof pixel);
+    return pixel;
+}
+
+/// The colours of one output row, four floats a pixel and a half above their value, so that truncation rounds them. The
+/// spare one is above 255 and becomes that.
+void sumAcross(const Side& columns, const float* sums, float* colours)
+{
+    for (const Taps& column : columns.taps) {
+        const float* sum = sums + std::size_t(column.first) * 4;
+        const float* weight = columns.weights.data() + column.weights;
+        Pixel colour = {0.5f, 0.5f, 0.5f, 255.0f};
+        colour += weight[0] * pixelAt(sum);
+        for (int tap = 1; tap < column.count; tap++)
+            colour += weight[tap] * pixelAt(sum + 4 * tap);
+        std::memcpy(colours, &colour, sizeof colour);
+        colours += 4;
+    }
+}
+
+void toBytes(const float* colours, std::size_t count, unsigned char* bytes)
+{
+    for (std::size_t k = 0; k < count; k++)
+        bytes[k] = static_cast<unsigned char>(int(colours[k] < 255.0f ? colours[k] : 255.0f));
+}
+
 } // namespace
 
 void drawScaled(
@@ -93,29 +141,10 @@ void drawScaled(
     // Down first, over the source columns in use, then across: each output row is made from one row of sums.
     const std::size_t firstByte = std::size_t(columns.taps.front().first) * 4;
     const std::size_t endByte = std::size_t(columns.taps.back().first + columns.taps.back().count) * 4;
-    std::vector<float> sums(endByte - firstByte);
+    std::vector<float> sums(endByte - firstByte), colours(columns.taps.size() * 4);
     for (std::size_t i = 0; i < rows.taps.size(); i++) {
-        const Taps& row = rows.taps[i];
-        std::fill(sums.begin(), sums.end(), 0.0f);
-        for (int tap = 0; tap < row.count; tap++) {
-            const unsigned char* bytes = source.constScanLine(row.first + tap) + firstByte;
-            const float weight = rows.weights[row.weights + tap];
-            for (std::size_t k = 0; k < sums.size(); k++)
-                sums[k] += weight * bytes[k];
-        }
-        unsigned char* pixel = out + ((rows.begin + i) * outWidth + columns.begin) * 4;
-        for (const Taps& column : columns.taps) {
-            const float* sum = sums.data() + std::size_t(column.first) * 4 - firstByte;
-            const float* weight = columns.weights.data() + column.weights;
-            // All four bytes alike, which is one vector operation; the spare one is set last.
-            float colour[4] = {0.5f, 0.5f, 0.5f, 0.5f};
-            for (int tap = 0; tap < column.count; tap++, sum += 4)
-                for (int channel = 0; channel < 4; channel++)
-                    colour[channel] += weight[tap] * sum[channel];
-            for (int channel = 0; channel < 4; channel++)
-                pixel[channel] = static_cast<unsigned char>(int(colour[channel] < 255.0f ? colour[channel] : 255.0f));
-            pixel[3] = 255;
-            pixel += 4;
-        }
+        sumDown(source, rows, i, firstByte, sums);
+        sumAcross(columns, sums.data() - firstByte, colours.data());
+        toBytes(colours.data(), colours.size(), out + ((rows.begin + i) * outWidth + columns.begin) * 4);
     }
 }

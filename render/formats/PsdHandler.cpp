@@ -1,5 +1,7 @@
 #include "render/formats/PsdHandler.h"
 
+#include "render/IccProfile.h"
+
 #include <QColorSpace>
 #include <QImage>
 #include <QVariant>
@@ -7,8 +9,6 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <lcms2.h>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -207,26 +207,6 @@ template <class Sample> void store(const std::vector<quint16>& samples, uchar* r
     }
 }
 
-struct CloseProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, CloseProfile>;
-
-/// Four-byte pixels of another colour space become sRGB; false without a profile that can tell how.
-bool convert(QImage& picture, const Profile& source, cmsUInt32Number format)
-{
-    const Profile sRgb(cmsCreate_sRGBProfile());
-    cmsHTRANSFORM transform = source
-        ? cmsCreateTransform(source.get(), format, sRgb.get(), TYPE_RGBA_8, INTENT_RELATIVE_COLORIMETRIC, 0)
-        : nullptr;
-    if (!transform)
-        return false;
-    for (int y = 0; y < picture.height(); y++)
-        cmsDoTransform(transform, picture.scanLine(y), picture.scanLine(y), cmsUInt32Number(picture.width()));
-    cmsDeleteTransform(transform);
-    return true;
-}
-
 /// Calls `function` with each four-byte pixel.
 template <class Function> void forEachPixel(QImage& picture, Function function)
 {
@@ -251,15 +231,16 @@ void finish(QImage& picture, const Header& header, const Sections& sections)
         });
     } else if (header.mode == cmyk) {
         // Stored as light, not as ink.
-        const Profile inks(cmsOpenProfileFromMem(profile.constData(), cmsUInt32Number(profile.size())));
-        if (!inks || cmsGetColorSpace(inks.get()) != cmsSigCmykData || !convert(picture, inks, TYPE_CMYK_8_REV))
+        const IccProfile inks = openProfile(profile, cmsSigCmykData);
+        if (!convertToSRgb(picture, inks, TYPE_CMYK_8_REV, INTENT_RELATIVE_COLORIMETRIC, 0))
             forEachPixel(picture, [](uchar* p) {
                 for (int c = 0; c < 3; c++)
                     p[c] = uchar((p[c] * p[3] + 127) / 255);
             });
         forEachPixel(picture, [](uchar* p) { p[3] = 255; }); // where the black was
     } else if (header.mode == lab) {
-        convert(picture, Profile(cmsCreateLab4Profile(nullptr)), TYPE_Lab_8 | EXTRA_SH(1));
+        const IccProfile labOfD50(cmsCreateLab4Profile(nullptr));
+        convertToSRgb(picture, labOfD50, TYPE_Lab_8 | EXTRA_SH(1), INTENT_RELATIVE_COLORIMETRIC, 0);
     }
 }
 

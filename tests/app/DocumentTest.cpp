@@ -4,6 +4,7 @@
 #include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
 
+#include <QColorSpace>
 #include <QDirIterator>
 #include <QFileOpenEvent>
 #include <QLineEdit>
@@ -91,6 +92,7 @@ private slots:
         const int descriptor = open(path.constData(), 0);
         QVERIFY(descriptor >= 0 && saved.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
         QCOMPARE(saved.read(3), QByteArray("\xff\xd8\xff"));
+        QCOMPARE(unlink(path.constData()), 0); // the folder cannot name them all when it goes
     }
 
     void anUnreadableFileChangesNothing()
@@ -210,6 +212,21 @@ private slots:
         QCOMPARE(pixelsOf(desk.window.getoriginalImage()), photo);
         desk.click("btnLeft");
         QCOMPARE(desk.window.getoriginalImage().pixel(0, 0), photo.pixel(2999, 0));
+    }
+
+    void theColourSpaceSurvivesTurningAndFlattening()
+    {
+        Desk desk(makePhoto(60, 40));
+        const QColorSpace sRgb(QColorSpace::SRgb);
+        for (const char* button : {"btnRight", "btnRight", "btnLeft", "btnFlatten"}) {
+            desk.click(button);
+            QCOMPARE(desk.window.getoriginalImage().colorSpace(), sRgb);
+            QCOMPARE(desk.window.getFiltersAppliedImage().colorSpace(), sRgb);
+        }
+        QCOMPARE(MainWindowController::rotateNSImage(desk.window.getoriginalImage(), 180).colorSpace(), sRgb);
+        QImage small = desk.window.getoriginalImage();
+        MainWindowController::downsizeNSImage(small, 20);
+        QCOMPARE(small.colorSpace(), sRgb);
     }
 
     void flatteningBakesTheLooksIn()

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <lcms2.h>
+#include <memory>
+
+struct CloseProfile {
+    void operator()(void* profile) const { cmsCloseProfile(profile); }
+};
+using IccProfile = std::unique_ptr<void, CloseProfile>;
+
+/// The profile of those bytes; null where they are broken or of another colour model.
+IccProfile openProfile(const QByteArray& icc, cmsColorSpaceSignature model);
+
+/// Makes a Format_RGBA8888 of the image, takes its bytes as `pixels` of the profile `source`, and makes them sRGB.
+/// False, and nothing is changed, without a source or where it cannot tell how.
+bool convertToSRgb(
+    QImage& image, const IccProfile& source, cmsUInt32Number pixels, cmsUInt32Number intent, cmsUInt32Number flags);
