@@ -19,12 +19,19 @@ void maskDisc(CharImage& image, float radius)
 {
     const unsigned char black[3] = {0, 0, 0};
     const int cx = image.width / 2, cy = image.height / 2;
-    for (int y = 0; y < image.height; y++)
-        for (int x = 0; x < image.width; x++) {
-            const float dx = float(x - cx), dy = float(y - cy);
-            if (std::sqrt(dx * dx + dy * dy) >= radius)
-                paint(image, y, x, x + 1, black);
-        }
+    int inside = 0; // columns on either side of the centre that stay, the centre's own included
+    for (int y = 0; y < image.height; y++) {
+        const auto isOutside = [&](int column) {
+            const float dx = float(column), dy = float(y - cy);
+            return std::sqrt(dx * dx + dy * dy) >= radius;
+        };
+        while (inside > 0 && isOutside(inside - 1))
+            inside--;
+        while (inside <= cx && !isOutside(inside))
+            inside++;
+        paint(image, y, 0, std::clamp(cx - inside + 1, 0, image.width), black);
+        paint(image, y, std::min(cx + inside, image.width), image.width, black);
+    }
 }
 
 } // namespace

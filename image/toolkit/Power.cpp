@@ -72,11 +72,15 @@ inline Power powerOf(float base, double exponent)
     return {e * scale, libraryError(y) + 0x1p-30};
 }
 
-/// The same for the exponent 1.5, which half of the looks use.
+/// The same for an exponent that takes a product or two: `product(base)` is good to almost all of a double.
+template <class Product> Power productOf(float base, double exponent, Product product)
+{
+    return {product(double(base)), libraryError(exponent * (std::abs(wholeLog(base)) + 0.5))};
+}
+
 inline Power sesquiPowerOf(float base)
 {
-    const double x = base;
-    return {x * std::sqrt(x), libraryError(1.5 * (std::abs(wholeLog(base)) + 0.5))};
+    return productOf(base, 1.5, [](double x) { return x * std::sqrt(x); });
 }
 
 /// Both ends of where the library's result may lie. They round to the same float unless the middle between two lies there.
@@ -131,8 +135,17 @@ template <class Function> void raiseBy(Plane& values, float exponent, Function p
 
 void raise(Plane& values, float exponent)
 {
+    // The exponents that the recipes have.
     if (exponent == 1.5f)
         raiseBy(values, exponent, [](float base) { return sesquiPowerOf(base); });
+    else if (exponent == 3.0f)
+        raiseBy(values, exponent, [](float base) {
+            return productOf(base, 3.0, [](double x) { return x * x * x; });
+        });
+    else if (exponent == 5.0f)
+        raiseBy(values, exponent, [](float base) {
+            return productOf(base, 5.0, [](double x) { return x * x * (x * x) * x; });
+        });
     else
         raiseBy(values, exponent, [=](float base) { return powerOf(base, exponent); });
 }

@@ -17,6 +17,10 @@ int softeningSize(int side)
 /// the inner radius it is 0.
 void becomeDarkness(Plane& t, float exponent, float strength)
 {
+    if (std::all_of(t.at, t.at + blockPixels, [](float place) { return place < 0.0f; })) {
+        t = {};
+        return;
+    }
     Plane a, e;
     for (int i = 0; i < blockPixels; i++)
         a.at[i] = e.at[i] = t.at[i] < 0.0f ? 1.0f : t.at[i];
