@@ -22,5 +22,5 @@ void CharImage::applyArcticFilter()
         const auto level = luminance(c) * -(1.1f - 1.0f);
         return eachChannel(c, [=](auto v) { return v * 1.1f + level; });
     };
-    forEachPixel(*this, strengths, Steps(bleached, coloured), Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
+    forEachPixel(*this, strengths, Steps(bleached, coloured), Stretch{0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

@@ -48,7 +48,7 @@ void recolour(Block& block, const Plane& lightness)
     }
     // Pure red has the hue 1.0 and comes out grey, on purpose.
     for (int i = 0; i < blockPixels; i++)
-        block.setColour(i, rgbOf(Hsl {hue.at[i], saturation.at[i], lightness.at[i]}, float(int(hue.at[i] * 6.0f))));
+        block.setColour(i, rgbOf(Hsl{hue.at[i], saturation.at[i], lightness.at[i]}, float(int(hue.at[i] * 6.0f))));
     const auto doubled = [](Rgb c) {
         const float level = luminance(c);
         return eachChannel(c, [=](float v) { return v + v - level; });

@@ -38,6 +38,6 @@ void CharImage::applyInfraredFilter()
         const float sky = closeness(c, {150.0f, 150.0f, 255.0f});
         return float(foliage * 0.5 + skin + sky * -0.4) * 255.0f;
     };
-    forEachPixel(*this, film, Stretch {0.01f, 0.01f, 0.0f, 255.0f, true, true});
+    forEachPixel(*this, film, Stretch{0.01f, 0.01f, 0.0f, 255.0f, true, true});
     makeBlurry(int(std::max(width, height) * 0.01), 3.0f);
 }

@@ -63,7 +63,8 @@ void CharImage::applyLightleakFilter()
     const auto violet = [](auto c) {
         const auto l = brightness(c);
         const auto a = rounded((1.0 - l * l * l) * 0.53);
-        return Colour {castBy(c.r, a, l, 117.0f) + 20.0f, castBy(c.g, a, l, 67.0f) + 20.0f, castBy(c.b, a, l, 110.0f) + 20.0f};
+        return Colour{
+            castBy(c.r, a, l, 117.0f) + 20.0f, castBy(c.g, a, l, 67.0f) + 20.0f, castBy(c.b, a, l, 110.0f) + 20.0f};
     };
     const auto muted = [](auto c) {
         const auto m = luminance(c) * (1.0f - 0.9f);
@@ -71,14 +72,16 @@ void CharImage::applyLightleakFilter()
     };
     const auto glowing = [](auto c, auto g) {
         const auto l = brightness(c);
-        return Colour {castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};
+        return Colour{castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};
     };
-    // It never goes below 62, on purpose. Up to half a step more makes no other byte, and no trial can be in doubt of it.
+    // It never goes below 62, on purpose. Up to half a step more makes no other byte, and no trial can be in doubt of
+    // it.
     const auto contrasted = [](auto c) {
         const auto p = sesquiPower(brightness(c));
         return eachChannel(c, [=](auto v) { return notBelow(withShareTimes(v, p, 1.1f) * 1.35f, 62.5f); });
     };
-    forEachPixelAround(*this, leak.x, leak.y, heaviestGlow, [=](Plane& glow, int dx, int dy) { leak.glowAt(glow, dx, dy); },
+    forEachPixelAround(
+        *this, leak.x, leak.y, heaviestGlow, [=](Plane& glow, int dx, int dy) { leak.glowAt(glow, dx, dy); },
         Steps(shaded, violet, muted, glowing, contrasted));
 
     const float halfWidth = width * 0.5f, halfHeight = height * 0.5f;

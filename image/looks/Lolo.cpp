@@ -32,11 +32,11 @@ void CharImage::applyLoloFilter()
     };
     const auto warmed = [](auto c) {
         const auto t = rounded(luminance(c) * per255);
-        return Colour {c.r * 0.97f + t * 12.9f, c.g * 0.97f + t * 9.66f, c.b};
+        return Colour{c.r * 0.97f + t * 12.9f, c.g * 0.97f + t * 9.66f, c.b};
     };
     const auto muted = [](auto c) {
-        const auto level = luminance(Colour {c.r, c.g, c.b * 0.97f}) * (1.0f - 0.9f);
-        return Colour {c.r * 0.9f + level, c.g * 0.9f + level, c.b * 0.873f + level}; // 0.873 = 0.97 x 0.9
+        const auto level = luminance(Colour{c.r, c.g, c.b * 0.97f}) * (1.0f - 0.9f);
+        return Colour{c.r * 0.9f + level, c.g * 0.9f + level, c.b * 0.873f + level}; // 0.873 = 0.97 x 0.9
     };
     forEachPixel(*this, Steps(levelled, saturated, warmed, muted));
 }

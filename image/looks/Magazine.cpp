@@ -34,5 +34,5 @@ void CharImage::applyMagazineFilter()
         const auto level = luminance(c) * (1.0f - 1.23f);
         return eachChannel(c, [=](auto v) { return v * 1.23f + level; });
     };
-    forEachPixel(*this, strengths, Steps(warmed, coloured), Stretch {0.001f, 0.01f, 0.0f, 255.0f, true, false});
+    forEachPixel(*this, strengths, Steps(warmed, coloured), Stretch{0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

@@ -26,5 +26,5 @@ void CharImage::applyMonoFilter()
         const auto share = [](float v, float weight) { return float(v * weight * per255); };
         return luminance(Rgb{share(c.r, p.gain[0]), share(c.g, p.gain[1]), share(c.b, p.gain[2])});
     };
-    forEachPixel(*this, weighted, Stretch {0.01f, 0.01f, 0.0f, 255.0f, true, true});
+    forEachPixel(*this, weighted, Stretch{0.01f, 0.01f, 0.0f, 255.0f, true, true});
 }

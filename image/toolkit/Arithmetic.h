@@ -16,8 +16,8 @@
 /// 1/255, the factor that stands for every division by 255.
 inline constexpr double per255 = 0.00392156862745098;
 
-/// One pixel's colour while it is worked on, each channel on 0 .. 255 (and beyond, until it is stored). A recipe that is
-/// written for any kind of channel can be tried with quicker ones first (Trial.h); Rgb is what it means.
+/// One pixel's colour while it is worked on, each channel on 0 .. 255 (and beyond, until it is stored). A recipe that
+/// is written for any kind of channel can be tried with quicker ones first (Trial.h); Rgb is what it means.
 template <class Channel> struct Colour {
     Channel r, g, b;
 };
@@ -34,7 +34,7 @@ inline Rgb grey(float level)
 /// The same function on each channel.
 template <class Channel, class Function> inline auto eachChannel(Colour<Channel> c, Function f)
 {
-    return Colour {f(c.r), f(c.g), f(c.b)};
+    return Colour{f(c.r), f(c.g), f(c.b)};
 }
 
 /// Where a recipe rounds a step in double.

@@ -107,7 +107,7 @@ struct Block : Planes {
     {
         storeBytes([&](int i) {
             const int level = toByte(r.at[i]);
-            return Colour {level, level, level};
+            return Colour{level, level, level};
         });
     }
 

@@ -7,8 +7,8 @@
 #include <limits>
 
 /// What is known of a value of a recipe: its exact evaluation and the one in Single both lie on low .. high, and are at
-/// most `error` apart. A recipe that is evaluated with these, over all that it may be given, shows how far its evaluation
-/// in Single may be off: forward error analysis on intervals.
+/// most `error` apart. A recipe that is evaluated with these, over all that it may be given, shows how far its
+/// evaluation in Single may be off: forward error analysis on intervals.
 struct ErrorBound {
     double low, high, error;
     bool isDouble; ///< the exact evaluation is at a step that it makes in double

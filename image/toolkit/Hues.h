@@ -110,33 +110,35 @@ inline Rgb rgbOf(Hsv c)
 inline Rgb withSaturationAndValueTimes(Rgb c, double saturation, double value)
 {
     const Hsv hsv = hsvOf(c);
-    return rgbOf(Hsv {hsv.h, float(hsv.s * saturation), float(hsv.v * value)});
+    return rgbOf(Hsv{hsv.h, float(hsv.s * saturation), float(hsv.v * value)});
 }
 
-/// What differs between channels by less is too near for a trial to tell how the conversion there and back ends: a hue next
-/// to a full turn may come out as magenta, and a value of 0 makes no saturation.
+/// What differs between channels by less is too near for a trial to tell how the conversion there and back ends: a hue
+/// next to a full turn may come out as magenta, and a value of 0 makes no saturation.
 inline constexpr float nearHue = 1.0f / 64.0f;
 
-/// The same without the way over the hue: every channel keeps its share of the distance from the largest one. Gives a whole
-/// number, on which no trial decides, where that would not be the same.
+/// The same without the way over the hue: every channel keeps its share of the distance from the largest one. Gives a
+/// whole number, on which no trial decides, where that would not be the same.
 inline Colour<Single> withSaturationAndValueTimes(Colour<Single> c, Single saturation, Single value)
 {
     const Single max = largest(c);
     const bool unclear = smaller(std::fabs(c.g.value - c.b.value), std::fabs(max.value)) < nearHue;
-    return eachChannel(c, [=](Single v) { return select(unclear, Single(255.0f), value * (max - saturation * (max - v))); });
+    return eachChannel(
+        c, [=](Single v) { return select(unclear, Single(255.0f), value * (max - saturation * (max - v))); });
 }
 
-/// The exact way rounds the hue 27 times half a last place at most, counted in sextants, and its other steps 12 times; the
-/// quotients cancel, so that all this stays in proportion to the largest channel and the factors. Their sum is less than
-/// 100 half places.
+/// The exact way rounds the hue 27 times half a last place at most, counted in sextants, and its other steps 12 times;
+/// the quotients cancel, so that all this stays in proportion to the largest channel and the factors. Their sum is less
+/// than 100 half places.
 inline Colour<ErrorBound> withSaturationAndValueTimes(Colour<ErrorBound> c, ErrorBound saturation, ErrorBound value)
 {
     const ErrorBound max = largest(c);
     const double magnitude = std::max({c.r.magnitude(), c.g.magnitude(), c.b.magnitude()});
     const double before = std::max({c.r.error, c.g.error, c.b.error});
     const bool clear = before < nearHue / 4 && magnitude < 1e4;
-    const double onTheWay = clear ? 100.0 * 0x1p-24 * magnitude * value.magnitude() * std::max(1.0, saturation.magnitude())
-                                  : std::numeric_limits<double>::infinity();
+    const double onTheWay = clear
+        ? 100.0 * 0x1p-24 * magnitude * value.magnitude() * std::max(1.0, saturation.magnitude())
+        : std::numeric_limits<double>::infinity();
     return eachChannel(c, [=](ErrorBound v) {
         ErrorBound fromLargest = max - v;
         fromLargest.low = 0.0;

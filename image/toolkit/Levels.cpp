@@ -42,7 +42,8 @@ constexpr std::size_t sampleStep = 10; ///< every tenth pixel is sampled
 constexpr std::size_t neverSampled = 11; ///< but none of the last ones
 
 /// Counts the luminances of the pixels that stand `step` apart, up to and not including the place `end`.
-void countLuminances(const unsigned char* pixels, std::size_t end, std::size_t step, GrowArray<int>* histogram, int* minLum)
+void countLuminances(
+    const unsigned char* pixels, std::size_t end, std::size_t step, GrowArray<int>* histogram, int* minLum)
 {
     int counts[256] = {};
     int lowest = 255, highest = -1;
@@ -68,7 +69,8 @@ ErrorBound Levels::operator()(ErrorBound v) const
 {
     const bool rising = scale >= 0.0f && scale < std::numeric_limits<float>::infinity() && floor >= 0.0f
         && floor <= ceiling && ceiling < 256.0f;
-    const ErrorBound range = rising ? ErrorBound((*this)(float(v.low)), (*this)(float(v.high))) : ErrorBound(0.0, 255.0);
+    const ErrorBound range =
+        rising ? ErrorBound((*this)(float(v.low)), (*this)(float(v.high))) : ErrorBound(0.0, 255.0);
     return {range.low, range.high, v.error == 0.0 ? 0.0 : std::numeric_limits<double>::infinity()};
 }
 

@@ -21,8 +21,8 @@ inline Rgb pixelAt(const unsigned char* pixel)
     return {float(pixel[0]), float(pixel[1]), float(pixel[2])};
 }
 
-/// Visits the image in blocks: `function(block, first, count)`, the pixels being `count` from the pixel `first` on.
-template <class Function> void forEachNumberedBlock(CharImage& image, Function function)
+/// Visits the image in blocks: `function(block)`.
+template <class Function> void forEachBlock(CharImage& image, Function function)
 {
     Block block;
     const std::size_t end = image.pixelCount();
@@ -30,15 +30,9 @@ template <class Function> void forEachNumberedBlock(CharImage& image, Function f
         unsigned char* pixels = image.data + first * 4;
         const int count = int(std::min<std::size_t>(blockPixels, end - first));
         block.read(pixels, count);
-        function(block, first, count);
+        function(block);
         block.write(pixels, count);
     }
-}
-
-/// The same where the place does not matter: `function(block)`.
-template <class Function> void forEachBlock(CharImage& image, Function function)
-{
-    forEachNumberedBlock(image, [&](Block& block, std::size_t, int) { function(block); });
 }
 
 /// Visits one row in blocks: `function(block, x)`, x being the column of the block's first pixel.
@@ -170,8 +164,8 @@ void passOver(CharImage& image, Source& source, const Recipe& recipe, ToByte toB
     forEachBlock(image, [&](Block& block) { work(block, source.fill(block)); });
 }
 
-/// A pass and fillHistogram after it, in one walk over the picture: the levels ask only for every tenth pixel, so that the
-/// pass over those comes first.
+/// A pass and fillHistogram after it, in one walk over the picture: the levels ask only for every tenth pixel, so that
+/// the pass over those comes first.
 template <class Source, class Recipe>
 void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stretch& stretch)
 {
@@ -180,11 +174,11 @@ void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stre
     GrowArray<int> histogram;
     int minLum;
     getHistogramOfSamples(samples, &histogram, &minLum);
-    passOver(image, source, recipe, LevelsOnBytes {levelsOf(histogram, minLum, stretch)});
+    passOver(image, source, recipe, LevelsOnBytes{levelsOf(histogram, minLum, stretch)});
 }
 
-/// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the others, the
-/// levels follow.
+/// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the others,
+/// the levels follow.
 template <class Function, class... Finish> void forEachPixel(CharImage& image, Function function, Finish... finish)
 {
     Colours source;
@@ -196,7 +190,7 @@ template <class Function, class... Finish>
 void forEachPixel(CharImage& image, const ChannelCurve& red, const ChannelCurve& green, const ChannelCurve& blue,
     Function function, Finish... finish)
 {
-    CurvedColours source {red, green, blue};
+    CurvedColours source{red, green, blue};
     passOver(image, source, stepsOf(function), finish...);
 }
 
@@ -204,22 +198,25 @@ void forEachPixel(CharImage& image, const ChannelCurve& red, const ChannelCurve&
 template <class Function, class... Finish>
 void forEachPixel(CharImage& image, const ToneTable& tones, Function function, Finish... finish)
 {
-    TonedColours source {tones};
+    TonedColours source{tones};
     passOver(image, source, stepsOf(function), finish...);
 }
 
-/// Each pixel becomes `function(colour, weight)`, the weight depending only on how far the pixel stands from a centre, a
-/// pixel of the image, across and down. `evaluate(plane, dx, dy)` fills a plane with the weights, 0 .. `heaviest`, for the
-/// distances across dx, dx + 1, ... and the distance down dy, once for the up to four pixels that mirror one another.
+/// Each pixel becomes `function(colour, weight)`, the weight depending only on how far the pixel stands from a centre,
+/// a pixel of the image, across and down. `evaluate(plane, dx, dy)` fills a plane with the weights, 0 .. `heaviest`,
+/// for the distances across dx, dx + 1, ... and the distance down dy, once for the up to four pixels that mirror one
+/// another.
 template <class Evaluate, class Function>
 void forEachPixelAround(
     CharImage& image, int centreX, int centreY, float heaviest, Evaluate evaluate, Function function)
 {
-    const auto inWholeBlocks = [](int count) { return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels; };
+    const auto inWholeBlocks = [](int count) {
+        return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels;
+    };
     const int reachX = std::max(centreX, image.width - 1 - centreX);
     const int reachY = std::max(centreY, image.height - 1 - centreY);
     std::vector<float> half(inWholeBlocks(reachX + 1)), row(inWholeBlocks(image.width));
-    Inputs inputs = Colours {}.inputs();
+    Inputs inputs = Colours{}.inputs();
     inputs.weight = {0.0, heaviest};
     const BlockWork work(stepsOf(function), inputs);
     const auto workRow = [&](int y) {

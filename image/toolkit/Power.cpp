@@ -21,8 +21,8 @@ struct Power {
     double unsure; ///< the part of the value by which the library's may be another before it is rounded
 };
 
-/// The part of a result of this logarithm, to the base 2, by which the library may err before it rounds: its logarithm is
-/// good to 1.83 x 2^-33, its power of 2 to 1.69 x 2^-34. Extreme results are not made here.
+/// The part of a result of this logarithm, to the base 2, by which the library may err before it rounds: its logarithm
+/// is good to 1.83 x 2^-33, its power of 2 to 1.69 x 2^-34. Extreme results are not made here.
 inline double libraryError(double log)
 {
     return std::fabs(log) < 60.0 ? 0x1p-31 + std::fabs(log) * 0x1p-32 : std::numeric_limits<double>::infinity();
@@ -83,7 +83,8 @@ inline Power sesquiPowerOf(float base)
     return productOf(base, 1.5, [](double x) { return x * std::sqrt(x); });
 }
 
-/// Both ends of where the library's result may lie. They round to the same float unless the middle between two lies there.
+/// Both ends of where the library's result may lie. They round to the same float unless the middle between two lies
+/// there.
 struct Rounded {
     float below, above;
 };
@@ -139,13 +140,10 @@ void raise(Plane& values, float exponent)
     if (exponent == 1.5f)
         raiseBy(values, exponent, [](float base) { return sesquiPowerOf(base); });
     else if (exponent == 3.0f)
-        raiseBy(values, exponent, [](float base) {
-            return productOf(base, 3.0, [](double x) { return x * x * x; });
-        });
+        raiseBy(values, exponent, [](float base) { return productOf(base, 3.0, [](double x) { return x * x * x; }); });
     else if (exponent == 5.0f)
-        raiseBy(values, exponent, [](float base) {
-            return productOf(base, 5.0, [](double x) { return x * x * (x * x) * x; });
-        });
+        raiseBy(values, exponent,
+            [](float base) { return productOf(base, 5.0, [](double x) { return x * x * (x * x) * x; }); });
     else
         raiseBy(values, exponent, [=](float base) { return powerOf(base, exponent); });
 }

@@ -53,12 +53,12 @@ inline Colour<Channel> applied(const Steps<Step...>& steps, Colour<Channel> c, c
 /// Whether a recipe is written for this kind of channel, and weights of that kind.
 template <class Channel, class Recipe> inline constexpr bool isMadeFor = false;
 template <class Channel, class... Step>
-inline constexpr bool isMadeFor<Channel, Steps<Step...>>
-    = ((std::is_invocable_v<const Step&, Colour<Channel>> || std::is_invocable_v<const Step&, Colour<Channel>, Channel>)
-        && ...);
+inline constexpr bool isMadeFor<Channel, Steps<Step...>> = ((
+    std::is_invocable_v<const Step&,
+        Colour<Channel>> || std::is_invocable_v<const Step&, Colour<Channel>, Channel>)&&...);
 
 /// Whether a recipe gives a neutral colour as one float: its only step does.
 template <class Recipe> inline constexpr bool isNeutral = false;
 template <class Step>
-inline constexpr bool isNeutral<Steps<Step>> = std::is_same_v<
-    decltype(applied(std::declval<const Step&>(), Rgb {}, std::declval<const float*>(), 0)), float>;
+inline constexpr bool isNeutral<Steps<Step>> =
+    std::is_same_v<decltype(applied(std::declval<const Step&>(), Rgb{}, std::declval<const float*>(), 0)), float>;

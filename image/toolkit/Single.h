@@ -2,8 +2,8 @@
 
 #include "image/toolkit/Arithmetic.h"
 
-/// A channel or a share while a recipe is tried: every step is made in single precision, also those that the recipe itself
-/// makes in double. Vector code does twice as many of them at once.
+/// A channel or a share while a recipe is tried: every step is made in single precision, also those that the recipe
+/// itself makes in double. Vector code does twice as many of them at once.
 struct Single {
     float value;
 
@@ -41,7 +41,7 @@ inline Single select(bool condition, Single yes, Single no)
 
 inline Single byteLuminance(Colour<Single> c)
 {
-    return byteLuminance(Rgb {c.r.value, c.g.value, c.b.value});
+    return byteLuminance(Rgb{c.r.value, c.g.value, c.b.value});
 }
 
 // The forms that cost least; ErrorBound.h knows them.

@@ -8,9 +8,10 @@
 #include <algorithm>
 
 // A recipe that makes some steps in double costs vector code twice the time. Such a recipe is tried in single precision
-// throughout. Where the result stands so near to a whole number that the exact result might stand on the other side, the
-// exact recipe decides, so that the bytes are always the exact ones. How near that is follows from the recipe itself. The
-// technique is that of the static floating-point filters of computational geometry (Fortune and Van Wyk, 1993).
+// throughout. Where the result stands so near to a whole number that the exact result might stand on the other side,
+// the exact recipe decides, so that the bytes are always the exact ones. How near that is follows from the recipe
+// itself. The technique is that of the static floating-point filters of computational geometry (Fortune and Van Wyk,
+// 1993).
 
 /// What a picture may hold in a channel, in a few ranges: the narrower they are, the closer are the bounds.
 inline constexpr int rangesPerChannel = 4;
@@ -49,23 +50,25 @@ struct Inputs {
 inline constexpr int partBits = 14, partsOfOne = 1 << partBits;
 inline constexpr double largestResult = 2147483647.0 / partsOfOne;
 
-/// How far the trial of a recipe may be off in a channel; infinite where a trial is out of the question.
+/// Errors up to which a trial saves time.
+inline constexpr double tolerableError = 0.05;
+
+/// How far the trial of a recipe may be off in a channel; infinite where it is not worth while.
 template <class... Step> double errorOf(const Steps<Step...>& steps, const Inputs& inputs)
 {
     double error = 0.0;
     for (const ErrorBound r : inputs.red.at)
         for (const ErrorBound g : inputs.green.at)
             for (const ErrorBound b : inputs.blue.at) {
-                const Colour<ErrorBound> c = applied(steps, Colour {r, g, b}, &inputs.weight, 0);
-                for (const ErrorBound v : {c.r, c.g, c.b})
-                    error = v.magnitude() < largestResult ? std::max(error, v.error)
-                                                          : std::numeric_limits<double>::infinity();
+                const Colour<ErrorBound> c = applied(steps, Colour{r, g, b}, &inputs.weight, 0);
+                for (const ErrorBound v : {c.r, c.g, c.b}) {
+                    if (!(v.magnitude() < largestResult && v.error < tolerableError))
+                        return std::numeric_limits<double>::infinity();
+                    error = std::max(error, v.error);
+                }
             }
     return error;
 }
-
-/// Errors up to which a trial saves time.
-inline constexpr double tolerableError = 0.05;
 
 /// A result in parts, held at 0.5 and 255.5: beyond them the byte is certain.
 inline constexpr auto inParts = [](float v) {
@@ -95,7 +98,8 @@ struct UnsurePixels {
 
 /// The exact recipe for these pixels.
 template <class... Step, class ToByte>
-void decideExactly(Block& block, const UnsurePixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
+void decideExactly(
+    Block& block, const UnsurePixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
 {
     constexpr int together = UnsurePixels::together;
     for (int first = 0; first < pixels.count; first += together) {
@@ -121,8 +125,8 @@ void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, d
     steps.forEach([&](const auto& step) {
         for (int i = 0; i < blockPixels; i++) {
             const Rgb before = from->colour(i);
-            const Colour<Single> c
-                = applied(step, Colour<Single> {before.r, before.g, before.b}, SingleWeights {weights}, i);
+            const Colour<Single> c =
+                applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights}, i);
             trial.setColour(i, {c.r.value, c.g.value, c.b.value});
         }
         from = &trial;
@@ -132,8 +136,7 @@ void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, d
     alignas(64) unsigned char unsure[blockPixels];
     block.storeBytes([&](int i) {
         const Colour<int> parts = eachChannel(trial.colour(i), inParts);
-        const Colour<int> beyondWhole
-            = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
+        const Colour<int> beyondWhole = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
         unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
         return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
     });

@@ -13,8 +13,8 @@ int softeningSize(int side)
     return size >= 7.0 ? 7 : int(size);
 }
 
-/// How far pixels are darkened, 0 .. 1, `t` running from 0 at the inner to 1 at the outer radius: `t` becomes it. Within
-/// the inner radius it is 0.
+/// How far pixels are darkened, 0 .. 1, `t` running from 0 at the inner to 1 at the outer radius: `t` becomes it.
+/// Within the inner radius it is 0.
 void becomeDarkness(Plane& t, float exponent, float strength)
 {
     if (std::all_of(t.at, t.at + blockPixels, [](float place) { return place < 0.0f; })) {
@@ -82,8 +82,8 @@ void CharImage::vignette(
             const float w = softness(t.at[i]);
             const Rgb c = block.colour(i), b = pixelAt(soft + i * bytesPerPixel);
             if (w > 0.0f)
-                block.setColour(i,
-                    {(1.0f - w) * c.r + w * b.r, (1.0f - w) * c.g + w * b.g, (1.0f - w) * c.b + w * b.b});
+                block.setColour(
+                    i, {(1.0f - w) * c.r + w * b.r, (1.0f - w) * c.g + w * b.g, (1.0f - w) * c.b + w * b.b});
         }
         workBlock(block, stepsOf([=](Rgb c, float darkness) { return darken(c, luminance(c), darkness); }), dark.at);
     };

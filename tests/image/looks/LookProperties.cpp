@@ -46,8 +46,8 @@ Picture sampledPicture(ByteColour dark, ByteColour bright)
     return picture;
 }
 
-void expectBeforeLevels(int filter, ByteColour colour, ByteColour expected, ByteColour blackBecomes, ByteColour whiteBecomes,
-    const std::function<void(Picture&)>& levels)
+void expectBeforeLevels(int filter, ByteColour colour, ByteColour expected, ByteColour blackBecomes,
+    ByteColour whiteBecomes, const std::function<void(Picture&)>& levels)
 {
     CharImage::useRandom = 0;
     Picture picture = sampledPicture({0, 0, 0}, {255, 255, 255});

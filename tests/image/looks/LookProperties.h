@@ -20,8 +20,8 @@ Picture sampledPicture(ByteColour dark, ByteColour bright);
 /// What a look makes of `colour` in a picture whose sampled pixels are black and white, when the look ends with a
 /// levels step: `expected` is the colour before that step, `blackBecomes` and `whiteBecomes` those of the sampled ones,
 /// and `levels` the step.
-void expectBeforeLevels(int filter, ByteColour colour, ByteColour expected, ByteColour blackBecomes, ByteColour whiteBecomes,
-    const std::function<void(Picture&)>& levels);
+void expectBeforeLevels(int filter, ByteColour colour, ByteColour expected, ByteColour blackBecomes,
+    ByteColour whiteBecomes, const std::function<void(Picture&)>& levels);
 
 /// What a look that begins with the levels step makes of a pixel that is `colour` after it. `levels` is the step on the
 /// engine; the sampled greys are chosen so that `colour` can come out of it.

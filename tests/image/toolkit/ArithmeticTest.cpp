@@ -29,7 +29,8 @@ TEST(Arithmetic, GivesOneLuminancePerWholeTone)
     for (int r = 0; r < 256; r++)
         for (int g = 0; g < 256; g++)
             for (int b = 0; b < 256; b++)
-                ASSERT_EQ(luminance(Rgb{float(r), float(g), float(b)}), ToneTable::luminanceOf(30 * r + 59 * g + 11 * b))
+                ASSERT_EQ(
+                    luminance(Rgb{float(r), float(g), float(b)}), ToneTable::luminanceOf(30 * r + 59 * g + 11 * b))
                     << r << " " << g << " " << b;
 }
 

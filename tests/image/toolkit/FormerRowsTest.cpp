@@ -8,9 +8,7 @@ TEST(FormerRows, StayAsTheyWereForAsLongAsTheyAreKept)
     const Picture before = randomPicture(7, 12, 5);
     const auto image = imageOf(before);
     FormerRows rows(*image, 3);
-    const auto expectAsBefore = [&](int y) {
-        EXPECT_EQ(std::memcmp(rows.table()[y], before.at(0, y), 7 * 4), 0) << y;
-    };
+    const auto expectAsBefore = [&](int y) { EXPECT_EQ(std::memcmp(rows.table()[y], before.at(0, y), 7 * 4), 0) << y; };
     for (int y = 11; y >= 0; y--) {
         rows.keep(y);
         std::memset(image->data + y * 7 * 4, 0, 7 * 4);

@@ -37,7 +37,7 @@ template <class... Step> void expectErrorHolds(const Steps<Step...>& steps)
             c.g = c.b; // hues and extremes that meet
         const float weight = float(random() % 1001) * 0.001f * heaviest;
         const Rgb exact = applied(steps, c, &weight, 0);
-        const Colour<Single> tried = applied(steps, Colour<Single> {c.r, c.g, c.b}, SingleWeights {&weight}, 0);
+        const Colour<Single> tried = applied(steps, Colour<Single>{c.r, c.g, c.b}, SingleWeights{&weight}, 0);
         for (const auto& [wanted, got] :
             {std::pair(exact.r, tried.r.value), std::pair(exact.g, tried.g.value), std::pair(exact.b, tried.b.value)}) {
             const double off = std::fabs(double(wanted) - double(got));
@@ -117,10 +117,10 @@ TEST(Trial, LeavesTheUnclearHuesToTheExactRecipe)
 {
     // Neutral colours, a hue that falls short of a full turn by a hair, and a value of 0.
     const Single half = 0.5f, more = 1.2f;
-    for (const Colour<Single>& c : {Colour<Single> {90.0f, 40.0f, 40.0f}, Colour<Single> {90.0f, 40.0f, 40.001f},
-             Colour<Single> {70.0f, 70.0f, 70.0f}, Colour<Single> {0.0f, -20.0f, -30.0f}})
+    for (const Colour<Single>& c : {Colour<Single>{90.0f, 40.0f, 40.0f}, Colour<Single>{90.0f, 40.0f, 40.001f},
+             Colour<Single>{70.0f, 70.0f, 70.0f}, Colour<Single>{0.0f, -20.0f, -30.0f}})
         EXPECT_EQ(withSaturationAndValueTimes(c, more, half).r.value, 255.0f);
-    EXPECT_NE(withSaturationAndValueTimes(Colour<Single> {90.0f, 40.0f, 50.0f}, more, half).r.value, 255.0f);
+    EXPECT_NE(withSaturationAndValueTimes(Colour<Single>{90.0f, 40.0f, 50.0f}, more, half).r.value, 255.0f);
 }
 
 TEST(Trial, GivesUpWhereABoundIsOutOfReach)
@@ -131,15 +131,16 @@ TEST(Trial, GivesUpWhereABoundIsOutOfReach)
         return eachChannel(c, [=](auto v) { return select(level < 128.0f, v, v * 2.0f); });
     };
     EXPECT_EQ(errorOf(Steps(compared), bytes(1.0f)), infinite);
-    EXPECT_EQ(errorOf(Steps(tenths, [](auto c) {
-        return eachChannel(c, [level = byteLuminance(c)](auto) { return level; });
-    }), bytes(1.0f)), infinite);
+    EXPECT_EQ(errorOf(Steps(tenths,
+                          [](auto c) { return eachChannel(c, [level = byteLuminance(c)](auto) { return level; }); }),
+                  bytes(1.0f)),
+        infinite);
     const Levels levels = {12.0f, 1.7f, 5.0f, 5.0f, 255.0f};
     EXPECT_EQ(errorOf(Steps(tenths, [=](auto c) { return eachChannel(c, levels); }), bytes(1.0f)), infinite);
     // A root steepens without end towards 0, and parts of 1 no longer fit an int.
-    EXPECT_EQ(errorOf(Steps([](auto c) {
-        return eachChannel(c, [](auto v) { return sesquiPower(v - 1.0f); });
-    }), bytes(1.0f)), infinite);
+    EXPECT_EQ(errorOf(Steps([](auto c) { return eachChannel(c, [](auto v) { return sesquiPower(v - 1.0f); }); }),
+                  bytes(1.0f)),
+        infinite);
     EXPECT_EQ(errorOf(Steps([](auto c) { return eachChannel(c, [](auto v) { return v * 1000.0f; }); }), bytes(1.0f)),
         infinite);
 }
@@ -167,7 +168,7 @@ TEST(Trial, CollectsThePixelsOnWhichItDoesNotDecide)
     const UnsurePixels pixels(marked);
     ASSERT_EQ(pixels.count, 5);
     for (int k = 0; k < 5; k++)
-        EXPECT_EQ(pixels.at[k], (std::array {0, 7, 8, 100, 255})[std::size_t(k)]);
+        EXPECT_EQ(pixels.at[k], (std::array{0, 7, 8, 100, 255})[std::size_t(k)]);
     for (unsigned char& mark : marked)
         mark = 1;
     EXPECT_EQ(UnsurePixels(marked).count, blockPixels);
