@@ -35,17 +35,27 @@ template <class Function> void forEachBlock(CharImage& image, Function function)
     }
 }
 
-/// Visits one row in blocks: `function(block, x)`, x being the column of the block's first pixel.
-template <class Function> void forEachBlockOfRow(CharImage& image, int y, Function function)
+/// Visits those blocks of a row that `wanted(x)`: `function(block, x)`, x being the column of the block's first pixel.
+template <class Wanted, class Function>
+void forEachBlockOfRow(CharImage& image, int y, Wanted wanted, Function function)
 {
     Block block;
     for (int x = 0; x < image.width; x += blockPixels) {
+        if (!wanted(x))
+            continue;
         unsigned char* pixels = image.data + (std::size_t(y) * image.width + x) * 4;
         const int count = std::min(blockPixels, image.width - x);
         block.read(pixels, count);
         function(block, x);
         block.write(pixels, count);
     }
+}
+
+/// Visits one row in blocks.
+template <class Function> void forEachBlockOfRow(CharImage& image, int y, Function function)
+{
+    forEachBlockOfRow(
+        image, y, [](int) { return true; }, function);
 }
 
 /// Works `function(colour, i)` into the planes of a block.
@@ -205,10 +215,10 @@ void forEachPixel(CharImage& image, const ToneTable& tones, Function function, F
 /// Each pixel becomes `function(colour, weight)`, the weight depending only on how far the pixel stands from a centre,
 /// a pixel of the image, across and down. `evaluate(plane, dx, dy)` fills a plane with the weights, 0 .. `heaviest`,
 /// for the distances across dx, dx + 1, ... and the distance down dy, once for the up to four pixels that mirror one
-/// another.
+/// another. Where a weight of 0 `keepsPixels`, blocks without another weight are passed over.
 template <class Evaluate, class Function>
-void forEachPixelAround(
-    CharImage& image, int centreX, int centreY, float heaviest, Evaluate evaluate, Function function)
+void forEachPixelAround(CharImage& image, int centreX, int centreY, float heaviest, Evaluate evaluate,
+    Function function, bool keepsPixels = false)
 {
     const auto inWholeBlocks = [](int count) {
         return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels;
@@ -220,7 +230,11 @@ void forEachPixelAround(
     inputs.weight = {0.0, heaviest};
     const BlockWork work(stepsOf(function), inputs);
     const auto workRow = [&](int y) {
-        forEachBlockOfRow(image, y, [&](Block& block, int x) {
+        const auto changes = [&](int x) {
+            const float *first = row.data() + x, *end = first + blockPixels;
+            return !keepsPixels || std::any_of(first, end, [](float weight) { return weight != 0.0f; });
+        };
+        forEachBlockOfRow(image, y, changes, [&](Block& block, int x) {
             block.fillPlanes();
             work(block, row.data() + x);
         });

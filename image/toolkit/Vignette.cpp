@@ -64,7 +64,8 @@ void CharImage::vignette(
             becomeDarkness(weights, exponent, strength);
         };
         forEachPixelAround(
-            *this, cx, cy, 1.0f, darknessAt, [=](Rgb c, float dark) { return darken(c, byteLuminance(c), dark); });
+            *this, cx, cy, 1.0f, darknessAt, [=](Rgb c, float dark) { return darken(c, byteLuminance(c), dark); },
+            true);
         return;
     }
 
