@@ -8,7 +8,7 @@
 #include "image/toolkit/Trial.h"
 
 #include <algorithm>
-#include <type_traits>
+#include <limits>
 #include <vector>
 
 // Passes over the pixels of an image. A look gives what happens to one pixel; the loops and the byte conversions live
@@ -102,31 +102,24 @@ void workBlock(Block& block, const Recipe& recipe, const float* weights, ToByte 
         block.storePlanes(toByte);
 }
 
-/// A recipe and how to work it into the bytes of a block whose planes are filled. One that is written for any kind of
-/// channel is tried first.
-template <class Recipe, class ToByte = NoLevels> class BlockWork {
-public:
-    BlockWork(const Recipe& recipe, const Inputs& inputs, ToByte toByte = {})
-        : m_recipe(recipe)
-        , m_toByte(toByte)
-    {
-        if constexpr (isMadeFor<Single, Recipe>)
-            m_error = errorOf(recipe, inputs);
-    }
+/// How far a trial of the recipe may be off; infinite for one that is not written for any kind of channel.
+template <class Recipe> double errorOfTrial(const Recipe& recipe, const Inputs& inputs)
+{
+    if constexpr (isMadeFor<Single, Recipe>)
+        return errorOf(recipe, inputs);
+    else
+        return std::numeric_limits<double>::infinity();
+}
 
-    void operator()(Block& block, const float* weights) const
-    {
-        if constexpr (isMadeFor<Single, Recipe>)
-            if (m_error < tolerableError)
-                return tryBlock(block, m_recipe, weights, m_error, m_toByte);
-        workBlock(block, m_recipe, weights, m_toByte);
-    }
-
-private:
-    Recipe m_recipe;
-    ToByte m_toByte;
-    double m_error = 0.0;
-};
+/// Works a recipe into the bytes of a block whose planes are filled, with a trial where that is worth while.
+template <class Recipe, class ToByte = NoLevels>
+void tryOrWork(Block& block, const Recipe& recipe, const float* weights, double error, ToByte toByte = {})
+{
+    if constexpr (isMadeFor<Single, Recipe>)
+        if (error < tolerableError)
+            return tryBlock(block, recipe, weights, error, toByte);
+    workBlock(block, recipe, weights, toByte);
+}
 
 /// What a pass starts from: fills the planes of a block with its colours, and gives the weights of its pixels.
 struct Colours {
@@ -167,11 +160,11 @@ struct TonedColours {
     }
 };
 
-template <class Source, class Recipe, class ToByte = NoLevels>
-void passOver(CharImage& image, Source& source, const Recipe& recipe, ToByte toByte = {})
+/// Each pixel becomes what the recipe makes of it.
+template <class Source, class Recipe> void passOver(CharImage& image, Source& source, const Recipe& recipe)
 {
-    const BlockWork work(recipe, source.inputs(), toByte);
-    forEachBlock(image, [&](Block& block) { work(block, source.fill(block)); });
+    const double error = errorOfTrial(recipe, source.inputs());
+    forEachBlock(image, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error); });
 }
 
 /// A pass and fillHistogram after it, in one walk over the picture: the levels ask only for every tenth pixel, so that
@@ -179,12 +172,14 @@ void passOver(CharImage& image, Source& source, const Recipe& recipe, ToByte toB
 template <class Source, class Recipe>
 void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stretch& stretch)
 {
+    const double error = errorOfTrial(recipe, source.inputs());
     CharImage samples = sampledPixels(image);
-    passOver(samples, source, recipe);
+    forEachBlock(samples, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error); });
     GrowArray<int> histogram;
     int minLum;
     getHistogramOfSamples(samples, &histogram, &minLum);
-    passOver(image, source, recipe, LevelsOnBytes{levelsOf(histogram, minLum, stretch)});
+    const LevelsOnBytes levels = {levelsOf(histogram, minLum, stretch)};
+    forEachBlock(image, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error, levels); });
 }
 
 /// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the others,
@@ -228,7 +223,8 @@ void forEachPixelAround(CharImage& image, int centreX, int centreY, float heavie
     std::vector<float> half(inWholeBlocks(reachX + 1)), row(inWholeBlocks(image.width));
     Inputs inputs = Colours{}.inputs();
     inputs.weight = {0.0, heaviest};
-    const BlockWork work(stepsOf(function), inputs);
+    const auto recipe = stepsOf(function);
+    const double error = errorOfTrial(recipe, inputs);
     const auto workRow = [&](int y) {
         const auto changes = [&](int x) {
             const float *first = row.data() + x, *end = first + blockPixels;
@@ -236,7 +232,7 @@ void forEachPixelAround(CharImage& image, int centreX, int centreY, float heavie
         };
         forEachBlockOfRow(image, y, changes, [&](Block& block, int x) {
             block.fillPlanes();
-            work(block, row.data() + x);
+            tryOrWork(block, recipe, row.data() + x, error);
         });
     };
     for (int dy = 0; dy <= reachY; dy++) {
