@@ -227,8 +227,10 @@ void forEachPixelAround(CharImage& image, int centreX, int centreY, float heavie
     const double error = errorOfTrial(recipe, inputs);
     const auto workRow = [&](int y) {
         const auto changes = [&](int x) {
-            const float *first = row.data() + x, *end = first + blockPixels;
-            return !keepsPixels || std::any_of(first, end, [](float weight) { return weight != 0.0f; });
+            int found = keepsPixels ? 0 : 1;
+            for (int i = 0; i < blockPixels; i++)
+                found |= row[std::size_t(x + i)] != 0.0f;
+            return found != 0;
         };
         forEachBlockOfRow(image, y, changes, [&](Block& block, int x) {
             block.fillPlanes();

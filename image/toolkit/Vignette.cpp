@@ -17,7 +17,10 @@ int softeningSize(int side)
 /// Within the inner radius it is 0.
 void becomeDarkness(Plane& t, float exponent, float strength)
 {
-    if (std::all_of(t.at, t.at + blockPixels, [](float place) { return place < 0.0f; })) {
+    int reached = 0;
+    for (int i = 0; i < blockPixels; i++)
+        reached |= !(t.at[i] < 0.0f);
+    if (!reached) {
         t = {};
         return;
     }
