@@ -18,9 +18,6 @@ void CharImage::applyArcticFilter()
         c = {c.r * 0.63f + t * 14.8f, c.g * 0.63f + t * 14.8f, c.b * 0.63f + t * 59.2f};
         return partedTones(c, lum < pivot, strength);
     };
-    const auto coloured = [](auto c) {
-        const auto level = luminance(c) * -(1.1f - 1.0f);
-        return eachChannel(c, [=](auto v) { return v * 1.1f + level; });
-    };
+    const auto coloured = [](auto c) { return withSaturation(c, 1.1f); };
     forEachPixel(*this, strengths, Steps(bleached, coloured), Stretch{0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

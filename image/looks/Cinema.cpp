@@ -30,10 +30,7 @@ void CharImage::applyCinemaFilter()
         c = eachChannel(c, [=](auto v) { return withShareTimes(v, boost, 1.5f); });
         return eachChannel(c, [](auto v) { return withContrast(v, 1.1f); });
     };
-    const auto muted = [](auto c) {
-        const auto level = luminance(c) * (1.0f - 0.85f);
-        return eachChannel(c, [=](auto v) { return v * 0.85f + level; });
-    };
+    const auto muted = [](auto c) { return withSaturation(c, 0.85f); };
     const auto tinted = [=](auto c) {
         const auto l = rounded(luminance(c) * per255);
         const auto towards = [=](auto v, float t) { return withDoubledCast(v, p.weight, p.weight * (t * l)); };

@@ -35,8 +35,7 @@ void tintAndMute(CharImage& image, const HelgaParameters& p)
         return Colour{towards(c.r, p.tint[0]), towards(c.g, p.tint[1]), towards(c.b, p.tint[2])};
     };
     const auto muted = [](auto c) {
-        const auto level = luminance(c) * (1.0f - 0.6f);
-        c = eachChannel(c, [=](auto v) { return v * 0.6f + level; });
+        c = withSaturation(c, 0.6f);
         return Colour{rounded(c.r * 280.0f * per255), rounded(c.g * 275.0f * per255), rounded(c.b * 255.0f * per255)};
     };
     forEachPixel(image, Steps(tinted, muted), Stretch{0.001f, 0.001f, float(p.lowLevel), 255.0f, true, true});
@@ -71,7 +70,7 @@ void CharImage::applyHelgaFilter()
     // Saturation may pass 1: the black floor catches it.
     const auto darkened = [](auto c, auto e) { return withSaturationAndValueTimes(c, 1.0 + 0.4 * e, 1.0 - e); };
     // Half a step more than the floor makes no other byte, and no trial can be in doubt of it.
-    const auto floored = [floor = p.blackFloor + 0.5f](
-                             auto c) { return eachChannel(c, [=](auto v) { return notBelow(v, floor); }); };
+    const float floor = float(p.blackFloor) + 0.5f;
+    const auto floored = [=](auto c) { return eachChannel(c, [=](auto v) { return notBelow(v, floor); }); };
     forEachPixelAround(*this, width / 2, height / 2, 1.0f, fallOffAt, Steps(contrasted, lifted, darkened, floored));
 }

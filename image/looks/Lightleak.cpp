@@ -66,10 +66,7 @@ void CharImage::applyLightleakFilter()
         return Colour{
             castBy(c.r, a, l, 117.0f) + 20.0f, castBy(c.g, a, l, 67.0f) + 20.0f, castBy(c.b, a, l, 110.0f) + 20.0f};
     };
-    const auto muted = [](auto c) {
-        const auto m = luminance(c) * (1.0f - 0.9f);
-        return eachChannel(c, [=](auto v) { return v * 0.9f + m; });
-    };
+    const auto muted = [](auto c) { return withSaturation(c, 0.9f); };
     const auto glowing = [](auto c, auto g) {
         const auto l = brightness(c);
         return Colour{castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};

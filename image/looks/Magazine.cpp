@@ -30,9 +30,6 @@ void CharImage::applyMagazineFilter()
         c = {towards(c.r, 232.0f), towards(c.g, 135.0f), towards(c.b, 44.0f)};
         return partedTones(c, lum < p.pivot, strength);
     };
-    const auto coloured = [](auto c) {
-        const auto level = luminance(c) * (1.0f - 1.23f);
-        return eachChannel(c, [=](auto v) { return v * 1.23f + level; });
-    };
+    const auto coloured = [](auto c) { return withSaturation(c, 1.23f); };
     forEachPixel(*this, strengths, Steps(warmed, coloured), Stretch{0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }

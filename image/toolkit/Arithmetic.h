@@ -102,6 +102,13 @@ template <class Channel, class Gain> inline Channel withShareTimes(Channel v, Ch
     return rounded(v * (1.0f - share) + v * share * gain);
 }
 
+/// Moves a colour towards its grey, or away from it for a `saturation` above 1.
+template <class Channel> inline Colour<Channel> withSaturation(Colour<Channel> c, float saturation)
+{
+    const Channel level = luminance(c) * (1.0f - saturation);
+    return eachChannel(c, [=](Channel v) { return v * saturation + level; });
+}
+
 /// Contrast about the middle of the channel.
 template <class Channel, class Gain> inline Channel withContrast(Channel v, Gain gain)
 {
