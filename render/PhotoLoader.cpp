@@ -87,14 +87,12 @@ int bytesPerPixel(QImage::Format format)
 QString sizeRefusal(const QSize& size, int bytesPerPixel)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
-    const QString sides = text("%1 x %2 pixels").arg(size.width()).arg(size.height());
     if (pixels > maxPhotoPixels)
-        return text("The picture is too large: %1. At most %2 megapixels can be opened.")
-            .arg(sides)
+        return text("The picture is too large: %1 x %2 pixels. At most %3 megapixels can be opened.")
+            .arg(size.width())
+            .arg(size.height())
             .arg(maxPhotoPixels / 1000000);
-    if (pixels * bytesPerPixel > freeMemory() / blocksPerPhoto)
-        return text("There is not enough free memory for a picture of %1.").arg(sides);
-    return {};
+    return pixels * bytesPerPixel > freeMemory() / blocksPerPhoto ? memoryRefusal(size) : QString();
 }
 
 /// Formats of the platform that hold drawings and icons rather than photos. The icons' decoder allocates whatever a file
