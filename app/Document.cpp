@@ -7,15 +7,27 @@
 #include <QColorSpace>
 #include <QFileInfo>
 #include <QTransform>
+#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 constexpr qint64 largeFile = 2'000'000; ///< bytes; a smaller one is decoded in a moment
+constexpr int longestStrip = 10; ///< how many times as long as broad a thumbnail copy may be
 
 QImage scaledTo(const QImage& image, const QSize& size)
 {
     return image.size() == size ? image : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// The middle of a long strip, all of any other picture. A thumbnail shows no more than the middle, in a square as large
+/// as its copy is long: those of whole strips would take gigabytes.
+QImage middleOf(const QImage& image)
+{
+    const int longest = std::min(image.width(), image.height()) * longestStrip;
+    QRect middle(QPoint(), image.size().boundedTo({longest, longest}));
+    middle.moveCenter(image.rect().center());
+    return middle == image.rect() ? image : image.copy(middle);
 }
 
 } // namespace
@@ -69,7 +81,8 @@ void MainWindowController::setoriginalImage(const QImage& image)
     const QSize size = image.size();
     originalDisplay = scaledTo(image, bitmapSize(displaySize(size, displayRes)));
     // Points of a sharp screen are several pixels.
-    originalThumb = scaledTo(image, bitmapSize(thumbnailSize(size) * devicePixelRatioF()));
+    const QImage middle = middleOf(image);
+    originalThumb = scaledTo(middle, bitmapSize(thumbnailSize(middle.size()) * devicePixelRatioF()));
     ui->mainImageView->setComparedImage(originalDisplay);
 }
 

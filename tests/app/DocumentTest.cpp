@@ -50,6 +50,33 @@ private slots:
         QCOMPARE(desk.window.getoriginalDisplay().size(), QSize(640, 480));
     }
 
+    void thumbnailsOfAStripShowItsMiddle_data()
+    {
+        QTest::addColumn<QSize>("photo");
+        QTest::addColumn<QSize>("thumbnailCopy");
+        QTest::newRow("as long as may be") << QSize(4, 40) << QSize(100, 1000);
+        QTest::newRow("high") << QSize(1, 65535) << QSize(100, 1000);
+        QTest::newRow("wide") << QSize(65535, 1) << QSize(1000, 100);
+    }
+    void thumbnailsOfAStripShowItsMiddle()
+    {
+        QFETCH(QSize, photo);
+        QFETCH(QSize, thumbnailCopy);
+        // Black with a white middle.
+        QImage strip(photo, QImage::Format_RGB32);
+        strip.fill(Qt::black);
+        const QSize part = photo.width() > photo.height() ? QSize(11, photo.height()) : QSize(photo.width(), 11);
+        QRect middle(QPoint(), part.boundedTo(photo));
+        middle.moveCenter(strip.rect().center());
+        for (int y = middle.top(); y <= middle.bottom(); y++)
+            for (int x = middle.left(); x <= middle.right(); x++)
+                strip.setPixel(x, y, 0xFFFFFFFF);
+        Desk desk(strip);
+        QCOMPARE(desk.window.getoriginalThumb().size(), thumbnailCopy);
+        const QImage icon = desk.find<QToolButton>("btnOriginal")->icon().pixmap(64).toImage();
+        QCOMPARE(icon.pixel(icon.rect().center()), 0xFFFFFFFF);
+    }
+
     void loadingShowsThePhotoAndItsName()
     {
         Desk desk;
