@@ -116,7 +116,11 @@ void MainWindowController::flattenImage()
     const Work work(*this, stepsOfRender() + 2, takesLong(originalImage));
     if (!work || originalImage.isNull())
         return;
-    setoriginalImage(saveMultipleFilters(false));
+    QString reason;
+    const QImage render = saveMultipleFilters(false, &reason);
+    if (render.isNull())
+        return openModalSheetWithText(tr("The photo cannot be flattened."), reason);
+    setoriginalImage(render);
     applyOriginalFilter();
     updateThumbnailImages();
 }
@@ -126,7 +130,10 @@ void MainWindowController::saveFilteredImage()
     const Work work(*this, stepsOfRender() + 1, takesLong(originalImage));
     if (!work || originalImage.isNull())
         return;
-    QImage render = saveMultipleFilters(false);
+    QString reason;
+    QImage render = saveMultipleFilters(false, &reason);
+    if (render.isNull())
+        return openModalSheetWithText(tr("The photo cannot be saved."), reason);
     QSizeF size = render.size();
     if (imgOutputSize > -1)
         size = downsizeNSImage(render, imgOutputSize);
@@ -137,7 +144,6 @@ void MainWindowController::saveFilteredImage()
         return openModalSheetWithText(tr("The photo cannot be saved."),
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));
     const QByteArray path = askWhereToSave();
-    QString reason;
     if (!path.isEmpty() && !writeFileAtomically(path, jpeg, &reason)) {
         qWarning("didn't work!");
         qWarning("%s: %s", path.constData(), qUtf8Printable(reason));
