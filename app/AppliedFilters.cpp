@@ -65,18 +65,24 @@ void MainWindowController::applyOriginalFilter()
 void MainWindowController::applyMultipleFilters()
 {
     const Work work(*this);
-    if (work && !originalImage.isNull())
-        ui->mainImageView->setImage(saveMultipleFilters(true));
+    if (!work || originalImage.isNull())
+        return;
+    QString reason;
+    ui->mainImageView->setImage(saveMultipleFilters(true, &reason));
+    if (!reason.isEmpty())
+        openModalSheetWithText(tr("The preview cannot be shown."), reason);
 }
 
-QImage MainWindowController::saveMultipleFilters(bool preview)
+QImage MainWindowController::saveMultipleFilters(bool preview, QString* reason)
 {
+    // The render before is let go first: it may be as large as the photo.
     filtersAppliedImage = preview ? originalDisplay : originalImage;
-    filtersAppliedImage = filterNSImage(filtersAppliedImage, -1, false);
-    return filtersAppliedImage;
+    const QImage render = filterNSImage(filtersAppliedImage, -1, false, reason);
+    filtersAppliedImage = render.isNull() ? ui->mainImageView->image() : render;
+    return render;
 }
 
-QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail)
+QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail, QString* reason)
 {
     updateFromSettings();
     RenderSettings settings;
@@ -85,7 +91,8 @@ QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter,
     settings.cropFilter = cropFilter;
     settings.borderFilter = borderFilter;
     settings.asThumbnail = asThumbnail;
-    return renderPhoto(image, settings, [this](const char* step) { showStep(QString::fromUtf8(step)); });
+    const auto progress = [this](const char* step) { showStep(QString::fromUtf8(step)); };
+    return renderPhoto(image, settings, progress, reason);
 }
 
 void MainWindowController::updateBreadcrumb()

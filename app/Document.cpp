@@ -7,15 +7,27 @@
 #include <QColorSpace>
 #include <QFileInfo>
 #include <QTransform>
+#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 constexpr qint64 largeFile = 2'000'000; ///< bytes; a smaller one is decoded in a moment
+constexpr int longestStrip = 10; ///< how many times as long as broad a thumbnail copy may be
 
 QImage scaledTo(const QImage& image, const QSize& size)
 {
     return image.size() == size ? image : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// The middle of a long strip, all of any other picture. A thumbnail shows no more than the middle, in a square as large
+/// as its copy is long: those of whole strips would take gigabytes.
+QImage middleOf(const QImage& image)
+{
+    const int longest = std::min(image.width(), image.height()) * longestStrip;
+    QRect middle(QPoint(), image.size().boundedTo({longest, longest}));
+    middle.moveCenter(image.rect().center());
+    return middle == image.rect() ? image : image.copy(middle);
 }
 
 } // namespace
@@ -69,7 +81,8 @@ void MainWindowController::setoriginalImage(const QImage& image)
     const QSize size = image.size();
     originalDisplay = scaledTo(image, bitmapSize(displaySize(size, displayRes)));
     // Points of a sharp screen are several pixels.
-    originalThumb = scaledTo(image, bitmapSize(thumbnailSize(size) * devicePixelRatioF()));
+    const QImage middle = middleOf(image);
+    originalThumb = scaledTo(middle, bitmapSize(thumbnailSize(middle.size()) * devicePixelRatioF()));
     ui->mainImageView->setComparedImage(originalDisplay);
 }
 
@@ -103,7 +116,11 @@ void MainWindowController::flattenImage()
     const Work work(*this, stepsOfRender() + 2, takesLong(originalImage));
     if (!work || originalImage.isNull())
         return;
-    setoriginalImage(saveMultipleFilters(false));
+    QString reason;
+    const QImage render = saveMultipleFilters(false, &reason);
+    if (render.isNull())
+        return openModalSheetWithText(tr("The photo cannot be flattened."), reason);
+    setoriginalImage(render);
     applyOriginalFilter();
     updateThumbnailImages();
 }
@@ -113,7 +130,10 @@ void MainWindowController::saveFilteredImage()
     const Work work(*this, stepsOfRender() + 1, takesLong(originalImage));
     if (!work || originalImage.isNull())
         return;
-    QImage render = saveMultipleFilters(false);
+    QString reason;
+    QImage render = saveMultipleFilters(false, &reason);
+    if (render.isNull())
+        return openModalSheetWithText(tr("The photo cannot be saved."), reason);
     QSizeF size = render.size();
     if (imgOutputSize > -1)
         size = downsizeNSImage(render, imgOutputSize);
@@ -124,7 +144,6 @@ void MainWindowController::saveFilteredImage()
         return openModalSheetWithText(tr("The photo cannot be saved."),
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));
     const QByteArray path = askWhereToSave();
-    QString reason;
     if (!path.isEmpty() && !writeFileAtomically(path, jpeg, &reason)) {
         qWarning("didn't work!");
         qWarning("%s: %s", path.constData(), qUtf8Printable(reason));

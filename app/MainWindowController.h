@@ -46,11 +46,12 @@ public:
     /// One look in single mode, a stack of looks in multi mode; renders the preview.
     void pressFilterButton(int filter);
     void applyMultipleFilters();
-    /// Renders the applied list on the display copy (`preview`) or on the full-size photo; null without a photo.
-    QImage saveMultipleFilters(bool preview);
+    /// Renders the applied list on the display copy (`preview`) or on the full-size photo; null without a photo, and
+    /// null with a `reason` where there is no memory for it.
+    QImage saveMultipleFilters(bool preview, QString* reason = nullptr);
     void updateBreadcrumb();
     /// One render: reads the options, then crops, fits, filters and frames. Filter -1 applies the whole list.
-    QImage filterNSImage(const QImage& image, int usingFilter, bool asThumbnail);
+    QImage filterNSImage(const QImage& image, int usingFilter, bool asThumbnail, QString* reason = nullptr);
 
     // ---- Document ----
     int displayRes = 800; ///< longest side of the display copy, in pixels of the screen

@@ -35,3 +35,10 @@ qint64 freeMemory()
     }
     return std::max<qint64>(available, 0);
 }
+
+QString memoryRefusal(const QSize& picture)
+{
+    return QStringLiteral("There is not enough free memory for a picture of %1 x %2 pixels.")
+        .arg(picture.width())
+        .arg(picture.height());
+}

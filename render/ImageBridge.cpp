@@ -79,8 +79,7 @@ void freeBlock(void* pixels)
 
 } // namespace
 
-CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth, int boxHeight, int left, int right,
-    int top, int bottom, bool fast, int orientation)
+QSize fittedSize(const QSize& image, float aspect, int boxWidth, int boxHeight, int orientation)
 {
     const int width = image.width(), height = image.height();
     const bool quarterTurn = isQuarterTurn(orientation);
@@ -102,11 +101,16 @@ CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth,
         outHeight = int(fitHeight);
     }
     // A strip may round to nothing: it keeps a line of pixels.
-    outWidth = std::max(outWidth, 1);
-    outHeight = std::max(outHeight, 1);
+    return {std::max(outWidth, 1), std::max(outHeight, 1)};
+}
+
+CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth, int boxHeight, int left, int right,
+    int top, int bottom, bool fast, int orientation)
+{
+    const QSize size = fittedSize(image.size(), aspect, boxWidth, boxHeight, orientation);
     unsigned char* block =
-        getRGBACharImageArray(image, outWidth, outHeight, orientation, left, right, top, bottom, fast);
-    return new CharImage(block, outWidth, outHeight);
+        getRGBACharImageArray(image, size.width(), size.height(), orientation, left, right, top, bottom, fast);
+    return new CharImage(block, size.width(), size.height());
 }
 
 unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outHeight, int orientation, int left,

@@ -7,6 +7,9 @@ class CharImage;
 // Pictures of the platform to CharImage and back. A pixel exchange block is an array-new block of width x height x 4
 // bytes, rows top first without padding, red, green, blue and a spare byte per pixel. Points equal pixels.
 
+/// The size in pixels of what charImageFromNSImage makes of a picture of that size.
+QSize fittedSize(const QSize& image, float aspect, int boxWidth, int boxHeight, int orientation);
+
 /// Crops `image` round its centre to `aspect` (width / height; negative: no crop), scales it into the box (pixels;
 /// negative: the picture's own side; 0: the same, but a box of two zeros takes the picture's size as it is) and gives a
 /// new CharImage that the caller deletes. Margins, `fast` and `orientation` are those of getRGBACharImageArray.

@@ -5,6 +5,7 @@
 #include "render/JpegMarkers.h"
 #include "render/LargePages.h"
 #include "render/OnWhite.h"
+#include "render/formats/PngColourKey.h"
 #include "render/formats/PsdHandler.h"
 #include "render/formats/TgaHandler.h"
 
@@ -87,14 +88,12 @@ int bytesPerPixel(QImage::Format format)
 QString sizeRefusal(const QSize& size, int bytesPerPixel)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
-    const QString sides = text("%1 x %2 pixels").arg(size.width()).arg(size.height());
     if (pixels > maxPhotoPixels)
-        return text("The picture is too large: %1. At most %2 megapixels can be opened.")
-            .arg(sides)
+        return text("The picture is too large: %1 x %2 pixels. At most %3 megapixels can be opened.")
+            .arg(size.width())
+            .arg(size.height())
             .arg(maxPhotoPixels / 1000000);
-    if (pixels * bytesPerPixel > freeMemory() / blocksPerPhoto)
-        return text("There is not enough free memory for a picture of %1.").arg(sides);
-    return {};
+    return pixels * bytesPerPixel > freeMemory() / blocksPerPhoto ? memoryRefusal(size) : QString();
 }
 
 /// Formats of the platform that hold drawings and icons rather than photos. The icons' decoder allocates whatever a file
@@ -104,17 +103,17 @@ bool isForPhotos(const QByteArray& format)
     return format != "icns" && format != "svg" && format != "svgz" && format != "pdf";
 }
 
-/// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
-QString decode(QIODevice& file, QImage& image)
+QString decodeByOwn(QImageIOHandler& handler, QImage& image)
 {
-    if (const auto handler = ownHandler(file)) {
-        handler->setDevice(&file);
-        const QString refusal = sizeRefusal(handler->option(QImageIOHandler::Size).toSize(),
-            bytesPerPixel(QImage::Format(handler->option(QImageIOHandler::ImageFormat).toInt())));
-        if (!refusal.isEmpty())
-            return refusal;
-        return handler->read(&image) ? QString() : text("The picture is damaged or of a kind that cannot be read.");
-    }
+    const QString refusal = sizeRefusal(handler.option(QImageIOHandler::Size).toSize(),
+        bytesPerPixel(QImage::Format(handler.option(QImageIOHandler::ImageFormat).toInt())));
+    if (!refusal.isEmpty())
+        return refusal;
+    return handler.read(&image) ? QString() : text("The picture is damaged or of a kind that cannot be read.");
+}
+
+QString decodeByPlatform(QIODevice& file, QImage& image)
+{
     // For decoders that do not tell the size first.
     const qint64 limit = std::min(maxPhotoPixels * 8, freeMemory() / blocksPerPhoto);
     QImageReader::setAllocationLimit(std::max(int(limit >> 20), 1));
@@ -133,6 +132,24 @@ QString decode(QIODevice& file, QImage& image)
         useLargePages(image.bits(), std::size_t(image.sizeInBytes()));
     }
     return reader.read(&image) ? QString() : text("The picture is damaged and cannot be read.");
+}
+
+/// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
+QString decode(QIODevice& file, QImage& image)
+{
+    if (const auto handler = ownHandler(file)) {
+        handler->setDevice(&file);
+        return decodeByOwn(*handler, image);
+    }
+    if (const auto key = findPngColourKey(file)) {
+        PngWithoutKey png(file, *key);
+        const QString reason = decodeByPlatform(png, image);
+        if (!reason.isEmpty() || applyColourKey(image, *key))
+            return reason;
+        return text("The picture is damaged or of a kind that cannot be read.");
+    }
+    file.seek(0);
+    return decodeByPlatform(file, image);
 }
 
 LoadedPhoto load(const QByteArray& path)

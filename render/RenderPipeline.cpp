@@ -1,10 +1,13 @@
 #include "render/RenderPipeline.h"
 
 #include "image/CharImage.h"
+#include "render/FreeMemory.h"
 #include "render/ImageBridge.h"
+#include "render/PhotoLoader.h"
 
 #include <QColorSpace>
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace {
@@ -21,12 +24,19 @@ void applyStep(CharImage& image, int filter, const RenderProgress& progress)
     image.applyFilter(filter);
 }
 
-} // namespace
+/// Where a render puts its picture, and the border round it.
+struct Frame {
+    float aspect; ///< of the picture, width / height
+    int maxSide; ///< of the source
+    int left, right, top, bottom; ///< margins in pixels
 
-QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress)
+    int boxWidth() const { return maxSide - left - right; }
+    int boxHeight() const { return maxSide - top - bottom; }
+    bool hasMargins() const { return left > 0 || right > 0 || top > 0 || bottom > 0; }
+};
+
+Frame frameOf(const QImage& source, const RenderSettings& settings)
 {
-    if (source.isNull())
-        return {};
     const float width = float(source.width()), height = float(source.height());
     const float aspect = width / height;
     const int maxSide = int(width - height >= 0.0f ? width : height);
@@ -38,12 +48,30 @@ QImage renderPhoto(const QImage& source, const RenderSettings& settings, const R
         cropAspect = aspect;
     float left, right, top, bottom;
     CharImage::getBorderReqsForFilter(settings.borderFilter, &left, &right, &top, &bottom);
-    const int l = int(float(maxSide) * left), r = int(float(maxSide) * right);
-    const int t = int(float(maxSide) * top), b = int(float(maxSide) * bottom);
+    const auto margin = [maxSide](float fraction) { return int(float(maxSide) * fraction); };
+    return {cropAspect, maxSide, margin(left), margin(right), margin(top), margin(bottom)};
+}
 
+QSize sizeOf(const QImage& source, const Frame& frame, bool asThumbnail)
+{
+    QSize size = fittedSize(source.size(), frame.aspect, frame.boxWidth(), frame.boxHeight(), 3);
+    if (!asThumbnail)
+        size += QSize(frame.left + frame.right, frame.top + frame.bottom);
+    return size;
+}
+
+/// By the loader's rule. One of the blocks that it counts is the photo, which is there already.
+bool hasRoomFor(const QSize& size)
+{
+    return qint64(size.width()) * size.height() * 4 <= freeMemory() / (blocksPerPhoto - 1);
+}
+
+QImage render(
+    const QImage& source, const RenderSettings& settings, const Frame& frame, const RenderProgress& progress)
+{
     report(progress, "Fit");
     const std::unique_ptr<CharImage> image(
-        charImageFromNSImage(source, cropAspect, maxSide - l - r, maxSide - t - b, 0, 0, 0, 0, false, 3));
+        charImageFromNSImage(source, frame.aspect, frame.boxWidth(), frame.boxHeight(), 0, 0, 0, 0, false, 3));
 
     if (settings.filter != -1)
         applyStep(*image, settings.filter, progress);
@@ -53,11 +81,31 @@ QImage renderPhoto(const QImage& source, const RenderSettings& settings, const R
 
     if (!settings.asThumbnail) {
         report(progress, "Border");
-        if (l > 0 || r > 0 || t > 0 || b > 0)
-            image->addBorder(l, r, t, b, 255.0f, 255.0f, 255.0f);
-        image->applyFilterBorder(settings.borderFilter, maxSide);
+        if (frame.hasMargins())
+            image->addBorder(frame.left, frame.right, frame.top, frame.bottom, 255.0f, 255.0f, 255.0f);
+        image->applyFilterBorder(settings.borderFilter, frame.maxSide);
     }
     QImage picture = getImageRefFromRGBACharArray(std::exchange(image->data, nullptr), image->width, image->height);
     picture.setColorSpace(source.colorSpace());
     return picture;
+}
+
+} // namespace
+
+QImage renderPhoto(
+    const QImage& source, const RenderSettings& settings, const RenderProgress& progress, QString* reason)
+{
+    if (source.isNull())
+        return {};
+    const Frame frame = frameOf(source, settings);
+    const QSize size = sizeOf(source, frame, settings.asThumbnail);
+    try {
+        if (hasRoomFor(size))
+            return render(source, settings, frame, progress);
+    } catch (const std::bad_alloc&) {
+        // Something else took the room in the meantime.
+    }
+    if (reason)
+        *reason = memoryRefusal(size);
+    return {};
 }

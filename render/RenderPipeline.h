@@ -3,6 +3,7 @@
 #include "core/GrowArray.h"
 
 #include <QImage>
+#include <QString>
 #include <functional>
 
 /// What one render applies to its source.
@@ -19,5 +20,7 @@ using RenderProgress = std::function<void(const char* step)>;
 
 /// Renders a photo: crops and fits it, applies the filters and finishes the border. The one road of previews,
 /// thumbnails and saved files. `source` is not changed; the picture is in its colour space. A null source gives a null
-/// picture.
-QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {});
+/// picture. A picture that the free memory cannot hold, as a square is that is cut from a long strip, is a null picture
+/// too, and has a `reason` for people; nothing is allocated for it.
+QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {},
+    QString* reason = nullptr);

@@ -3,11 +3,13 @@
 #include "render/PhotoSaver.h"
 #include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
+#include "tests/render/ScarceMemory.h"
 
 #include <QColorSpace>
 #include <QDirIterator>
 #include <QFileOpenEvent>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -48,6 +50,33 @@ private slots:
         QCOMPARE(desk.window.getoriginalThumb().size(), QSize(100, 100));
         QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "c.png", makePhoto(640, 480))));
         QCOMPARE(desk.window.getoriginalDisplay().size(), QSize(640, 480));
+    }
+
+    void thumbnailsOfAStripShowItsMiddle_data()
+    {
+        QTest::addColumn<QSize>("photo");
+        QTest::addColumn<QSize>("thumbnailCopy");
+        QTest::newRow("as long as may be") << QSize(4, 40) << QSize(100, 1000);
+        QTest::newRow("high") << QSize(1, 65535) << QSize(100, 1000);
+        QTest::newRow("wide") << QSize(65535, 1) << QSize(1000, 100);
+    }
+    void thumbnailsOfAStripShowItsMiddle()
+    {
+        QFETCH(QSize, photo);
+        QFETCH(QSize, thumbnailCopy);
+        // Black with a white middle.
+        QImage strip(photo, QImage::Format_RGB32);
+        strip.fill(Qt::black);
+        const QSize part = photo.width() > photo.height() ? QSize(11, photo.height()) : QSize(photo.width(), 11);
+        QRect middle(QPoint(), part.boundedTo(photo));
+        middle.moveCenter(strip.rect().center());
+        for (int y = middle.top(); y <= middle.bottom(); y++)
+            for (int x = middle.left(); x <= middle.right(); x++)
+                strip.setPixel(x, y, 0xFFFFFFFF);
+        Desk desk(strip);
+        QCOMPARE(desk.window.getoriginalThumb().size(), thumbnailCopy);
+        const QImage icon = desk.find<QToolButton>("btnOriginal")->icon().pixmap(64).toImage();
+        QCOMPARE(icon.pixel(icon.rect().center()), 0xFFFFFFFF);
     }
 
     void loadingShowsThePhotoAndItsName()
@@ -288,6 +317,49 @@ private slots:
         printed = printedBy([&] { desk.saveAs(path + "2.jpg"); });
         QVERIFY(printed.contains("downsizing image to 800, ended with 800.000000 533.333333\n"));
         QCOMPARE(decoded(path + "2.jpg").size(), QSize(800, 533));
+    }
+
+    void whereMemoryWouldNotDoNothingIsSavedOrFlattened()
+    {
+        Desk desk(makePhoto(1, 10000));
+        desk.window.displayRes = 2000; // no window is larger, so that nothing else renders the preview
+        desk.choose("btnCropping", "Square");
+        desk.click("btnMono");
+        const qint64 photo = desk.window.getoriginalImage().cacheKey();
+        const QImage render = desk.window.getFiltersAppliedImage();
+        const QImage preview = desk.find<DragDropImageView>("mainImageView")->image();
+        const ScarceMemory memory(300 << 20);
+        for (const auto& [button, title] : {std::pair("btnSave", "The photo cannot be saved."),
+                 std::pair("btnFlatten", "The photo cannot be flattened.")}) {
+            desk.click(button);
+            QCOMPARE(desk.sheet(),
+                QStringList({title, "There is not enough free memory for a picture of 10000 x 10000 pixels."}));
+            auto* sheet = desk.window.findChild<QMessageBox*>();
+            QVERIFY(sheet->isModal());
+            QTest::mouseClick(sheet->button(QMessageBox::Ok), Qt::LeftButton);
+            QTRY_VERIFY(!desk.window.findChild<QMessageBox*>());
+            QCOMPARE(desk.window.getoriginalImage().cacheKey(), photo);
+            QCOMPARE(desk.looks(), (std::vector<int> {5}));
+            QCOMPARE(desk.pressedButtons(), QStringList("Mono"));
+            QCOMPARE(desk.window.getFiltersAppliedImage(), render);
+            QCOMPARE(desk.find<DragDropImageView>("mainImageView")->image().cacheKey(), preview.cacheKey());
+        }
+    }
+
+    void whereMemoryWouldNotDoForThePreviewASheetSaysSo()
+    {
+        Desk desk(makePhoto(4000, 4000)); // the display copy of a square is as large as the photo
+        {
+            const ScarceMemory memory(100 << 20);
+            desk.click("btnMono");
+            QCOMPARE(desk.sheet(),
+                QStringList({"The preview cannot be shown.",
+                    "There is not enough free memory for a picture of 4000 x 4000 pixels."}));
+            QTest::mouseClick(desk.window.findChild<QMessageBox*>()->button(QMessageBox::Ok), Qt::LeftButton);
+        }
+        desk.click("btnMono");
+        QCOMPARE(desk.looks(), std::vector<int>());
+        QCOMPARE(pixelsOf(desk.find<DragDropImageView>("mainImageView")->image()), makePhoto(4000, 4000));
     }
 
     void theSavePanelProposesTheNameAndTheBytesAreAlwaysJpeg()

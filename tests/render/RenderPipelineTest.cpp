@@ -2,6 +2,7 @@
 #include "image/CharImage.h"
 #include "render/ImageBridge.h"
 #include "tests/render/Samples.h"
+#include "tests/render/ScarceMemory.h"
 
 #include <QStringList>
 #include <QTest>
@@ -210,6 +211,43 @@ private slots:
         settings.filter = mono;
         renderPhoto(samples::noise(8, 8), settings, note);
         QCOMPARE(steps, QStringList({"Fit", "Mono"}));
+    }
+
+    void whereMemoryWouldNotDoThereIsNoPictureButAReason()
+    {
+        const QImage strip = samples::noise(1, 10000);
+        RenderSettings settings;
+        settings.cropFilter = square;
+        QStringList steps;
+        const auto note = [&](const char* step) { steps += QString::fromLatin1(step); };
+        QString reason;
+        const ScarceMemory memory(500 << 20); // room for the square, not for a second block beside it
+        QVERIFY(renderPhoto(strip, settings, note, &reason).isNull());
+        QCOMPARE(reason, QString("There is not enough free memory for a picture of 10000 x 10000 pixels."));
+        QCOMPARE(steps, QStringList());
+        // The border is outside the picture that is fitted.
+        settings.borderFilter = instant;
+        QVERIFY(renderPhoto(strip, settings, {}, &reason).isNull());
+        QCOMPARE(reason, QString("There is not enough free memory for a picture of 8401 x 10000 pixels."));
+        settings.asThumbnail = true;
+        QVERIFY(!renderPhoto(samples::noise(1, 100), settings, {}, &reason).isNull());
+        settings = {};
+        QCOMPARE(renderPhoto(strip, settings), strip);
+    }
+
+    void memoryThatGoesDuringTheRenderIsNoCrash()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("the address sanitizer ends a program that finds no memory");
+#endif
+        const QImage strip = samples::noise(1, 5000);
+        RenderSettings settings;
+        settings.cropFilter = square;
+        std::unique_ptr<ScarceMemory> memory;
+        QString reason;
+        const auto takeMemory = [&](const char*) { memory = std::make_unique<ScarceMemory>(10 << 20); };
+        QVERIFY(renderPhoto(strip, settings, takeMemory, &reason).isNull());
+        QCOMPARE(reason, QString("There is not enough free memory for a picture of 5000 x 5000 pixels."));
     }
 
     void noPhotoGivesNoPicture() { QVERIFY(render(QImage(), square, instant).isNull()); }
