@@ -1,5 +1,6 @@
 #include "app/MainWindowController.h"
 #include "app/Rules.h"
+#include "render/FreeMemory.h"
 #include "render/PhotoLoader.h"
 #include "render/PhotoSaver.h"
 #include "ui_MainWindow.h"
@@ -106,7 +107,11 @@ void MainWindowController::rotateImage(float degrees)
     const Work work(*this);
     if (!work || originalImage.isNull())
         return;
-    setoriginalImage(rotateNSImage(originalImage, degrees));
+    const QImage turned = rotateNSImage(originalImage, degrees);
+    if (turned.isNull())
+        return openModalSheetWithText(
+            tr("The photo cannot be turned."), memoryRefusal(originalImage.size().transposed()));
+    setoriginalImage(turned);
     applyMultipleFilters();
     updateThumbnailImages();
 }

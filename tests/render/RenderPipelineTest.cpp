@@ -235,21 +235,6 @@ private slots:
         QCOMPARE(renderPhoto(strip, settings), strip);
     }
 
-    void memoryThatGoesDuringTheRenderIsNoCrash()
-    {
-#ifdef __SANITIZE_ADDRESS__
-        QSKIP("the address sanitizer ends a program that finds no memory");
-#endif
-        const QImage strip = samples::noise(1, 5000);
-        RenderSettings settings;
-        settings.cropFilter = square;
-        std::unique_ptr<ScarceMemory> memory;
-        QString reason;
-        const auto takeMemory = [&](const char*) { memory = std::make_unique<ScarceMemory>(10 << 20); };
-        QVERIFY(renderPhoto(strip, settings, takeMemory, &reason).isNull());
-        QCOMPARE(reason, QString("There is not enough free memory for a picture of 5000 x 5000 pixels."));
-    }
-
     void noPhotoGivesNoPicture() { QVERIFY(render(QImage(), square, instant).isNull()); }
 };
 

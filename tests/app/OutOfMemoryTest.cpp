@@ -1,0 +1,26 @@
+#include "tests/app/Desk.h"
+#include "tests/render/ScarceMemory.h"
+
+#include <QMessageBox>
+
+class OutOfMemoryTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aPhotoThatCannotBeTurnedStays()
+    {
+        Desk desk(makePhoto(6000, 3000));
+        const qint64 photo = desk.window.getoriginalImage().cacheKey();
+        const qint64 preview = desk.find<DragDropImageView>("mainImageView")->image().cacheKey();
+        const ScarceMemory memory(30 << 20);
+        desk.click("btnRight");
+        QCOMPARE(desk.sheet(),
+            QStringList({"The photo cannot be turned.",
+                "There is not enough free memory for a picture of 3000 x 6000 pixels."}));
+        QCOMPARE(desk.window.getoriginalImage().cacheKey(), photo);
+        QCOMPARE(desk.find<DragDropImageView>("mainImageView")->image().cacheKey(), preview);
+    }
+};
+
+QTEST_MAIN(OutOfMemoryTest)
+#include "OutOfMemoryTest.moc"
