@@ -26,7 +26,8 @@ struct ErrorBound {
     {
     }
     ErrorBound(double constant)
-        : ErrorBound(constant, constant, std::fabs(constant - double(float(constant))), true)
+        : ErrorBound(std::min(constant, double(float(constant))), std::max(constant, double(float(constant))),
+            std::fabs(constant - double(float(constant))), true)
     {
     }
 
@@ -41,10 +42,11 @@ struct ErrorBound {
     }
 
     /// After steps whose results, each as often as it is rounded in either evaluation, are `results` in sum at most.
+    /// The exact evaluation without its roundings lies on `lowest` .. `highest`.
     static ErrorBound afterSteps(double lowest, double highest, double apart, double results)
     {
-        const double lost = results * 0x1.001p-24 + 0x1p-140;
-        return {lowest - lost, highest + lost, apart + lost};
+        const double error = apart + results * 0x1.001p-24 + 0x1p-140;
+        return {lowest - error, highest + error, error};
     }
 
     friend ErrorBound operator+(ErrorBound a, ErrorBound b)
@@ -101,27 +103,27 @@ inline ErrorBound byteLuminance(Colour<ErrorBound> c)
 /// By the exact form and the one of Single together, more closely than the intervals of the exact steps would have it.
 template <class Gain> ErrorBound withShareTimes(ErrorBound v, ErrorBound share, Gain constantGain)
 {
-    const ErrorBound gain = constantGain;
-    const double more = gain.low - 1.0, atLow = 1.0 + more * share.low, atHigh = 1.0 + more * share.high;
+    const double gain = constantGain, gainError = ErrorBound(gain).error;
+    const double more = gain - 1.0, atLow = 1.0 + more * share.low, atHigh = 1.0 + more * share.high;
     const auto [lowest, highest] = std::minmax({v.low * atLow, v.low * atHigh, v.high * atLow, v.high * atHigh});
     const double factor = std::max(std::fabs(atLow), std::fabs(atHigh));
     const double rest = std::max(std::fabs(1.0 - share.low), std::fabs(1.0 - share.high));
-    const double inExact = 2.0 * (rest + share.magnitude() * gain.magnitude()) + factor;
+    const double inExact = 2.0 * (rest + share.magnitude() * std::fabs(gain)) + factor;
     const double inSingle = 2.0 * share.magnitude() * std::fabs(more) + 2.0 * factor;
     const double error = factor * v.error + v.magnitude() * std::fabs(more) * share.error
-        + v.magnitude() * share.magnitude() * gain.error;
+        + v.magnitude() * share.magnitude() * gainError;
     return ErrorBound::afterSteps(lowest, highest, error, v.magnitude() * (inExact + inSingle));
 }
 
 template <class Gain> ErrorBound withContrast(ErrorBound v, Gain constantGain)
 {
-    const ErrorBound gain = constantGain;
-    const auto contrast = [&](double level) { return (level - 128.0) * gain.low + 128.0; };
+    const double gain = constantGain, gainError = ErrorBound(gain).error;
+    const auto contrast = [&](double level) { return (level - 128.0) * gain + 128.0; };
     const auto [lowest, highest] = std::minmax({contrast(v.low), contrast(v.high)});
-    const double product = v.magnitude() * gain.magnitude();
+    const double product = v.magnitude() * std::fabs(gain);
     const double result = std::max(std::fabs(lowest), std::fabs(highest));
-    const double inSingle = product + 128.0 * gain.magnitude() + 128.0 * std::fabs(1.0 - gain.low) + result;
-    const double error = gain.magnitude() * v.error + (v.magnitude() + 128.0) * gain.error;
+    const double inSingle = product + 128.0 * std::fabs(gain) + 128.0 * std::fabs(1.0 - gain) + result;
+    const double error = std::fabs(gain) * v.error + (v.magnitude() + 128.0) * gainError;
     return ErrorBound::afterSteps(lowest, highest, error, result + inSingle);
 }
 
