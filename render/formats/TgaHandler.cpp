@@ -92,8 +92,9 @@ public:
     {
         const int size = (header.mapBits + 7) / 8;
         const auto* b = reinterpret_cast<const unsigned char*>(bytes.constData());
-        for (int i = 0; i < header.mapLength; i++)
-            m_colours.push_back(colourAt(b + i * size, header.mapBits));
+        // A file without a map may tell any length of it.
+        for (qsizetype at = 0; at < bytes.size(); at += size)
+            m_colours.push_back(colourAt(b + at, header.mapBits));
     }
 
     Pixel at(int index) const

@@ -177,6 +177,15 @@ private slots:
         QCOMPARE(open(file).image.pixel(0, 0), 0xff000000);
     }
 
+    void theMeasuresOfAMapThatIsNotThereMeanNothing()
+    {
+        QByteArray file = tga({.type = 2, .bits = 24});
+        const QImage picture = open(file).image;
+        QVERIFY(!picture.isNull());
+        file.replace(3, 5, QByteArray(5, '\xff')); // first colour, length and depth
+        QCOMPARE(open(file).image, picture);
+    }
+
     void aCutFileIsRefused()
     {
         for (int type : {1, 2, 3, 9, 10, 11}) {
