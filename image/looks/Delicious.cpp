@@ -14,7 +14,7 @@ constexpr int faintestEdge = 120; ///< leaves no ink; every stronger one does
 void flattenShadows(Block& block)
 {
     block.fillPlanes();
-    workBlock(block, stepsOf([](Rgb c) { return luminance(c) < 50.0f ? grey(outlineGrey) : c; }), nullptr);
+    workBlock(block, Steps([](Rgb c) { return byteLuminance(c) < 50.0f ? grey(outlineGrey) : c; }));
 }
 
 /// What a curve makes of whole values of 0 .. 255.
@@ -49,11 +49,7 @@ void recolour(Block& block, const Plane& lightness)
     // Pure red has the hue 1.0 and comes out grey, on purpose.
     for (int i = 0; i < blockPixels; i++)
         block.setColour(i, rgbOf(Hsl{hue.at[i], saturation.at[i], lightness.at[i]}, float(int(hue.at[i] * 6.0f))));
-    const auto doubled = [](Rgb c) {
-        const float level = luminance(c);
-        return eachChannel(c, [=](float v) { return v + v - level; });
-    };
-    workBlock(block, stepsOf(doubled), nullptr);
+    workBlock(block, Steps([](Rgb c) { return withSaturation(c, 2.0f); }));
 }
 
 /// How much of the outlines' grey covers a pixel, by the strength of its edge.
@@ -70,7 +66,7 @@ void drawOutlines(Block& block, const Plane& ink)
     const auto inked = [](Rgb c, float t) {
         return eachChannel(c, [=](float v) { return float(int((1.0 - t) * v + t * outlineGrey)); });
     };
-    workBlock(block, stepsOf(inked), ink.at);
+    workBlock(block, Steps(inked), ink.at);
 }
 
 /// Whether a block has an edge that leaves ink.

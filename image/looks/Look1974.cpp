@@ -31,9 +31,6 @@ void CharImage::apply1974Filter()
         c = eachChannel(c, [](auto v) { return withContrast(v, 3.05); });
         return Colour{tint.r * w + c.r * (1.0f - w), tint.g * w + c.g * (1.0f - w), tint.b * w + c.b * (1.0f - w)};
     };
-    const auto muted = [](auto c) {
-        const auto level = luminance(c) * 0.49f;
-        return eachChannel(c, [=](auto v) { return v * 0.51f + level; });
-    };
+    const auto muted = [](auto c) { return withSaturation(c, 0.51f); };
     forEachPixel(*this, washes, Steps(printed, muted), Stretch{0.0f, 0.005f, 20.0f, 250.0f, true, true});
 }

@@ -96,12 +96,6 @@ struct Block : Planes {
         storeBytes([&](int i) { return eachChannel(colour(i), toByte); });
     }
 
-    /// Truncates and clamps them.
-    void storePlanes()
-    {
-        storePlanes([](float v) { return truncateAndClamp(v); });
-    }
-
     /// Stores the red plane in all three channels.
     template <class ToByte> void storeGrey(ToByte toByte)
     {

@@ -87,7 +87,7 @@ struct LevelsOnBytes {
 
 /// Works a recipe into the planes of a block and stores them as bytes. The weights are those of its pixels, if any.
 template <class Recipe, class ToByte = NoLevels>
-void workBlock(Block& block, const Recipe& recipe, const float* weights, ToByte toByte = {})
+void workBlock(Block& block, const Recipe& recipe, const float* weights = nullptr, ToByte toByte = {})
 {
     recipe.forEach([&](const auto& step) {
         for (int i = 0; i < blockPixels; i++)
@@ -123,7 +123,7 @@ void tryOrWork(Block& block, const Recipe& recipe, const float* weights, double 
 
 /// What a pass starts from: fills the planes of a block with its colours, and gives the weights of its pixels.
 struct Colours {
-    Inputs inputs() const { return {ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), {}}; }
+    Inputs inputs() const { return Inputs::ofBytes({}); }
     const float* fill(Block& block) const
     {
         block.fillPlanes();
@@ -148,10 +148,7 @@ struct TonedColours {
     const ToneTable& tones;
     Plane tone = {};
 
-    Inputs inputs() const
-    {
-        return {ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), tones.range()};
-    }
+    Inputs inputs() const { return Inputs::ofBytes(tones.range()); }
     const float* fill(Block& block)
     {
         block.fillPlanes();
@@ -221,13 +218,13 @@ void forEachPixelAround(CharImage& image, int centreX, int centreY, float heavie
     const int reachX = std::max(centreX, image.width - 1 - centreX);
     const int reachY = std::max(centreY, image.height - 1 - centreY);
     std::vector<float> half(inWholeBlocks(reachX + 1)), row(inWholeBlocks(image.width));
-    Inputs inputs = Colours{}.inputs();
-    inputs.weight = {0.0, heaviest};
     const auto recipe = stepsOf(function);
-    const double error = errorOfTrial(recipe, inputs);
+    const double error = errorOfTrial(recipe, Inputs::ofBytes({0.0, heaviest}));
     const auto workRow = [&](int y) {
         const auto changes = [&](int x) {
-            int found = keepsPixels ? 0 : 1;
+            if (!keepsPixels)
+                return true;
+            int found = 0;
             for (int i = 0; i < blockPixels; i++)
                 found |= row[std::size_t(x + i)] != 0.0f;
             return found != 0;

@@ -44,6 +44,11 @@ struct ChannelRanges {
 struct Inputs {
     ChannelRanges red, green, blue;
     ErrorBound weight;
+
+    static Inputs ofBytes(ErrorBound weight)
+    {
+        return {ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), weight};
+    }
 };
 
 /// The results of a trial are compared with whole numbers in such parts of 1.

@@ -89,7 +89,7 @@ void CharImage::vignette(
                 block.setColour(
                     i, {(1.0f - w) * c.r + w * b.r, (1.0f - w) * c.g + w * b.g, (1.0f - w) * c.b + w * b.b});
         }
-        workBlock(block, stepsOf([=](Rgb c, float darkness) { return darken(c, luminance(c), darkness); }), dark.at);
+        workBlock(block, Steps([=](Rgb c, float darkness) { return darken(c, luminance(c), darkness); }), dark.at);
     };
     for (int y = 0; y < height; y++)
         forEachBlockOfRow(*this, y, [&](Block& block, int x) { softenAndDarken(block, x, y); });
