@@ -1,8 +1,6 @@
-#include "render/PhotoLoader.h"
 #include "tests/render/Samples.h"
 
 #include <QColorSpace>
-#include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
 #include <lcms2.h>
@@ -123,9 +121,7 @@ class ColorTest : public QObject {
 
     QImage load(const QByteArray& data)
     {
-        const QByteArray path = m_folder.path().toLocal8Bit() + "/photo";
-        samples::writeFile(path, data);
-        const LoadedPhoto photo = loadPhoto(path);
+        const LoadedPhoto photo = samples::loaded(m_folder, data);
         if (!photo.reason.isEmpty())
             qWarning("%s", qPrintable(photo.reason));
         return photo.image;

@@ -75,12 +75,7 @@ class PhotoLoaderTest : public QObject {
 
     QByteArray pathOf(const QByteArray& name) { return m_folder.path().toLocal8Bit() + '/' + name; }
 
-    LoadedPhoto loadData(const QByteArray& data)
-    {
-        unlink(pathOf("data").constData()); // some file systems flush a file that is written over
-        samples::writeFile(pathOf("data"), data);
-        return loadPhoto(pathOf("data"));
-    }
+    LoadedPhoto loadData(const QByteArray& data) { return samples::loaded(m_folder, data); }
 
 private slots:
     void namesAreBytes_data()

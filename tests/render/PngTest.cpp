@@ -1,7 +1,5 @@
-#include "render/PhotoLoader.h"
 #include "tests/render/Samples.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 // Files that are written here byte by byte: pictures whose transparency is one of their colours.
@@ -37,13 +35,7 @@ class PngTest : public QObject {
 
     QTemporaryDir m_folder;
 
-    LoadedPhoto loadData(const QByteArray& data)
-    {
-        const QByteArray path = m_folder.path().toLocal8Bit() + "/data";
-        QFile::remove(QFile::decodeName(path)); // some file systems flush a file that is written over
-        samples::writeFile(path, data);
-        return loadPhoto(path);
-    }
+    LoadedPhoto loadData(const QByteArray& data) { return samples::loaded(m_folder, data); }
 
 private slots:
     void transparentColourIsLaidOnWhite_data()

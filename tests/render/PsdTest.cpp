@@ -1,14 +1,14 @@
-#include "render/PhotoLoader.h"
+#include "tests/render/Samples.h"
 
 #include <QColorSpace>
-#include <QTemporaryDir>
-#include <QtEndian>
 #include <QtTest>
 #include <bit>
 
 // Files that are written here byte by byte.
 
 namespace {
+
+using samples::bigEndian;
 
 constexpr int width = 9, height = 2;
 
@@ -21,16 +21,9 @@ struct Kind {
     QByteArray palette = {}, profile = {};
 };
 
-template <class Number> QByteArray bytes(Number number)
-{
-    QByteArray result(sizeof number, '\0');
-    qToBigEndian(number, result.data());
-    return result;
-}
-
 QByteArray sized(const QByteArray& block, bool wide = false)
 {
-    return (wide ? bytes(quint64(block.size())) : bytes(quint32(block.size()))) + block;
+    return (wide ? bigEndian(quint64(block.size())) : bigEndian(quint32(block.size()))) + block;
 }
 
 /// One run of literals and one of repeats, and a byte that means nothing.
@@ -45,16 +38,16 @@ QByteArray packed(const QByteArray& row)
 /// `sample(channel, x, y)` on 0 .. 1.
 template <class Sample> QByteArray psd(const Kind& kind, Sample sample)
 {
-    QByteArray file = "8BPS" + bytes(quint16(kind.big ? 2 : 1)) + QByteArray(6, '\0') + bytes(quint16(kind.channels))
-        + bytes(quint32(height)) + bytes(quint32(width)) + bytes(quint16(kind.bits)) + bytes(quint16(kind.mode));
+    QByteArray file = "8BPS" + bigEndian(quint16(kind.big ? 2 : 1)) + QByteArray(6, '\0') + bigEndian(quint16(kind.channels))
+        + bigEndian(quint32(height)) + bigEndian(quint32(width)) + bigEndian(quint16(kind.bits)) + bigEndian(quint16(kind.mode));
     file += sized(kind.palette);
-    QByteArray resources = "8BIM" + bytes(quint16(1005)) + QByteArray("\3abc", 4) + sized("odd") + '\0';
+    QByteArray resources = "8BIM" + bigEndian(quint16(1005)) + QByteArray("\3abc", 4) + sized("odd") + '\0';
     if (!kind.profile.isEmpty())
-        resources += "8BIM" + bytes(quint16(0x040f)) + QByteArray(2, '\0') + sized(kind.profile);
+        resources += "8BIM" + bigEndian(quint16(0x040f)) + QByteArray(2, '\0') + sized(kind.profile);
     file += sized(resources);
-    const QByteArray layers = bytes(qint16(kind.layers)) + QByteArray(6, '\0');
+    const QByteArray layers = bigEndian(qint16(kind.layers)) + QByteArray(6, '\0');
     file += sized(sized(layers, kind.big), kind.big);
-    file += bytes(quint16(kind.runLength));
+    file += bigEndian(quint16(kind.runLength));
     QByteArray counts, data;
     for (int c = 0; c < kind.channels; c++)
         for (int y = 0; y < height; y++) {
@@ -66,13 +59,13 @@ template <class Sample> QByteArray psd(const Kind& kind, Sample sample)
                 else if (kind.bits == 8)
                     row += char(int(v * 255 + 0.5f));
                 else if (kind.bits == 16)
-                    row += bytes(quint16(v * 65535 + 0.5f));
+                    row += bigEndian(quint16(v * 65535 + 0.5f));
                 else
-                    row += bytes(std::bit_cast<quint32>(v));
+                    row += bigEndian(std::bit_cast<quint32>(v));
             }
             if (kind.runLength)
                 row = packed(row);
-            counts += kind.big ? bytes(quint32(row.size())) : bytes(quint16(row.size()));
+            counts += kind.big ? bigEndian(quint32(row.size())) : bigEndian(quint16(row.size()));
             data += row;
         }
     return file + (kind.runLength ? counts : QByteArray()) + data;
@@ -104,15 +97,7 @@ class PsdTest : public QObject {
 private:
     QTemporaryDir folder;
 
-    LoadedPhoto open(const QByteArray& contents)
-    {
-        const QString path = folder.filePath("picture");
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-            qFatal("cannot write the sample");
-        file.close();
-        return loadPhoto(QFile::encodeName(path));
-    }
+    LoadedPhoto open(const QByteArray& contents) { return samples::loaded(folder, contents); }
 
     /// `tolerance`: of each channel, where a colour conversion rounds.
     template <class Expected> void compare(const LoadedPhoto& photo, Expected expected, int tolerance = 0)
@@ -240,9 +225,9 @@ private slots:
     void aBombIsRefusedAtOnce()
     {
         QByteArray file = psd({.mode = rgb, .bits = 8, .channels = 3, .big = true, .runLength = true}, ramps);
-        file.replace(14, 8, bytes(quint32(60000)) + bytes(quint32(60000)));
+        file.replace(14, 8, bigEndian(quint32(60000)) + bigEndian(quint32(60000)));
         QVERIFY(open(file).reason.startsWith("The picture is too large: 60000 x 60000 pixels."));
-        file.replace(14, 8, bytes(quint32(16000)) + bytes(quint32(16000)));
+        file.replace(14, 8, bigEndian(quint32(16000)) + bigEndian(quint32(16000)));
         QVERIFY(open(file).image.isNull());
     }
 };

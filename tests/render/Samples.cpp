@@ -1,6 +1,7 @@
 #include "tests/render/Samples.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImageWriter>
 #include <QPainter>
 #include <cstdio>
@@ -179,6 +180,14 @@ QByteArray readFile(const QByteArray& path)
     if (descriptor >= 0)
         close(descriptor);
     return data;
+}
+
+LoadedPhoto loaded(const QTemporaryDir& folder, const QByteArray& data, const QByteArray& name)
+{
+    const QByteArray path = QFile::encodeName(folder.path()) + '/' + name;
+    unlink(path.constData()); // some file systems flush a file that is written over
+    writeFile(path, data);
+    return loadPhoto(path);
 }
 
 } // namespace samples

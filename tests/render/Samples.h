@@ -1,8 +1,11 @@
 #pragma once
 
+#include "render/PhotoLoader.h"
+
 #include <QByteArray>
 #include <QColor>
 #include <QImage>
+#include <QTemporaryDir>
 #include <QtEndian>
 
 /// Pictures and files that the tests of this floor make for themselves.
@@ -41,5 +44,7 @@ int largestDifference(const QImage& a, const QImage& b);
 
 void writeFile(const QByteArray& path, const QByteArray& data);
 QByteArray readFile(const QByteArray& path);
+/// The photo that a file of those bytes opens as, written into the folder under that name.
+LoadedPhoto loaded(const QTemporaryDir& folder, const QByteArray& data, const QByteArray& name = "photo");
 
 } // namespace samples

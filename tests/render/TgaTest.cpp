@@ -1,7 +1,5 @@
-#include "render/PhotoLoader.h"
 #include "tests/render/Samples.h"
 
-#include <QTemporaryDir>
 #include <QtTest>
 
 // Files that are written here byte by byte, each holding the same small picture.
@@ -103,15 +101,7 @@ class TgaTest : public QObject {
 private:
     QTemporaryDir folder;
 
-    LoadedPhoto open(const QByteArray& bytes, const char* name = "picture.jpg")
-    {
-        const QString path = folder.filePath(name);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write the sample");
-        file.close();
-        return loadPhoto(QFile::encodeName(path));
-    }
+    LoadedPhoto open(const QByteArray& bytes) { return samples::loaded(folder, bytes, "picture.jpg"); }
 
 private slots:
     void everyKindOpens_data()
