@@ -2,9 +2,9 @@
 
 #include "image/CharImage.h"
 #include "image/framing/BestFit.h"
+#include "image/framing/Resample.h"
 #include "render/LargePages.h"
 #include "render/OnWhite.h"
-#include "render/Resample.h"
 
 #include <QTransform>
 #include <algorithm>
@@ -136,7 +136,8 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
     }
     if (!covers(rect, outWidth, outHeight))
         std::memset(block.get(), 255, size);
-    drawScaled(source, rect, fast, block.get(), outWidth, outHeight);
+    const PixelRows rows{source.constBits(), std::size_t(source.bytesPerLine()), source.width(), source.height()};
+    drawScaled(rows, rect, fast, block.get(), outWidth, outHeight);
     return block.release();
 }
 

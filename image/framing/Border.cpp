@@ -1,5 +1,6 @@
 #include "image/CharImage.h"
 #include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/Vignette.h"
 
 #include <algorithm>
 #include <cstring>
@@ -84,9 +85,9 @@ void CharImage::applyFilterBorder(int border, int maxSide)
     if (border == 10) {
         const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
         const float radius = std::min(halfWidth, halfHeight);
-        vignette(radius - 3.0f, radius, 3.0f, 1.0f, false, false);
-        vignette(float(radius * 0.3), radius, 3.0f, 0.4f, true, false);
-        // Far outside the circle the vignette's curve turns back to light: the corners are painted over.
+        // Far outside the circle a vignette's curve would turn back to light: the corners are black instead.
+        vignetteDisc(*this, radius - 3.0f, radius, 3.0f, 1.0f, false);
+        vignetteDisc(*this, float(radius * 0.3), radius, 3.0f, 0.4f, true);
         maskDisc(*this, radius);
     }
     if (border == 7 || border == 29)

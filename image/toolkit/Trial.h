@@ -82,13 +82,13 @@ inline constexpr auto inParts = [](float v) {
     return notBelow < 255 * partsOfOne + partsOfOne / 2 ? notBelow : 255 * partsOfOne + partsOfOne / 2;
 };
 
-/// The pixels of a block on which a trial does not decide, in groups.
-struct UnsurePixels {
+/// Some pixels of a block, in groups.
+struct MarkedPixels {
     static constexpr int together = 8;
     int at[blockPixels + together], count = 0;
 
     /// Where `marked` is 1.
-    explicit UnsurePixels(const unsigned char (&marked)[blockPixels])
+    explicit MarkedPixels(const unsigned char (&marked)[blockPixels])
     {
         for (int i = 0; i < blockPixels; i += 8) {
             std::uint64_t any;
@@ -101,12 +101,12 @@ struct UnsurePixels {
     }
 };
 
-/// The exact recipe for these pixels.
+/// The exact recipe for these pixels only.
 template <class... Step, class ToByte>
 void decideExactly(
-    Block& block, const UnsurePixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
+    Block& block, const MarkedPixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
 {
-    constexpr int together = UnsurePixels::together;
+    constexpr int together = MarkedPixels::together;
     for (int first = 0; first < pixels.count; first += together) {
         const int* at = pixels.at + first;
         Rgb c[together];
@@ -145,5 +145,5 @@ void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, d
         unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
         return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
     });
-    decideExactly(block, UnsurePixels(unsure), steps, weights, toByte);
+    decideExactly(block, MarkedPixels(unsure), steps, weights, toByte);
 }

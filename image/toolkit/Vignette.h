@@ -1,0 +1,8 @@
+#pragma once
+
+class CharImage;
+
+/// CharImage::vignette without softened edges, but only for the pixels that stand nearer than `radius`, the outer one,
+/// to the centre: what is painted over anyway costs nothing.
+void vignetteDisc(
+    CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation);
