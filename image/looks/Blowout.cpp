@@ -5,10 +5,9 @@
 void CharImage::applyBlowoutFilter()
 {
     const Levels levels = levelsOf(*this, {0.01f, 0.1f, 20.0f, 255.0f, false, true});
-    const auto levelled = [=](auto c) { return eachChannel(c, levels); };
     const auto blown = [](auto c) {
         const auto gain = lightnessOf(c) + 1.0f;
         return eachChannel(c, [=](auto v) { return v * gain; });
     };
-    forEachPixel(*this, Steps(levelled, blown));
+    forEachPixel(*this, levels, blown);
 }

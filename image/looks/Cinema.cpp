@@ -24,7 +24,6 @@ void CharImage::applyCinemaFilter()
     const CinemaParameters p = currentParameters<CinemaParameters>();
     const Rgb tint = {float(p.tint[0]), float(p.tint[1]), float(p.tint[2])};
     const Levels levels = levelsOf(*this, {0.05f, 0.0f, 5.0f, 255.0f, true, true});
-    const auto levelled = [=](auto c) { return eachChannel(c, levels); };
     const auto highlit = [=](auto c) {
         const auto boost = rounded(byteLuminance(c) * per255);
         c = eachChannel(c, [=](auto v) { return withShareTimes(v, boost, 1.5f); });
@@ -41,5 +40,5 @@ void CharImage::applyCinemaFilter()
         const auto d = rounded(luminance(c) * -per255 + 1.0);
         return eachChannel(c, [=](auto v) { return withShareTimes(v, d, 1.5f); });
     };
-    forEachPixel(*this, Steps(levelled, highlit, muted, tinted, lifted));
+    forEachPixel(*this, levels, Steps(highlit, muted, tinted, lifted));
 }

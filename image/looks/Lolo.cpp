@@ -24,7 +24,6 @@ void CharImage::applyLoloFilter()
 {
     const LoloParameters p = currentParameters<LoloParameters>();
     const Levels levels = levelsOf(*this, {0.005f, 0.01f, p.darkLevel, p.brightLevel, true, true});
-    const auto levelled = [=](auto c) { return eachChannel(c, levels); };
     const auto saturated = [=](auto c) {
         const auto lum = byteLuminance(c);
         c = eachChannel(c, [=](auto v) { return p.saturation * v + lum * (1.0f - p.saturation); });
@@ -38,5 +37,5 @@ void CharImage::applyLoloFilter()
         const auto level = luminance(Colour{c.r, c.g, c.b * 0.97f}) * (1.0f - 0.9f);
         return Colour{c.r * 0.9f + level, c.g * 0.9f + level, c.b * 0.873f + level}; // 0.873 = 0.97 x 0.9
     };
-    forEachPixel(*this, Steps(levelled, saturated, warmed, muted));
+    forEachPixel(*this, levels, Steps(saturated, warmed, muted));
 }

@@ -26,8 +26,7 @@ void CharImage::apply1962Filter()
 {
     const Look1962Parameters p = currentParameters<Look1962Parameters>();
     const Levels levels = levelsOf(*this, {p.darkFraction, p.brightFraction, p.darkLevel, 245.0f, false, false});
-    forEachPixel(*this, [=](Rgb c) {
-        c = eachChannel(c, levels);
+    forEachPixel(*this, levels, [=](Rgb c) {
         const float level = luminance(Rgb{c.r * p.gain[0], c.g * p.gain[1], c.b * p.gain[2]});
         return p.contrast * (level - p.pivot) + p.pivot;
     });

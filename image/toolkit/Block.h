@@ -63,11 +63,16 @@ struct Block : Planes {
 
     void fillPlanes()
     {
+        fillPlanes([](float v) { return v; });
+    }
+
+    /// With what `function` makes of each channel, 0 .. 255.
+    template <class Function> void fillPlanes(Function function)
+    {
         for (int i = 0; i < blockPixels; i++) {
             const std::uint32_t w = word(i);
-            setColour(i,
-                {float(int(w >> redShift & 255u)), float(int(w >> greenShift & 255u)),
-                    float(int(w >> blueShift & 255u))});
+            const Colour<int> c{int(w >> redShift & 255u), int(w >> greenShift & 255u), int(w >> blueShift & 255u)};
+            setColour(i, eachChannel(c, [&](int v) { return function(float(v)); }));
         }
     }
 

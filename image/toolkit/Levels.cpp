@@ -65,15 +65,6 @@ std::size_t sampledEnd(const CharImage& image)
 
 } // namespace
 
-ErrorBound Levels::operator()(ErrorBound v) const
-{
-    const bool rising = scale >= 0.0f && scale < std::numeric_limits<float>::infinity() && floor >= 0.0f
-        && floor <= ceiling && ceiling < 256.0f;
-    const ErrorBound range =
-        rising ? ErrorBound((*this)(float(v.low)), (*this)(float(v.high))) : ErrorBound(0.0, 255.0);
-    return {range.low, range.high, v.error == 0.0 ? 0.0 : std::numeric_limits<double>::infinity()};
-}
-
 Levels levelsOf(const GrowArray<int>& histogram, int minLum, const Stretch& stretch)
 {
     const float total = float(sumOf(histogram));
@@ -123,8 +114,10 @@ void CharImage::fillHistogram(
 {
     const Levels levels =
         levelsOf(*this, {lowFraction, highFraction, lowLevel, highLevel, clampToLowLevel, clampToHighLevel});
-    forEachBlock(*this, [=](Block& block) {
-        block.fillPlanes();
-        block.storePlanes([=](float v) { return levels.byteOf(v); });
+    withByteOf(levels, [this](auto byteOf) {
+        forEachBlock(*this, [=](Block& block) {
+            block.fillPlanes();
+            block.storePlanes(byteOf);
+        });
     });
 }

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "image/CharImage.h"
-#include "image/toolkit/ErrorBound.h"
-#include "image/toolkit/Single.h"
+#include "image/toolkit/Arithmetic.h"
 
 /// The levels stretch of fillHistogram for one picture: what a channel's whole value 0 .. 255 becomes, a whole value
 /// too. A pass that takes it on the way in saves a pass of its own over the picture.
@@ -14,14 +13,36 @@ struct Levels {
 
     int byteOf(float v) const
     {
-        const float x = scale * (v - offset) + lowLevel;
+        const float x = placeOf(v);
         const float notAbove = x >= ceiling ? ceiling : x;
         return truncateToInt(x < floor ? floor : notAbove) & 255;
     }
     float operator()(float v) const { return float(byteOf(v)); }
-    Single operator()(Single v) const { return (*this)(v.value); }
-    ErrorBound operator()(ErrorBound v) const;
+
+    /// Whether every value lands on a number that is held within 0 .. 255, so that half of byteOf's care is not needed.
+    bool isOrdinary() const
+    {
+        return std::isfinite(scale) && std::isfinite(lowLevel) && floor >= 0.0f && floor <= ceiling && ceiling < 256.0f;
+    }
+    int ordinaryByteOf(float v) const
+    {
+        const float x = placeOf(v);
+        const float notBelow = x > floor ? x : floor;
+        return int(notBelow < ceiling ? notBelow : ceiling);
+    }
+
+private:
+    float placeOf(float v) const { return scale * (v - offset) + lowLevel; }
 };
+
+/// Calls `function(byteOf)` with the quickest function that these levels are.
+template <class Function> void withByteOf(const Levels& levels, Function function)
+{
+    if (levels.isOrdinary())
+        function([=](float v) { return levels.ordinaryByteOf(v); });
+    else
+        function([=](float v) { return levels.byteOf(v); });
+}
 
 /// What fillHistogram asks for.
 struct Stretch {

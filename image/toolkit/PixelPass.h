@@ -79,10 +79,10 @@ struct NoLevels {
     int operator()(float v) const { return truncateAndClamp(v); }
     int ofWhole(int v) const { return v; }
 };
-struct LevelsOnBytes {
-    Levels levels;
+template <class ByteOf> struct LevelsOnBytes {
+    ByteOf levels;
     int operator()(float v) const { return ofWhole(truncateAndClamp(v)); }
-    int ofWhole(int v) const { return levels.byteOf(float(v)); }
+    int ofWhole(int v) const { return levels(float(v)); }
 };
 
 /// Works a recipe into the planes of a block and stores them as bytes. The weights are those of its pixels, if any.
@@ -131,6 +131,22 @@ struct Colours {
     }
 };
 
+/// Colours taken through the levels of a picture.
+struct LevelledColours {
+    const Levels& levels;
+
+    Inputs inputs() const
+    {
+        const ChannelRanges ranges = ChannelRanges::of(channelCurve([&](int v) { return levels(float(v)); }));
+        return {ranges, ranges, ranges, {}};
+    }
+    const float* fill(Block& block) const
+    {
+        withByteOf(levels, [&](auto byteOf) { block.fillPlanes([=](float v) { return float(byteOf(v)); }); });
+        return nullptr;
+    }
+};
+
 /// Colours taken through a curve per channel.
 struct CurvedColours {
     const ChannelCurve &red, &green, &blue;
@@ -175,8 +191,10 @@ void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stre
     GrowArray<int> histogram;
     int minLum;
     getHistogramOfSamples(samples, &histogram, &minLum);
-    const LevelsOnBytes levels = {levelsOf(histogram, minLum, stretch)};
-    forEachBlock(image, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error, levels); });
+    withByteOf(levelsOf(histogram, minLum, stretch), [&](auto byteOf) {
+        const LevelsOnBytes<decltype(byteOf)> levels = {byteOf};
+        forEachBlock(image, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error, levels); });
+    });
 }
 
 /// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the others,
@@ -185,6 +203,13 @@ template <class Function, class... Finish> void forEachPixel(CharImage& image, F
 {
     Colours source;
     passOver(image, source, stepsOf(function), finish...);
+}
+
+/// Each pixel becomes `function(colour)`, the colour taken through the levels first.
+template <class Function> void forEachPixel(CharImage& image, const Levels& levels, Function function)
+{
+    LevelledColours source{levels};
+    passOver(image, source, stepsOf(function));
 }
 
 /// Each pixel becomes `function(colour)`, the colour taken through a curve per channel first.

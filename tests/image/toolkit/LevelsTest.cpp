@@ -1,7 +1,9 @@
 #include "image/CharImage.h"
+#include "image/toolkit/Levels.h"
 #include "tests/reference/Toolkit.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace {
 
@@ -123,6 +125,21 @@ TEST(Levels, TakesAFractionAboveOneAsTheFirstBin)
 {
     // The bright cut-off is then 0 as well: the scale is infinite, and everything above the offset is white.
     EXPECT_EQ(levelOf(row(31, {0, 100}, 70), 1, 0.0f, 1.5f, 0, 255, true, true), 255);
+}
+
+TEST(Levels, AreOrdinaryWhereTheShortFormIsTheSame)
+{
+    const float infinite = std::numeric_limits<float>::infinity();
+    for (const Levels& odd : {Levels{9, infinite, 5, 5, 255}, Levels{9, -infinite, 5, 5, 255},
+             Levels{9, infinite - infinite, 5, 5, 255}, Levels{9, 2, -20, -20, 255}, Levels{9, 2, 0, 0, 300},
+             Levels{9, 2, infinite, 0, 255}, Levels{9, 2, 90, 90, 80}})
+        EXPECT_FALSE(odd.isOrdinary());
+    for (const Levels& levels : {Levels{12, 1.7f, 5, 5, 255}, Levels{0, 1, 0, 0, 255}, Levels{300, -1.3f, 250, 0, 240},
+             Levels{7, 3e38f, 20, 20, 255}, Levels{7, 0, 77, 77, 77}}) {
+        EXPECT_TRUE(levels.isOrdinary());
+        for (int v = 0; v < 256; v++)
+            EXPECT_EQ(levels.ordinaryByteOf(float(v)), levels.byteOf(float(v))) << levels.scale << " at " << v;
+    }
 }
 
 TEST(Levels, CountAsTheirTwin)
