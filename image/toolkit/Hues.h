@@ -96,21 +96,34 @@ inline float wholeBelow(float x)
     return std::fabs(x) < 8388608.0f ? below : x; // from 2^23 on every float is whole
 }
 
-inline Rgb rgbOf(Hsv c)
+/// `sextant` is the whole part of the hue's `sextants`; by a plain cast, where it is known to be in range, this becomes
+/// vector code.
+inline Rgb rgbOf(Hsv c, float sextants, float sextant)
 {
-    const float h6 = float(c.h * 0.002777777777777778) * 6.0f;
-    const float sextant = wholeBelow(h6);
-    const float f = h6 - sextant;
+    const float f = sextants - sextant;
     const float p = c.v * (1.0f - c.s), q = c.v * (1.0f - c.s * f), t = c.v * (1.0f - c.s * (1.0f - f));
     const Rgb coloured = ofSextant(sextant, c.v, t, q, p, Rgb{c.v, p, q});
     return eachChannel(c.s == 0.0f ? grey(c.v) : coloured, [](float u) { return u * 255.0f; });
 }
 
-/// Multiplies saturation and value of a colour on 0 .. 255 and keeps its hue. The factors are doubles.
+inline float sextantsOf(Hsv c)
+{
+    return float(c.h * 0.002777777777777778) * 6.0f;
+}
+
+inline Rgb rgbOf(Hsv c)
+{
+    const float sextants = sextantsOf(c);
+    return rgbOf(c, sextants, wholeBelow(sextants));
+}
+
+/// Multiplies saturation and value of a colour on 0 .. 255, of finite channels, and keeps its hue. The factors are
+/// doubles.
 inline Rgb withSaturationAndValueTimes(Rgb c, double saturation, double value)
 {
-    const Hsv hsv = hsvOf(c);
-    return rgbOf(Hsv{hsv.h, float(hsv.s * saturation), float(hsv.v * value)});
+    const Hsv before = hsvOf(c), after = {before.h, float(before.s * saturation), float(before.v * value)};
+    const float sextants = sextantsOf(after);
+    return rgbOf(after, sextants, float(int(sextants))); // 0 .. 5 for a hue of hsvOf
 }
 
 /// What differs between channels by less is too near for a trial to tell how the conversion there and back ends: a hue

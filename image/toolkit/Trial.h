@@ -90,14 +90,26 @@ struct MarkedPixels {
     /// Where `marked` is 1.
     explicit MarkedPixels(const unsigned char (&marked)[blockPixels])
     {
-        for (int i = 0; i < blockPixels; i += 8) {
-            std::uint64_t any;
-            std::memcpy(&any, marked + i, 8);
-            for (int j = i; any != 0 && j < i + 8; j++)
-                if (marked[j])
-                    at[count++] = j;
+        for (int first = 0; first < blockPixels; first += 64) {
+            std::uint64_t bits = 0;
+            for (int i = 0; i < 64; i += 8)
+                bits |= bitsOf(marked + first + i) << i;
+            for (; bits != 0; bits &= bits - 1)
+                at[count++] = first + std::countr_zero(bits);
         }
         std::fill_n(at + count, together, 0); // so that the last group is whole
+    }
+
+private:
+    /// Eight bytes of 0 or 1 as the bits of a byte, the first one as the lowest: the product brings them together in
+    /// its top byte.
+    static std::uint64_t bitsOf(const unsigned char* bytes)
+    {
+        std::uint64_t eight;
+        std::memcpy(&eight, bytes, 8);
+        if constexpr (std::endian::native == std::endian::big)
+            eight = __builtin_bswap64(eight);
+        return eight * 0x0102040810204080u >> 56;
     }
 };
 
@@ -109,15 +121,24 @@ void decideExactly(
     constexpr int together = MarkedPixels::together;
     for (int first = 0; first < pixels.count; first += together) {
         const int* at = pixels.at + first;
-        Rgb c[together];
-        for (int j = 0; j < together; j++)
-            c[j] = block.colour(at[j]);
+        float r[together], g[together], b[together], weight[together] = {};
+        for (int j = 0; j < together; j++) {
+            r[j] = block.r.at[at[j]];
+            g[j] = block.g.at[at[j]];
+            b[j] = block.b.at[at[j]];
+            if (weights)
+                weight[j] = weights[at[j]];
+        }
         steps.forEach([&](const auto& step) {
-            for (int j = 0; j < together; j++)
-                c[j] = applied(step, c[j], weights, at[j]);
+            for (int j = 0; j < together; j++) {
+                const Rgb c = applied(step, Rgb{r[j], g[j], b[j]}, weight, j);
+                r[j] = c.r;
+                g[j] = c.g;
+                b[j] = c.b;
+            }
         });
         for (int j = 0; j < together && first + j < pixels.count; j++)
-            block.setBytes(at[j], eachChannel(c[j], toByte));
+            block.setBytes(at[j], eachChannel(Rgb{r[j], g[j], b[j]}, toByte));
     }
 }
 
