@@ -1,5 +1,6 @@
 #include "image/toolkit/Power.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstdlib>
@@ -108,12 +109,12 @@ inline bool isZero(float base)
 }
 
 /// `power(base)` for each value, and std::pow where it is not sure.
-template <class Function> void raiseBy(Plane& values, float exponent, Function power)
+template <class Function> void raiseBy(float* values, int count, float exponent, Function power)
 {
     Plane result;
     alignas(64) int unsure[blockPixels];
-    for (int i = 0; i < blockPixels; i++) {
-        const float base = values.at[i];
+    for (int i = 0; i < count; i++) {
+        const float base = values[i];
         const bool odd = isOdd(base);
         const Power p = power(odd ? 1.0f : base);
         const Rounded rounded = roundedBothWays(p);
@@ -121,31 +122,31 @@ template <class Function> void raiseBy(Plane& values, float exponent, Function p
         result.at[i] = zero ? 0.0f : rounded.below;
         unsure[i] = zero ? 0 : odd ? 1 : rounded.below == rounded.above ? 0 : 1;
     }
-    for (int i = 0; i < blockPixels; i += 8) {
+    for (int i = 0; i < count; i += 8) {
         int any = 0;
         for (int j = i; j < i + 8; j++)
             any |= unsure[j];
         for (int j = i; any != 0 && j < i + 8; j++)
             if (unsure[j])
-                result.at[j] = std::pow(values.at[j], exponent);
+                result.at[j] = std::pow(values[j], exponent);
     }
-    values = result;
+    std::copy_n(result.at, count, values);
 }
 
 } // namespace
 
-void raise(Plane& values, float exponent)
+void raise(float* values, int count, float exponent)
 {
     // The exponents that the recipes have.
     if (exponent == 1.5f)
-        raiseBy(values, exponent, [](float base) { return sesquiPowerOf(base); });
+        raiseBy(values, count, exponent, [](float base) { return sesquiPowerOf(base); });
     else if (exponent == 3.0f)
-        raiseBy(values, exponent, [](float base) { return productOf(base, 3.0, [](double x) { return x * x * x; }); });
+        raiseBy(values, count, exponent, [](float base) { return productOf(base, 3.0, [](double x) { return x * x * x; }); });
     else if (exponent == 5.0f)
-        raiseBy(values, exponent,
+        raiseBy(values, count, exponent,
             [](float base) { return productOf(base, 5.0, [](double x) { return x * x * (x * x) * x; }); });
     else
-        raiseBy(values, exponent, [=](float base) { return powerOf(base, exponent); });
+        raiseBy(values, count, exponent, [=](float base) { return powerOf(base, exponent); });
 }
 
 float sesquiPower(float value)

@@ -2,8 +2,13 @@
 
 #include "image/toolkit/Block.h"
 
-/// Raises every value of a block to `exponent`: each result is exactly what std::pow(value, exponent) gives.
-void raise(Plane& values, float exponent);
+/// Raises `count` values, a multiple of 8 and at most a block of them, to `exponent`: each result is exactly what std::pow(value, exponent)
+/// gives.
+void raise(float* values, int count, float exponent);
+inline void raise(Plane& values, float exponent)
+{
+    raise(values.at, blockPixels, exponent);
+}
 
 /// std::pow(value, 1.5f).
 float sesquiPower(float value);

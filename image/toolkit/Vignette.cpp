@@ -36,23 +36,8 @@ struct Shade {
     /// How far pixels at these places are darkened, 0 .. 1: `t` becomes it. Within the inner radius it is 0.
     void becomeDarkness(Plane& t) const
     {
-        int reached = 0;
-        for (int i = 0; i < blockPixels; i++)
-            reached |= !(t.at[i] < 0.0f);
-        if (!reached) {
-            t = {};
-            return;
-        }
-        Plane a, e;
-        for (int i = 0; i < blockPixels; i++)
-            a.at[i] = e.at[i] = t.at[i] < 0.0f ? 1.0f : t.at[i];
-        raise(a, 1.5f);
-        raise(e, exponent);
-        for (int i = 0; i < blockPixels; i++) {
-            const float dark = ((1.0f - a.at[i]) * e.at[i] + t.at[i] * a.at[i]) * strength;
-            const float held = dark < 0.0f ? 0.0f : dark > 1.0f ? 1.0f : dark;
-            t.at[i] = t.at[i] < 0.0f ? 0.0f : held;
-        }
+        for (int first = 0; first < blockPixels; first += partPixels)
+            becomeDarkness(t.at + first);
     }
 
     Rgb darkened(Rgb c, float level, float dark) const
@@ -71,6 +56,31 @@ struct Shade {
         forEachPixelAround(
             image, image.width / 2, image.height / 2, 1.0f, darknessAt,
             [*this](Rgb c, float dark) { return darkened(c, byteLuminance(c), dark); }, true);
+    }
+
+private:
+    /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
+    static constexpr int partPixels = 32;
+
+    void becomeDarkness(float* t) const
+    {
+        int reached = 0;
+        for (int i = 0; i < partPixels; i++)
+            reached |= !(t[i] < 0.0f);
+        if (!reached) {
+            std::fill_n(t, partPixels, 0.0f);
+            return;
+        }
+        float a[partPixels], e[partPixels];
+        for (int i = 0; i < partPixels; i++)
+            a[i] = e[i] = t[i] < 0.0f ? 1.0f : t[i];
+        raise(a, partPixels, 1.5f);
+        raise(e, partPixels, exponent);
+        for (int i = 0; i < partPixels; i++) {
+            const float dark = ((1.0f - a[i]) * e[i] + t[i] * a[i]) * strength;
+            const float held = dark < 0.0f ? 0.0f : dark > 1.0f ? 1.0f : dark;
+            t[i] = t[i] < 0.0f ? 0.0f : held;
+        }
     }
 };
 
