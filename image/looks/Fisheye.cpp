@@ -113,7 +113,7 @@ void CharImage::makeFisheye()
     const auto bend = [&](int x, int y, const unsigned char* const* rows) {
         unsigned char* const pixels = data + (std::size_t(y) * width + x) * 4;
         const int count = std::min(blockPixels, width - x);
-        block.read(pixels, count);
+        block.open(pixels, count);
         places.find(x, y, factor, across, down);
         if (places.any) {
             h.find(places.x, across);
@@ -127,7 +127,7 @@ void CharImage::makeFisheye()
         } else
             workPlanes(block, [](Rgb, int) { return grey(0.0f); });
         block.storePlanes([](float value) { return int(value); });
-        block.write(pixels, count);
+        block.close();
     };
 
     // From the middle row outwards, so that rows which mirror one another share their factors. A row reads at most

@@ -53,13 +53,28 @@ inline ChannelCurve filmCurve(float exponent)
     });
 }
 
-/// The pixels of a block as the image holds them, and their channels. A block that is only part filled is
-/// computed to its end all the same; the surplus is never written back.
-struct Block : Planes {
-    alignas(64) unsigned char bytes[blockPixels * 4] = {};
+/// The pixels of a block in the image, and their channels. They are worked on where they lie; only a block that is part
+/// filled is computed to its end in a copy, of which the surplus is never written back.
+class Block : public Planes {
+public:
+    Block() = default;
+    Block(const Block&) = delete;
+    Block& operator=(const Block&) = delete;
 
-    void read(const unsigned char* pixels, int count) { std::memcpy(bytes, pixels, std::size_t(count) * 4); }
-    void write(unsigned char* pixels, int count) const { std::memcpy(pixels, bytes, std::size_t(count) * 4); }
+    /// Takes up `count` pixels, 1 .. blockPixels; they are as the stores below leave them once the block is closed.
+    void open(unsigned char* pixels, int count)
+    {
+        m_pixels = pixels;
+        m_count = count;
+        m_bytes = count == blockPixels ? pixels : m_part;
+        if (m_bytes == m_part)
+            std::memcpy(m_part, pixels, std::size_t(count) * 4);
+    }
+    void close()
+    {
+        if (m_bytes == m_part)
+            std::memcpy(m_pixels, m_part, std::size_t(m_count) * 4);
+    }
 
     void fillPlanes()
     {
@@ -69,8 +84,9 @@ struct Block : Planes {
     /// With what `function` makes of each channel, 0 .. 255.
     template <class Function> void fillPlanes(Function function)
     {
+        const unsigned char* __restrict from = m_bytes;
         for (int i = 0; i < blockPixels; i++) {
-            const std::uint32_t w = word(i);
+            const std::uint32_t w = wordAt(from + 4 * i);
             const Colour<int> c{int(w >> redShift & 255u), int(w >> greenShift & 255u), int(w >> blueShift & 255u)};
             setColour(i, eachChannel(c, [&](int v) { return function(float(v)); }));
         }
@@ -79,21 +95,17 @@ struct Block : Planes {
     void fillPlanes(const ChannelCurve& forRed, const ChannelCurve& forGreen, const ChannelCurve& forBlue)
     {
         for (int i = 0; i < blockPixels; i++)
-            setColour(i, {forRed.at[bytes[4 * i]], forGreen.at[bytes[4 * i + 1]], forBlue.at[bytes[4 * i + 2]]});
+            setColour(i, {forRed.at[m_bytes[4 * i]], forGreen.at[m_bytes[4 * i + 1]], forBlue.at[m_bytes[4 * i + 2]]});
     }
 
     /// Stores `bytesOf(i)`, a Colour of 0 .. 255, for each pixel; the spare bytes stay.
     template <class BytesOf> void storeBytes(BytesOf bytesOf)
     {
+        unsigned char* __restrict to = m_bytes;
         for (int i = 0; i < blockPixels; i++)
-            setBytes(i, bytesOf(i));
+            setColour(to + 4 * i, bytesOf(i));
     }
-    void setBytes(int i, Colour<int> c)
-    {
-        setWord(i,
-            (word(i) & ~colourMask) | std::uint32_t(c.r) << redShift | std::uint32_t(c.g) << greenShift
-                | std::uint32_t(c.b) << blueShift);
-    }
+    void setBytes(int i, Colour<int> c) { setColour(m_bytes + 4 * i, c); }
 
     /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255.
     template <class ToByte> void storePlanes(ToByte toByte)
@@ -110,16 +122,28 @@ struct Block : Planes {
         });
     }
 
+    using Planes::setColour;
+
 private:
     static constexpr bool little = std::endian::native == std::endian::little;
     static constexpr int redShift = little ? 0 : 24, greenShift = little ? 8 : 16, blueShift = little ? 16 : 8;
     static constexpr std::uint32_t colourMask = 255u << redShift | 255u << greenShift | 255u << blueShift;
 
-    std::uint32_t word(int i) const
+    static std::uint32_t wordAt(const unsigned char* pixel)
     {
         std::uint32_t w;
-        std::memcpy(&w, bytes + 4 * i, 4);
+        std::memcpy(&w, pixel, 4);
         return w;
     }
-    void setWord(int i, std::uint32_t w) { std::memcpy(bytes + 4 * i, &w, 4); }
+    static void setColour(unsigned char* pixel, Colour<int> c)
+    {
+        const std::uint32_t w = (wordAt(pixel) & ~colourMask) | std::uint32_t(c.r) << redShift
+            | std::uint32_t(c.g) << greenShift | std::uint32_t(c.b) << blueShift;
+        std::memcpy(pixel, &w, 4);
+    }
+
+    unsigned char* m_bytes = m_part;
+    unsigned char* m_pixels = nullptr;
+    int m_count = 0;
+    alignas(64) unsigned char m_part[blockPixels * 4] = {};
 };

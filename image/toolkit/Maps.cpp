@@ -50,7 +50,7 @@ void CharImage::fillEdgeDetectMap(unsigned char* map) const
     Block block;
     const auto give = [&](int y) {
         for (int x = 0; x < width; x += blockPixels) {
-            block.read(data + (std::size_t(y) * width + x) * 4, std::min(blockPixels, width - x));
+            block.open(data + (std::size_t(y) * width + x) * 4, std::min(blockPixels, width - x));
             block.fillPlanes();
             edges.setBlock(x, planeOf(block, [](Rgb c) { return byteLuminance(c); }));
         }

@@ -29,9 +29,9 @@ template <class Function> void forEachBlock(CharImage& image, Function function)
     for (std::size_t first = 0; first < end; first += blockPixels) {
         unsigned char* pixels = image.data + first * 4;
         const int count = int(std::min<std::size_t>(blockPixels, end - first));
-        block.read(pixels, count);
+        block.open(pixels, count);
         function(block);
-        block.write(pixels, count);
+        block.close();
     }
 }
 
@@ -45,9 +45,9 @@ void forEachBlockOfRow(CharImage& image, int y, Wanted wanted, Function function
             continue;
         unsigned char* pixels = image.data + (std::size_t(y) * image.width + x) * 4;
         const int count = std::min(blockPixels, image.width - x);
-        block.read(pixels, count);
+        block.open(pixels, count);
         function(block, x);
-        block.write(pixels, count);
+        block.close();
     }
 }
 

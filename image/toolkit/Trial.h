@@ -130,6 +130,7 @@ void decideExactly(
                 weight[j] = weights[at[j]];
         }
         steps.forEach([&](const auto& step) {
+#pragma GCC unroll 1 // eight iterations written out would not become vector code
             for (int j = 0; j < together; j++) {
                 const Rgb c = applied(step, Rgb{r[j], g[j], b[j]}, weight, j);
                 r[j] = c.r;
