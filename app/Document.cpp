@@ -3,6 +3,7 @@
 #include "render/FreeMemory.h"
 #include "render/PhotoLoader.h"
 #include "render/PhotoSaver.h"
+#include "render/Scaled.h"
 #include "ui_MainWindow.h"
 
 #include <QColorSpace>
@@ -15,11 +16,6 @@ namespace {
 
 constexpr qint64 largeFile = 2'000'000; ///< bytes; a smaller one is decoded in a moment
 constexpr int longestStrip = 10; ///< how many times as long as broad a thumbnail copy may be
-
-QImage scaledTo(const QImage& image, const QSize& size)
-{
-    return image.size() == size ? image : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
 
 /// The middle of a long strip, all of any other picture. A thumbnail shows no more than the middle, in a square as large
 /// as its copy is long: those of whole strips would take gigabytes.

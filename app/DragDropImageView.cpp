@@ -1,5 +1,7 @@
 #include "app/DragDropImageView.h"
 
+#include "render/Scaled.h"
+
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -77,9 +79,7 @@ const QImage& DragDropImageView::fitted()
     Fitted& fit = fittedImages[comparing];
     if (fit.of != shown.cacheKey() || fit.image.size() != shownPixels()) {
         fit.of = shown.cacheKey();
-        fit.image = shown.size() == shownPixels()
-            ? shown
-            : shown.scaled(shownPixels(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        fit.image = scaledTo(shown, shownPixels());
         fit.image.convertTo(QImage::Format_RGB32); // the screen's, so that painting only copies
     }
     return fit.image;

@@ -1,6 +1,7 @@
 #include "app/MainWindowController.h"
 #include "app/Rules.h"
 #include "image/CharImage.h"
+#include "render/FreedBlocks.h"
 #include "ui_MainWindow.h"
 
 #include <QCoreApplication>
@@ -48,6 +49,7 @@ void MainWindowController::awakeFromNib()
 
 void MainWindowController::completeNibLoading()
 {
+    keepFreedBlocks();
     std::srand(unsigned(std::time(nullptr)));
     CharImage::renewRandomNumbers();
 
