@@ -9,6 +9,7 @@
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 
@@ -70,6 +71,22 @@ PlacedRect fillArea(float aspect, int outWidth, int outHeight, const Margins& ma
 bool covers(const PlacedRect& rect, int outWidth, int outHeight)
 {
     return rect.x <= 0.0 && rect.y <= 0.0 && rect.x + rect.width >= outWidth && rect.y + rect.height >= outHeight;
+}
+
+/// Two pixels at a time: this walks over every render.
+void fillSpareBytes(unsigned char* pixels, std::size_t size)
+{
+    constexpr unsigned char spareBytes[] = {0, 0, 0, 255, 0, 0, 0, 255};
+    std::uint64_t spare, pair;
+    std::memcpy(&spare, spareBytes, sizeof spare);
+    std::size_t i = 0;
+    for (; i + sizeof pair <= size; i += sizeof pair) {
+        std::memcpy(&pair, pixels + i, sizeof pair);
+        pair |= spare;
+        std::memcpy(pixels + i, &pair, sizeof pair);
+    }
+    if (i < size)
+        pixels[i + 3] = 255;
 }
 
 void freeBlock(void* pixels)
@@ -143,9 +160,7 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
 
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height)
 {
-    const std::size_t size = blockSize(width, height);
-    for (std::size_t i = 3; i < size; i += 4)
-        pixels[i] = 255;
+    fillSpareBytes(pixels, blockSize(width, height));
     return QImage(pixels, width, height, qsizetype(width) * 4, QImage::Format_RGBX8888, freeBlock, pixels);
 }
 

@@ -20,11 +20,14 @@ void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int 
     const float hardness = softness >= 1.0f ? softness : 1.0f;
     const int farLeft = width - right - radius, farTop = height - bottom - radius;
     const auto within = [radius](int v, int start) { return v >= start && v < start + radius; };
-    for (int y = 0; y < height; y++)
+    for (int y = 0; y < height; y++) {
+        // Squares that overlap in a small picture: the last one decides, bottom before top and right before left.
+        const bool isBottom = within(y, farTop);
+        if (!isBottom && !within(y, top))
+            continue;
         for (int x = 0; x < width; x++) {
-            // Squares that overlap in a small picture: the last one decides, bottom before top and right before left.
-            const bool isRight = within(x, farLeft), isBottom = within(y, farTop);
-            if (!(isRight || within(x, left)) || !(isBottom || within(y, top)))
+            const bool isRight = within(x, farLeft);
+            if (!isRight && !within(x, left))
                 continue;
             const int cx = isRight ? farLeft : left + radius - 1;
             const int cy = isBottom ? farTop : top + radius - 1;
@@ -39,4 +42,5 @@ void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int 
             for (int channel = 0; channel < 3; channel++)
                 pixel[channel] = truncateAndWrap(w * float(colour[channel]) + (1.0f - w) * float(pixel[channel]));
         }
+    }
 }
