@@ -1,6 +1,5 @@
 #include "image/looks/Delicious.h"
 
-#include "image/toolkit/Hues.h"
 #include "image/toolkit/MapRows.h"
 #include "image/toolkit/PixelPass.h"
 
@@ -35,21 +34,11 @@ ChannelCurve bandedLightness()
     return channelCurve([](int tone) { return float(bandedTone(static_cast<unsigned char>(tone)) * per255); });
 }
 
-/// Gives each pixel its lightness and a stronger colour: one small loop per step, which the compilers turn into vector
-/// code where they give up on all of it at once.
+/// Gives each pixel its lightness and a stronger colour.
 void recolour(Block& block, const Plane& lightness)
 {
     block.fillPlanes();
-    Plane hue, saturation;
-    for (int i = 0; i < blockPixels; i++) {
-        const Hsl c = hslOf(block.colour(i));
-        hue.at[i] = c.h;
-        saturation.at[i] = c.s;
-    }
-    // Pure red has the hue 1.0 and comes out grey, on purpose.
-    for (int i = 0; i < blockPixels; i++)
-        block.setColour(i, rgbOf(Hsl{hue.at[i], saturation.at[i], lightness.at[i]}, float(int(hue.at[i] * 6.0f))));
-    workBlock(block, Steps([](Rgb c) { return withSaturation(c, 2.0f); }));
+    tryBlock(block, Steps(Recoloured()), lightness.at, Recoloured::error, NoLevels());
 }
 
 /// How much of the outlines' grey covers a pixel, by the strength of its edge.

@@ -2,6 +2,11 @@
 
 #include "image/looks/Delicious.h"
 
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <utility>
+
 TEST(Delicious, MatchesItsTwin)
 {
     expectLookMatchesTwin(18, reference::delicious);
@@ -22,6 +27,37 @@ TEST(Delicious, TurnsPureRedGrey)
     image->applyFilter(18);
     EXPECT_EQ(image->data[0], image->data[1]);
     EXPECT_EQ(image->data[0], image->data[2]);
+}
+
+TEST(Delicious, RecoloursInShortAsFarOffAsItSaysAtMost)
+{
+    std::mt19937 random(11);
+    const auto byte = [&] { return float(random() % 256); };
+    double worst = 0.0;
+    int undecided = 0;
+    constexpr int count = 2000000;
+    for (int k = 0; k < count; k++) {
+        Rgb c = {byte(), byte(), byte()};
+        if (k % 3 == 1) // nearly grey, where quotients of small distances are least exact
+            c = {c.r, std::min(c.r + float(random() % 3), 255.0f), std::max(c.r - float(random() % 3), 0.0f)};
+        if (k % 3 == 2) // extremes that meet
+            c.g = random() % 2 ? c.r : c.b;
+        const float lightness = float(float(random() % 256) * per255);
+        const Rgb exact = Recoloured()(c, lightness);
+        const Colour<Single> tried = Recoloured()(Colour<Single>{c.r, c.g, c.b}, lightness);
+        const bool isGrey = c.g == c.b && c.r >= c.g;
+        for (const auto& [wanted, got] :
+            {std::pair(exact.r, tried.r.value), std::pair(exact.g, tried.g.value), std::pair(exact.b, tried.b.value)}) {
+            if (isGrey)
+                ASSERT_EQ(truncateAndClamp(got), truncateAndClamp(wanted)) << c.r << ", " << c.g << ", " << c.b;
+            else if (got == 255.0f)
+                undecided++;
+            else
+                worst = std::max(worst, std::fabs(double(wanted) - double(got)));
+        }
+    }
+    EXPECT_LE(worst, Recoloured::error);
+    EXPECT_LT(undecided, count);
 }
 
 TEST(Delicious, SteepensEveryColourAsTheRecipeDoes)
