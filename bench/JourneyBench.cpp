@@ -25,7 +25,8 @@
 
 namespace {
 
-constexpr int width = 6000, height = 4000, previewSide = 1200, rounds = 3;
+constexpr int width = 6000, height = 4000, previewSide = 1200;
+constexpr int rounds = 3, pressRounds = 10;
 
 double leastOf(int times, const std::function<double()>& measure)
 {
@@ -88,7 +89,7 @@ void measureWindow(const QByteArray& photo)
     const GrowArray<int> looks = CharImage::getLooks();
     for (int i = 0; i < looks.numThings; i++) {
         const int look = looks.theArray[i];
-        const double press = leastOf(rounds, [&] {
+        const double press = leastOf(pressRounds, [&] {
             secondsOf([&] { window.applyOriginalFilter(); });
             paint(window);
             return secondsOf([&] {
