@@ -51,12 +51,12 @@ void CharImage::applyHelgaFilter()
 
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
     const float reach = float(1.49 * std::sqrt(double(halfWidth * halfWidth + halfHeight * halfHeight)));
-    const auto fallOffAt = [=](Plane& fallOff, int dx, int dy) {
-        for (int i = 0; i < blockPixels; i++) {
+    const auto fallOffAt = [=](float* fallOff, int count, int dx, int dy) {
+        for (int i = 0; i < count; i++) {
             const float x = float(dx + i), y = float(dy);
-            fallOff.at[i] = std::sqrt(x * x + y * y) / reach;
+            fallOff[i] = std::sqrt(x * x + y * y) / reach;
         }
-        applySCurve(fallOff, p.edgeExponent);
+        applySCurve(fallOff, count, p.edgeExponent);
     };
     const auto contrasted = [=](auto c) {
         c = eachChannel(c, [=](auto v) { return withContrast(v, p.contrast); });

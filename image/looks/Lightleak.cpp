@@ -22,17 +22,17 @@ struct Leak {
     }
 
     /// The glow's weights, 0 .. 0.15, of pixels that stand so far from the place.
-    void glowAt(Plane& glow, int firstX, int row) const
+    void glowAt(float* glow, int count, int firstX, int row) const
     {
-        for (int i = 0; i < blockPixels; i++) {
+        for (int i = 0; i < count; i++) {
             const double dx = firstX + i, dy = row;
             const float d = float(std::sqrt(dx * dx + dy * dy));
             const float q = 1.0f - d / radius;
-            glow.at[i] = q < 0.0f ? 0.0f : q > 1.0f ? 1.0f : q;
+            glow[i] = q < 0.0f ? 0.0f : q > 1.0f ? 1.0f : q;
         }
-        raise(glow, 1.5f);
-        for (float& g : glow.at)
-            g = float(g * heaviestGlow);
+        raise(glow, count, 1.5f);
+        for (int i = 0; i < count; i++)
+            glow[i] = float(glow[i] * heaviestGlow);
     }
 };
 
@@ -78,7 +78,8 @@ void CharImage::applyLightleakFilter()
         return eachChannel(c, [=](auto v) { return notBelow(withShareTimes(v, p, 1.1f) * 1.35f, 62.5f); });
     };
     forEachPixelAround(
-        *this, leak.x, leak.y, heaviestGlow, [=](Plane& glow, int dx, int dy) { leak.glowAt(glow, dx, dy); },
+        *this, leak.x, leak.y, heaviestGlow,
+        [=](float* glow, int count, int dx, int dy) { leak.glowAt(glow, count, dx, dy); },
         Steps(shaded, violet, muted, glowing, contrasted));
 
     const float halfWidth = width * 0.5f, halfHeight = height * 0.5f;

@@ -230,19 +230,18 @@ void forEachPixel(CharImage& image, const ToneTable& tones, Function function, F
 }
 
 /// Each pixel becomes `function(colour, weight)`, the weight depending only on how far the pixel stands from a centre,
-/// a pixel of the image, across and down. `evaluate(plane, dx, dy)` fills a plane with the weights, 0 .. `heaviest`,
-/// for the distances across dx, dx + 1, ... and the distance down dy, once for the up to four pixels that mirror one
-/// another. Where a weight of 0 `keepsPixels`, blocks without another weight are passed over.
+/// a pixel of the image, across and down. `evaluate(weights, count, dx, dy)` gives `count` weights, 0 .. `heaviest`, at
+/// most a block of them and a multiple of 8, for the distances across dx, dx + 1, ... and the distance down dy, once for
+/// the up to four pixels that mirror one another. Where a weight of 0 `keepsPixels`, blocks without another weight are passed over.
 template <class Evaluate, class Function>
 void forEachPixelAround(CharImage& image, int centreX, int centreY, float heaviest, Evaluate evaluate,
     Function function, bool keepsPixels = false)
 {
-    const auto inWholeBlocks = [](int count) {
-        return (std::size_t(count) + blockPixels - 1) / blockPixels * blockPixels;
-    };
+    const auto inWhole = [](int unit, int count) { return (count + unit - 1) / unit * unit; };
     const int reachX = std::max(centreX, image.width - 1 - centreX);
     const int reachY = std::max(centreY, image.height - 1 - centreY);
-    std::vector<float> half(inWholeBlocks(reachX + 1)), row(inWholeBlocks(image.width));
+    std::vector<float> half(std::size_t(inWhole(8, reachX + 1)));
+    std::vector<float> row(std::size_t(inWhole(blockPixels, image.width)));
     const auto recipe = stepsOf(function);
     const double error = errorOfTrial(recipe, Inputs::ofBytes({0.0, heaviest}));
     const auto workRow = [&](int y) {
@@ -260,11 +259,8 @@ void forEachPixelAround(CharImage& image, int centreX, int centreY, float heavie
         });
     };
     for (int dy = 0; dy <= reachY; dy++) {
-        for (int dx = 0; dx <= reachX; dx += blockPixels) {
-            Plane plane;
-            evaluate(plane, dx, dy);
-            std::memcpy(half.data() + dx, plane.at, sizeof plane.at);
-        }
+        for (int dx = 0; dx <= reachX; dx += blockPixels)
+            evaluate(half.data() + dx, std::min(blockPixels, int(half.size()) - dx), dx, dy);
         for (int x = 0; x < centreX; x++)
             row[x] = half[centreX - x];
         for (int x = centreX; x < image.width; x++)

@@ -1,5 +1,7 @@
 #include "image/toolkit/Power.h"
 
+#include "image/toolkit/Block.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstdint>
@@ -157,16 +159,16 @@ float sesquiPower(float value)
     return odd || rounded.below != rounded.above ? std::pow(value, 1.5f) : rounded.below;
 }
 
-void applySCurve(Plane& values, float exponent)
+void applySCurve(float* values, int count, float exponent)
 {
-    Plane power;
-    for (int i = 0; i < blockPixels; i++) {
-        const float x = values.at[i];
-        power.at[i] = x < 0.5f ? x + x : float(2.0 - 2.0 * x);
+    float power[blockPixels];
+    for (int i = 0; i < count; i++) {
+        const float x = values[i];
+        power[i] = x < 0.5f ? x + x : float(2.0 - 2.0 * x);
     }
-    raise(power, exponent);
-    for (int i = 0; i < blockPixels; i++) {
-        const float p = power.at[i], lower = p * 0.5f, upper = float(1.0 - 0.5 * p);
-        values.at[i] = values.at[i] < 0.5f ? lower : upper;
+    raise(power, count, exponent);
+    for (int i = 0; i < count; i++) {
+        const float p = power[i], lower = p * 0.5f, upper = float(1.0 - 0.5 * p);
+        values[i] = values[i] < 0.5f ? lower : upper;
     }
 }

@@ -1,17 +1,11 @@
 #pragma once
 
-#include "image/toolkit/Block.h"
-
 /// Raises `count` values, a multiple of 8 and at most a block of them, to `exponent`: each result is exactly what std::pow(value, exponent)
 /// gives.
 void raise(float* values, int count, float exponent);
-inline void raise(Plane& values, float exponent)
-{
-    raise(values.at, blockPixels, exponent);
-}
 
 /// std::pow(value, 1.5f).
 float sesquiPower(float value);
 
-/// The shared S-curve of Arithmetic.h on every value of a block.
-void applySCurve(Plane& values, float exponent);
+/// The shared S-curve of Arithmetic.h on as many values.
+void applySCurve(float* values, int count, float exponent);

@@ -22,22 +22,22 @@ struct Shade {
     bool boostSaturation;
     float end = std::numeric_limits<float>::infinity(); ///< the radius from which on nothing is darkened
 
-    /// Where the pixels of a block stand: from 0 at the inner to 1 at the outer radius.
-    void placeAt(Plane& t, int firstX, int y) const
+    /// Where `count` pixels of a row stand: from 0 at the inner to 1 at the outer radius.
+    void placeAt(float* t, int count, int firstX, int y) const
     {
         const float span = outerRadius - innerRadius;
-        for (int i = 0; i < blockPixels; i++) {
+        for (int i = 0; i < count; i++) {
             const float dx = float(firstX + i), dy = float(y), d = std::sqrt(dx * dx + dy * dy);
             const float place = (d - innerRadius) / span;
-            t.at[i] = d < end ? place : -1.0f;
+            t[i] = d < end ? place : -1.0f;
         }
     }
 
     /// How far pixels at these places are darkened, 0 .. 1: `t` becomes it. Within the inner radius it is 0.
-    void becomeDarkness(Plane& t) const
+    void becomeDarkness(float* t, int count) const
     {
-        for (int first = 0; first < blockPixels; first += partPixels)
-            becomeDarkness(t.at + first);
+        for (int first = 0; first < count; first += partPixels)
+            becomeDarknessOfPart(t + first, std::min(partPixels, count - first));
     }
 
     Rgb darkened(Rgb c, float level, float dark) const
@@ -49,9 +49,9 @@ struct Shade {
 
     void darken(CharImage& image) const
     {
-        const auto darknessAt = [this](Plane& weights, int dx, int dy) {
-            placeAt(weights, dx, dy);
-            becomeDarkness(weights);
+        const auto darknessAt = [this](float* weights, int count, int dx, int dy) {
+            placeAt(weights, count, dx, dy);
+            becomeDarkness(weights, count);
         };
         forEachPixelAround(
             image, image.width / 2, image.height / 2, 1.0f, darknessAt,
@@ -62,21 +62,21 @@ private:
     /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
     static constexpr int partPixels = 32;
 
-    void becomeDarkness(float* t) const
+    void becomeDarknessOfPart(float* t, int count) const
     {
         int reached = 0;
-        for (int i = 0; i < partPixels; i++)
+        for (int i = 0; i < count; i++)
             reached |= !(t[i] < 0.0f);
         if (!reached) {
-            std::fill_n(t, partPixels, 0.0f);
+            std::fill_n(t, count, 0.0f);
             return;
         }
         float a[partPixels], e[partPixels];
-        for (int i = 0; i < partPixels; i++)
+        for (int i = 0; i < count; i++)
             a[i] = e[i] = t[i] < 0.0f ? 1.0f : t[i];
-        raise(a, partPixels, 1.5f);
-        raise(e, partPixels, exponent);
-        for (int i = 0; i < partPixels; i++) {
+        raise(a, count, 1.5f);
+        raise(e, count, exponent);
+        for (int i = 0; i < count; i++) {
             const float dark = ((1.0f - a[i]) * e[i] + t[i] * a[i]) * strength;
             const float held = dark < 0.0f ? 0.0f : dark > 1.0f ? 1.0f : dark;
             t[i] = t[i] < 0.0f ? 0.0f : held;
@@ -109,9 +109,9 @@ void CharImage::vignette(
     blurred.makeBlurry(softeningSize(std::max(width, height)), 0.0f);
     const auto softenAndDarken = [&](Block& block, int x, int y) {
         Plane t, dark;
-        shade.placeAt(t, x - width / 2, y - height / 2);
+        shade.placeAt(t.at, blockPixels, x - width / 2, y - height / 2);
         dark = t;
-        shade.becomeDarkness(dark);
+        shade.becomeDarkness(dark.at, blockPixels);
         const unsigned char* soft = blurred.data + (std::size_t(y) * width + x) * bytesPerPixel;
         const int inBlock = std::min(blockPixels, width - x);
         block.fillPlanes();

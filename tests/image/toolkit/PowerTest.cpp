@@ -1,7 +1,9 @@
+#include "image/toolkit/Block.h"
 #include "image/toolkit/Power.h"
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
@@ -19,7 +21,7 @@ void expectPowers(float exponent, float first, float last, std::uint32_t step)
             bits += step;
         }
         const Plane bases = values;
-        raise(values, exponent);
+        raise(values.at, blockPixels, exponent);
         if (exponent == 1.5f) {
             for (int i = 0; i < blockPixels; i++)
                 ASSERT_EQ(sesquiPower(bases.at[i]), values.at[i]) << bases.at[i];
@@ -51,7 +53,7 @@ TEST(Power, LeavesOddBasesToTheLibrary)
         Plane values = {};
         const float odd[] = {0.0f, -0.0f, -1.0f, -2.5f, infinity, -infinity, 1e-40f, 3e38f, 1.0f};
         std::copy(std::begin(odd), std::end(odd), values.at);
-        raise(values, exponent);
+        raise(values.at, blockPixels, exponent);
         for (int i = 0; i < int(std::size(odd)); i++) {
             const float expected = std::pow(odd[i], exponent);
             EXPECT_EQ(std::isnan(values.at[i]), std::isnan(expected)) << odd[i];
@@ -61,8 +63,19 @@ TEST(Power, LeavesOddBasesToTheLibrary)
         }
     }
     Plane values = {{std::numeric_limits<float>::quiet_NaN()}};
-    raise(values, 1.5f);
+    raise(values.at, blockPixels, 1.5f);
     EXPECT_TRUE(std::isnan(values.at[0]));
+}
+
+TEST(Power, RaisesAsManyAsItIsToldTo)
+{
+    for (const float exponent : {1.5f, 3.0f, 5.0f, 1.2f}) {
+        Plane values;
+        std::fill_n(values.at, blockPixels, 0.7f);
+        raise(values.at, 40, exponent);
+        for (int i = 0; i < blockPixels; i++)
+            EXPECT_EQ(values.at[i], i < 40 ? std::pow(0.7f, exponent) : 0.7f) << i;
+    }
 }
 
 TEST(Power, CurvesABlockAsItCurvesOneValue)
@@ -72,7 +85,7 @@ TEST(Power, CurvesABlockAsItCurvesOneValue)
         for (int i = 0; i < blockPixels; i++)
             values.at[i] = float(i) / 200.0f;
         const Plane before = values;
-        applySCurve(values, exponent);
+        applySCurve(values.at, blockPixels, exponent);
         for (int i = 0; i < blockPixels; i++)
             if (before.at[i] <= 1.0f) {
                 EXPECT_EQ(values.at[i], sCurve(before.at[i], exponent)) << before.at[i];
