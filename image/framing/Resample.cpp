@@ -50,7 +50,8 @@ Side planSide(int sourceSize, double start, double size, int outSize, bool neare
                 std::clamp((i + 1 - start) * scale, 0.0, double(sourceSize)));
         } else {
             // Always a pair of pixels, the last ones beyond the last centre.
-            const double position = std::clamp(centre - 0.5, 0.0, last), left = std::min(std::floor(position), last - 1);
+            const double position = std::clamp(centre - 0.5, 0.0, last);
+            const double left = std::min(std::floor(position), last - 1);
             if (sourceSize > 1)
                 side.add(int(left), {1.0 - (position - left), position - left});
             else
@@ -71,8 +72,8 @@ void copyRows(const PixelRows& source, int x, int y, unsigned char* out, int out
     if (left >= right)
         return;
     for (int row = std::max(y, 0); row < std::min(y + source.height, outHeight); row++)
-        std::memcpy(out + (std::size_t(row) * outWidth + left) * 4,
-            source.row(row - y) + std::size_t(left - x) * 4, std::size_t(right - left) * 4);
+        std::memcpy(out + (std::size_t(row) * outWidth + left) * 4, source.row(row - y) + std::size_t(left - x) * 4,
+            std::size_t(right - left) * 4);
 }
 
 unsigned char rounded(float channel)
@@ -114,11 +115,11 @@ private:
     /// `count` is the number of taps of every column, 0 where they differ.
     template <int count> void sumTaps(const std::vector<float>& row, std::vector<float>& line) const
     {
-        const float* first = row.data() - firstByte();
+        const int firstColumn = m_side.taps.front().first;
         const float* weights = m_side.weights.data();
         float* out = line.data();
         for (const Taps& column : m_side.taps) {
-            const float* pixels = first + std::size_t(column.first) * 4;
+            const float* pixels = row.data() + std::size_t(column.first - firstColumn) * 4;
             const int taps = count > 0 ? count : column.count;
             Pixel colour = weights[0] * pixelAt(pixels);
             for (int tap = 1; tap < taps; tap++)
@@ -133,8 +134,8 @@ private:
     bool m_inPairs = true;
 };
 
-/// The source's rows brought to the output's width. The last two are kept: rows that grow in number are made of the same
-/// pair several times.
+/// The source's rows brought to the output's width. The last two are kept: rows that grow in number are made of the
+/// same pair several times.
 class Lines {
 public:
     Lines(const PixelRows& source, const Across& across)

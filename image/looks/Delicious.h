@@ -41,15 +41,14 @@ struct Recoloured {
         const float sum = largest(c).value + smallest(c).value, l = lightness.value;
         const float room = smaller(sum, 510.0f - sum), newRoom = 510.0f * smaller(l, 1.0f - l);
         const float growth = newRoom / larger(room, 1.0f);
-        const Colour<Single> relit = eachChannel(
-            c, [=](Single v) { return Single(l * 255.0f + (v.value + v.value - sum) * (growth * 0.5f)); });
+        const Colour<Single> relit =
+            eachChannel(c, [=](Single v) { return Single(l * 255.0f + (v.value + v.value - sum) * (growth * 0.5f)); });
         const Colour<Single> doubled = withSaturation(relit, 2.0f);
         // What comes out grey would be whole, too, but its exact way is short; half a step more is no other byte.
         const bool isGrey = (c.g.value == c.b.value) & !(c.r.value < c.g.value);
         const Single certain = float(truncateAndClamp(withSaturation(grey(l * 255.0f), 2.0f).r)) + 0.5f;
-        return eachChannel(doubled, [=](Single v) {
-            return select(isGrey, certain, select(growth > mostGrowth, Single(255.0f), v));
-        });
+        return eachChannel(
+            doubled, [=](Single v) { return select(isGrey, certain, select(growth > mostGrowth, Single(255.0f), v)); });
     }
 
     static constexpr float mostGrowth = 4.0f;

@@ -231,8 +231,9 @@ void forEachPixel(CharImage& image, const ToneTable& tones, Function function, F
 
 /// Each pixel becomes `function(colour, weight)`, the weight depending only on how far the pixel stands from a centre,
 /// a pixel of the image, across and down. `evaluate(weights, count, dx, dy)` gives `count` weights, 0 .. `heaviest`, at
-/// most a block of them and a multiple of 8, for the distances across dx, dx + 1, ... and the distance down dy, once for
-/// the up to four pixels that mirror one another. Where a weight of 0 `keepsPixels`, blocks without another weight are passed over.
+/// most a block of them and a multiple of 8, for the distances across dx, dx + 1, ... and the distance down dy, once
+/// for the up to four pixels that mirror one another. Where a weight of 0 `keepsPixels`, blocks without another weight
+/// are passed over.
 template <class Evaluate, class Function>
 void forEachPixelAround(CharImage& image, int centreX, int centreY, float heaviest, Evaluate evaluate,
     Function function, bool keepsPixels = false)

@@ -143,7 +143,8 @@ void raise(float* values, int count, float exponent)
     if (exponent == 1.5f)
         raiseBy(values, count, exponent, [](float base) { return sesquiPowerOf(base); });
     else if (exponent == 3.0f)
-        raiseBy(values, count, exponent, [](float base) { return productOf(base, 3.0, [](double x) { return x * x * x; }); });
+        raiseBy(values, count, exponent,
+            [](float base) { return productOf(base, 3.0, [](double x) { return x * x * x; }); });
     else if (exponent == 5.0f)
         raiseBy(values, count, exponent,
             [](float base) { return productOf(base, 5.0, [](double x) { return x * x * (x * x) * x; }); });

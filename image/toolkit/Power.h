@@ -1,7 +1,7 @@
 #pragma once
 
-/// Raises `count` values, a multiple of 8 and at most a block of them, to `exponent`: each result is exactly what std::pow(value, exponent)
-/// gives.
+/// Raises `count` values, a multiple of 8 and at most a block of them, to `exponent`: each result is exactly what
+/// std::pow(value, exponent) gives.
 void raise(float* values, int count, float exponent);
 
 /// std::pow(value, 1.5f).

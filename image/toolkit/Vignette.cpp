@@ -93,7 +93,8 @@ float softness(float t)
 
 } // namespace
 
-void vignetteDisc(CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation)
+void vignetteDisc(
+    CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation)
 {
     Shade{innerRadius, radius, exponent, strength, boostSaturation, radius}.darken(image);
 }

@@ -31,15 +31,16 @@ QByteArray packed(const QByteArray& row)
 {
     if (row.size() < 3)
         return QByteArray(1, char(row.size() - 1)) + row;
-    return QByteArray(1, char(row.size() - 3)) + row.chopped(2) + char(-128) + char(0) + row.at(row.size() - 2) + char(0)
-        + row.back();
+    return QByteArray(1, char(row.size() - 3)) + row.chopped(2) + char(-128) + char(0) + row.at(row.size() - 2)
+        + char(0) + row.back();
 }
 
 /// `sample(channel, x, y)` on 0 .. 1.
 template <class Sample> QByteArray psd(const Kind& kind, Sample sample)
 {
-    QByteArray file = "8BPS" + bigEndian(quint16(kind.big ? 2 : 1)) + QByteArray(6, '\0') + bigEndian(quint16(kind.channels))
-        + bigEndian(quint32(height)) + bigEndian(quint32(width)) + bigEndian(quint16(kind.bits)) + bigEndian(quint16(kind.mode));
+    QByteArray file = "8BPS" + bigEndian(quint16(kind.big ? 2 : 1)) + QByteArray(6, '\0')
+        + bigEndian(quint16(kind.channels)) + bigEndian(quint32(height)) + bigEndian(quint32(width))
+        + bigEndian(quint16(kind.bits)) + bigEndian(quint16(kind.mode));
     file += sized(kind.palette);
     QByteArray resources = "8BIM" + bigEndian(quint16(1005)) + QByteArray("\3abc", 4) + sized("odd") + '\0';
     if (!kind.profile.isEmpty())
@@ -146,34 +147,43 @@ private slots:
             const int i = qRed(greyOf(ramps(0, x, y)));
             return qRgb(i, 255 - i, i / 2);
         });
-        QVERIFY(open(psd({.mode = indexed, .bits = 8, .channels = 1, .palette = palette.first(700)}, ramps)).image.isNull());
+        QVERIFY(open(psd({.mode = indexed, .bits = 8, .channels = 1, .palette = palette.first(700)}, ramps))
+                    .image.isNull());
     }
 
     void floatsAreLinearLight()
     {
-        compare(open(psd({rgb, 32, 3}, [](int c, int x, int y) { return c == 0 ? 0.2140411f : ramps(c, x, y) > 0.5f; })),
+        compare(
+            open(psd({rgb, 32, 3}, [](int c, int x, int y) { return c == 0 ? 0.2140411f : ramps(c, x, y) > 0.5f; })),
             [](int x, int y) { return qRgb(128, x < 4 ? 255 : 0, y ? 255 : 0); }, 1);
-        compare(open(psd({grey, 32, 1}, [](int, int x, int) { return x == 0 ? -1.0f : x == 1 ? 7.0f : std::nanf(""); })),
+        compare(
+            open(psd({grey, 32, 1}, [](int, int x, int) { return x == 0 ? -1.0f
+                                                              : x == 1  ? 7.0f
+                                                                        : std::nanf(""); })),
             [](int x, int) { return x == 1 ? 0xffffffff : 0xff000000; });
     }
 
     void inksAreUpright()
     {
         // Stored as light: 1 is no ink.
-        const auto sample = [](int c, int x, int) { return c == 3 ? (x == 8 ? 0.0f : 1.0f) : x % 3 == c ? 0.0f : 1.0f; };
+        const auto sample = [](int c, int x, int) {
+            return c == 3 ? (x == 8 ? 0.0f : 1.0f) : x % 3 == c ? 0.0f : 1.0f;
+        };
         compare(open(psd({cmyk, 8, 4}, sample)), [](int x, int) {
             return x == 8 ? 0xff000000 : x % 3 == 0 ? 0xff00ffff : x % 3 == 1 ? 0xffff00ff : 0xffffff00;
         });
-        compare(open(psd({cmyk, 16, 5}, [&](int c, int x, int y) { return c == 4 ? 0.0f : sample(c, x, y); })), [](int x, int) {
-            return x == 8 ? 0xff000000 : x % 3 == 0 ? 0xff00ffff : x % 3 == 1 ? 0xffff00ff : 0xffffff00;
-        });
+        compare(open(psd({cmyk, 16, 5}, [&](int c, int x, int y) { return c == 4 ? 0.0f : sample(c, x, y); })),
+            [](int x, int) {
+                return x == 8 ? 0xff000000 : x % 3 == 0 ? 0xff00ffff : x % 3 == 1 ? 0xffff00ff : 0xffffff00;
+            });
     }
 
     void labIsConverted()
     {
         for (int bits : {8, 16}) {
             const auto sample = [](int c, int x, int) { return c == 0 ? (x < 3 ? 0.0f : 1.0f) : 128 / 255.0f; };
-            compare(open(psd({lab, bits, 3}, sample)), [](int x, int) { return x < 3 ? 0xff000000 : 0xffffffff; }, 1);
+            compare(
+                open(psd({lab, bits, 3}, sample)), [](int x, int) { return x < 3 ? 0xff000000 : 0xffffffff; }, 1);
         }
         // The red of sRGB: L 54.29, a 80.81, b 69.89, about white D50.
         const LoadedPhoto red = open(psd({lab, 8, 3}, [](int c, int, int) {
@@ -200,8 +210,8 @@ private slots:
 
     void aProfileIsConverted()
     {
-        const Kind kind
-            = {.mode = rgb, .bits = 16, .channels = 3, .profile = QColorSpace(QColorSpace::SRgbLinear).iccProfile()};
+        const Kind kind = {
+            .mode = rgb, .bits = 16, .channels = 3, .profile = QColorSpace(QColorSpace::SRgbLinear).iccProfile()};
         const QColor colour = open(psd(kind, [](int, int, int) { return 0.2140411f; })).image.pixelColor(0, 0);
         QVERIFY(qAbs(colour.red() - 128) <= 1 && colour.red() == colour.blue());
     }

@@ -35,8 +35,7 @@ QByteArray colour(QRgb c, int bits, int alpha)
 
 const QList<QRgb>& palette()
 {
-    static const QList<QRgb> colours
-        = {0x000000, 0xff0000, 0x00ff00, 0x0000ff, 0xffffff, 0xff00ff, 0x00ffff, 0xffff00};
+    static const QList<QRgb> colours = {0x000000, 0xff0000, 0x00ff00, 0x0000ff, 0xffffff, 0xff00ff, 0x00ffff, 0xffff00};
     return colours;
 }
 
@@ -71,7 +70,8 @@ QByteArray tga(const Kind& kind)
     file += char(4); // bytes of text after the header
     file += char(mapped);
     file += char(kind.type);
-    file += word(mapped ? kind.mapFirst : 0) + word(mapped ? int(palette().size()) : 0) + char(mapped ? kind.mapBits : 0);
+    file +=
+        word(mapped ? kind.mapFirst : 0) + word(mapped ? int(palette().size()) : 0) + char(mapped ? kind.mapBits : 0);
     file += word(0) + word(0) + word(width) + word(height) + char(kind.bits);
     file += char(kind.alphaBits | (kind.fromRight ? 16 : 0) | (kind.fromTop ? 32 : 0));
     file += "text";
@@ -80,8 +80,7 @@ QByteArray tga(const Kind& kind)
     QByteArrayList pixels;
     for (int y = 0; y < height; y++)
         for (int x = 0; x < width; x++)
-            pixels << pixel(
-                picture[kind.fromTop ? y : height - 1 - y][kind.fromRight ? width - 1 - x : x], kind);
+            pixels << pixel(picture[kind.fromTop ? y : height - 1 - y][kind.fromRight ? width - 1 - x : x], kind);
     return file + (kind.type > 8 ? runs(pixels) : pixels.join());
 }
 
@@ -112,7 +111,8 @@ private slots:
         for (int runLength : {0, 8}) {
             for (int mapBits : {15, 16, 24, 32})
                 for (int bits : {8, 16})
-                    QTest::addRow("mapped %d, %d bits of %d", runLength, bits, mapBits) << 1 + runLength << bits << mapBits;
+                    QTest::addRow("mapped %d, %d bits of %d", runLength, bits, mapBits)
+                        << 1 + runLength << bits << mapBits;
             for (int bits : {15, 16, 24, 32})
                 QTest::addRow("colour %d, %d bits", runLength, bits) << 2 + runLength << bits << 0;
             QTest::addRow("grey %d", runLength) << 3 + runLength << 8 << 0;

@@ -45,8 +45,8 @@ Picture drawn(const Picture& source, const PlacedRect& rect, bool nearest, int w
 TEST(Resample, WeighsThePixelsOfEachSide)
 {
     const std::pair<int, int> sizes[] = {{1, 1}, {2, 1}, {1, 9}, {2, 2}, {13, 7}, {8, 30}, {40, 21}};
-    const PlacedRect rects[] = {{0, 0, 20, 16}, {-5, 0, 30, 16}, {0, -7, 20, 31}, {-0.5, -0.5, 21, 17}, {-90, -2, 200, 20},
-        {0, -150, 20, 316}, {0, 0, 20, 99}};
+    const PlacedRect rects[] = {{0, 0, 20, 16}, {-5, 0, 30, 16}, {0, -7, 20, 31}, {-0.5, -0.5, 21, 17},
+        {-90, -2, 200, 20}, {0, -150, 20, 316}, {0, 0, 20, 99}};
     for (const auto& [width, height] : sizes)
         for (const PlacedRect& rect : rects) {
             const Picture source = randomPicture(width, height, 7), out = drawn(source, rect, false, 20, 16);
@@ -54,8 +54,8 @@ TEST(Resample, WeighsThePixelsOfEachSide)
                 for (int x = 0; x < 20; x++)
                     for (int k = 0; k < 4; k++)
                         ASSERT_NEAR(out.at(x, y)[k], literal(source, rect, x, y, k), 0.501)
-                            << width << " x " << height << " into " << rect.width << " x " << rect.height << " at "
-                            << x << ", " << y;
+                            << width << " x " << height << " into " << rect.width << " x " << rect.height << " at " << x
+                            << ", " << y;
         }
 }
 

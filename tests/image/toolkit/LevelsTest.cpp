@@ -1,5 +1,5 @@
-#include "image/CharImage.h"
 #include "image/toolkit/Levels.h"
+#include "image/CharImage.h"
 #include "tests/reference/Toolkit.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "image/toolkit/Block.h"
 #include "image/toolkit/Power.h"
+#include "image/toolkit/Block.h"
 
 #include <algorithm>
 #include <bit>
