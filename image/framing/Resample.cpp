@@ -210,18 +210,18 @@ void drawScaled(
     const Side rows = planSide(source.height, rect.y, rect.height, outHeight, nearest);
 
     const Across across(columns);
-    const float* weights = rows.weights.data();
-    unsigned char* outRow = out + (std::size_t(rows.begin) * outWidth + columns.begin) * 4;
     const auto forEachRow = [&](auto draw) {
+        const float* weights = rows.weights.data();
+        unsigned char* outRow = out + (std::size_t(rows.begin) * outWidth + columns.begin) * 4;
         for (const Taps& row : rows.taps) {
-            draw(row);
+            draw(row, weights, outRow);
             weights += row.count;
             outRow += std::size_t(outWidth) * 4;
         }
     };
     if (rect.height >= source.height) {
         Lines lines(source, across);
-        forEachRow([&](const Taps& row) {
+        forEachRow([&](const Taps& row, const float* weights, unsigned char* outRow) {
             const int last = row.count - 1; // 0 or 1
             drawPair(lines.at(row.first), lines.at(row.first + last), weights[0], last * weights[last],
                 across.channels(), outRow);
@@ -230,7 +230,7 @@ void drawScaled(
     }
     // Fewer rows: down first, so that there is less to bring to the output's width.
     std::vector<float> sums(across.endByte() - across.firstByte()), line(across.channels());
-    forEachRow([&](const Taps& row) {
+    forEachRow([&](const Taps& row, const float* weights, unsigned char* outRow) {
         sumDown(source, row, weights, across.firstByte(), sums);
         across.sum(sums, line);
         std::transform(line.begin(), line.end(), outRow, rounded);

@@ -103,9 +103,9 @@ public:
     {
         unsigned char* __restrict to = m_bytes;
         for (int i = 0; i < blockPixels; i++)
-            setColour(to + 4 * i, bytesOf(i));
+            writeColour(to + 4 * i, bytesOf(i));
     }
-    void setBytes(int i, Colour<int> c) { setColour(m_bytes + 4 * i, c); }
+    void setBytes(int i, Colour<int> c) { writeColour(m_bytes + 4 * i, c); }
 
     /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255.
     template <class ToByte> void storePlanes(ToByte toByte)
@@ -122,8 +122,6 @@ public:
         });
     }
 
-    using Planes::setColour;
-
 private:
     static constexpr bool little = std::endian::native == std::endian::little;
     static constexpr int redShift = little ? 0 : 24, greenShift = little ? 8 : 16, blueShift = little ? 16 : 8;
@@ -135,7 +133,7 @@ private:
         std::memcpy(&w, pixel, 4);
         return w;
     }
-    static void setColour(unsigned char* pixel, Colour<int> c)
+    static void writeColour(unsigned char* pixel, Colour<int> c)
     {
         const std::uint32_t w = (wordAt(pixel) & ~colourMask) | std::uint32_t(c.r) << redShift
             | std::uint32_t(c.g) << greenShift | std::uint32_t(c.b) << blueShift;

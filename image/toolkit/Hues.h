@@ -96,25 +96,24 @@ inline float wholeBelow(float x)
     return std::fabs(x) < 8388608.0f ? below : x; // from 2^23 on every float is whole
 }
 
-/// `sextant` is the whole part of the hue's `sextants`; by a plain cast, where it is known to be in range, this becomes
-/// vector code.
-inline Rgb rgbOf(Hsv c, float sextants, float sextant)
-{
-    const float f = sextants - sextant;
-    const float p = c.v * (1.0f - c.s), q = c.v * (1.0f - c.s * f), t = c.v * (1.0f - c.s * (1.0f - f));
-    const Rgb coloured = ofSextant(sextant, c.v, t, q, p, Rgb{c.v, p, q});
-    return eachChannel(c.s == 0.0f ? grey(c.v) : coloured, [](float u) { return u * 255.0f; });
-}
-
 inline float sextantsOf(Hsv c)
 {
     return float(c.h * 0.002777777777777778) * 6.0f;
 }
 
+/// `sextant` is the whole part of sextantsOf(c); by a plain cast, where the hue is known to be in range, this becomes
+/// vector code.
+inline Rgb rgbOf(Hsv c, float sextant)
+{
+    const float f = sextantsOf(c) - sextant;
+    const float p = c.v * (1.0f - c.s), q = c.v * (1.0f - c.s * f), t = c.v * (1.0f - c.s * (1.0f - f));
+    const Rgb coloured = ofSextant(sextant, c.v, t, q, p, Rgb{c.v, p, q});
+    return eachChannel(c.s == 0.0f ? grey(c.v) : coloured, [](float u) { return u * 255.0f; });
+}
+
 inline Rgb rgbOf(Hsv c)
 {
-    const float sextants = sextantsOf(c);
-    return rgbOf(c, sextants, wholeBelow(sextants));
+    return rgbOf(c, wholeBelow(sextantsOf(c)));
 }
 
 /// Multiplies saturation and value of a colour on 0 .. 255, of finite channels, and keeps its hue. The factors are
@@ -122,8 +121,7 @@ inline Rgb rgbOf(Hsv c)
 inline Rgb withSaturationAndValueTimes(Rgb c, double saturation, double value)
 {
     const Hsv before = hsvOf(c), after = {before.h, float(before.s * saturation), float(before.v * value)};
-    const float sextants = sextantsOf(after);
-    return rgbOf(after, sextants, float(int(sextants))); // 0 .. 5 for a hue of hsvOf
+    return rgbOf(after, float(int(sextantsOf(after)))); // 0 .. 5 for a hue of hsvOf
 }
 
 /// What differs between channels by less is too near for a trial to tell how the conversion there and back ends: a hue

@@ -82,13 +82,13 @@ inline constexpr auto inParts = [](float v) {
     return notBelow < 255 * partsOfOne + partsOfOne / 2 ? notBelow : 255 * partsOfOne + partsOfOne / 2;
 };
 
-/// Some pixels of a block, in groups.
-struct MarkedPixels {
+/// The pixels of a block on which a trial does not decide, in groups.
+struct UnsurePixels {
     static constexpr int together = 8;
     int at[blockPixels + together], count = 0;
 
     /// Where `marked` is 1.
-    explicit MarkedPixels(const unsigned char (&marked)[blockPixels])
+    explicit UnsurePixels(const unsigned char (&marked)[blockPixels])
     {
         for (int first = 0; first < blockPixels; first += 64) {
             std::uint64_t bits = 0;
@@ -113,12 +113,12 @@ private:
     }
 };
 
-/// The exact recipe for these pixels only.
+/// The exact recipe for these pixels.
 template <class... Step, class ToByte>
 void decideExactly(
-    Block& block, const MarkedPixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
+    Block& block, const UnsurePixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
 {
-    constexpr int together = MarkedPixels::together;
+    constexpr int together = UnsurePixels::together;
     for (int first = 0; first < pixels.count; first += together) {
         const int* at = pixels.at + first;
         float r[together], g[together], b[together], weight[together] = {};
@@ -167,5 +167,5 @@ void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, d
         unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
         return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
     });
-    decideExactly(block, MarkedPixels(unsure), steps, weights, toByte);
+    decideExactly(block, UnsurePixels(unsure), steps, weights, toByte);
 }

@@ -57,7 +57,8 @@ TEST(Delicious, RecoloursInShortAsFarOffAsItSaysAtMost)
         }
     }
     EXPECT_LE(worst, Recoloured::error);
-    EXPECT_LT(undecided, count);
+    EXPECT_LT(
+        undecided, 3 * count / 16); // of these colours, which are nearer to grey and to black than those of photos
 }
 
 TEST(Delicious, SteepensEveryColourAsTheRecipeDoes)

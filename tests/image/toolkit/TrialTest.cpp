@@ -164,14 +164,14 @@ TEST(Trial, GivesTheBytesOfTheExactRecipe)
 TEST(Trial, CollectsThePixelsOnWhichItDoesNotDecide)
 {
     unsigned char marked[blockPixels] = {};
-    EXPECT_EQ(MarkedPixels(marked).count, 0);
+    EXPECT_EQ(UnsurePixels(marked).count, 0);
     for (int i : {0, 7, 8, 100, 255})
         marked[i] = 1;
-    const MarkedPixels pixels(marked);
+    const UnsurePixels pixels(marked);
     ASSERT_EQ(pixels.count, 5);
     for (int k = 0; k < 5; k++)
         EXPECT_EQ(pixels.at[k], (std::array{0, 7, 8, 100, 255})[std::size_t(k)]);
     for (unsigned char& mark : marked)
         mark = 1;
-    EXPECT_EQ(MarkedPixels(marked).count, blockPixels);
+    EXPECT_EQ(UnsurePixels(marked).count, blockPixels);
 }
