@@ -1,3 +1,4 @@
+#include "tests/core/FreshFolder.h"
 #include "tests/core/TextOf.h"
 
 #include <filesystem>
@@ -71,11 +72,10 @@ TEST(GrowStringPaths, ShortensForDisplay)
 
 TEST(GrowStringPaths, FindsFiles)
 {
-    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "growstring paths";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "there.txt") << "x";
-    const GrowString directory(folder.c_str());
-    const std::string there = (folder / "there.txt").string();
+    const FreshFolder folder;
+    const std::string there = folder.path() / "there.txt";
+    std::ofstream(there) << "x";
+    const GrowString directory(folder.path().c_str());
     EXPECT_TRUE(GrowString::fileExists(directory));
     EXPECT_TRUE(GrowString::fileExists(there.c_str()));
     EXPECT_FALSE(GrowString::fileExists(directory + "/nowhere.txt"));
@@ -85,5 +85,4 @@ TEST(GrowStringPaths, FindsFiles)
     EXPECT_EQ(textOf(GrowString::findExistingFile(there.c_str(), "")), there);
     EXPECT_EQ(textOf(GrowString::findExistingFile(there.c_str(), "/nowhere")), there); // found by itself
     EXPECT_EQ(textOf(GrowString::findExistingFile("nowhere.txt", directory)), "");
-    std::filesystem::remove_all(folder);
 }

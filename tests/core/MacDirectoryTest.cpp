@@ -1,3 +1,4 @@
+#include "tests/core/FreshFolder.h"
 #include "tests/core/TextOf.h"
 
 #include <cstdlib>
@@ -21,14 +22,12 @@ protected:
             unsetenv(name);
         }
         setenv("HOME", "/home/someone", 1);
-        std::filesystem::create_directories(config);
     }
 
     void TearDown() override
     {
         for (std::size_t i = 0; i < kept.size(); i++)
             kept[i] ? setenv(names[i], kept[i]->c_str(), 1) : unsetenv(names[i]);
-        std::filesystem::remove_all(config);
     }
 
     void writeUserDirs(const std::string& lines)
@@ -38,7 +37,8 @@ protected:
     }
 
     const char* const names[3] = {"HOME", "XDG_CONFIG_HOME", "TMPDIR"};
-    const std::filesystem::path config = std::filesystem::path(testing::TempDir()) / "mac directory";
+    const FreshFolder folder;
+    const std::filesystem::path& config = folder.path();
 
 private:
     std::vector<std::optional<std::string>> kept;
