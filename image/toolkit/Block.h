@@ -76,6 +76,9 @@ public:
             std::memcpy(m_pixels, m_part, std::size_t(m_count) * 4);
     }
 
+    /// Its pixels in the image.
+    int count() const { return m_count; }
+
     void fillPlanes()
     {
         fillPlanes([](float v) { return v; });

@@ -87,13 +87,15 @@ struct UnsurePixels {
     static constexpr int together = 8;
     int at[blockPixels + together], count = 0;
 
-    /// Where `marked` is 1.
-    explicit UnsurePixels(const unsigned char (&marked)[blockPixels])
+    /// Where `marked` is 1, among the first `pixels` of the block.
+    UnsurePixels(const unsigned char (&marked)[blockPixels], int pixels)
     {
-        for (int first = 0; first < blockPixels; first += 64) {
+        for (int first = 0; first < pixels; first += 64) {
             std::uint64_t bits = 0;
             for (int i = 0; i < 64; i += 8)
                 bits |= bitsOf(marked + first + i) << i;
+            if (pixels - first < 64)
+                bits &= (std::uint64_t(1) << (pixels - first)) - 1;
             for (; bits != 0; bits &= bits - 1)
                 at[count++] = first + std::countr_zero(bits);
         }
@@ -167,5 +169,5 @@ void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, d
         unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
         return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
     });
-    decideExactly(block, UnsurePixels(unsure), steps, weights, toByte);
+    decideExactly(block, UnsurePixels(unsure, block.count()), steps, weights, toByte);
 }

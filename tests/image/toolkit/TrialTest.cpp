@@ -121,7 +121,9 @@ TEST(Trial, LeavesTheUnclearHuesToTheExactRecipe)
     for (const Colour<Single>& c : {Colour<Single>{90.0f, 40.0f, 40.0f}, Colour<Single>{90.0f, 40.0f, 40.001f},
              Colour<Single>{70.0f, 70.0f, 70.0f}, Colour<Single>{0.0f, -20.0f, -30.0f}})
         EXPECT_EQ(withSaturationAndValueTimes(c, more, half).r.value, 255.0f);
-    EXPECT_NE(withSaturationAndValueTimes(Colour<Single>{90.0f, 40.0f, 50.0f}, more, half).r.value, 255.0f);
+    for (const Colour<Single>& c :
+        {Colour<Single>{90.0f, 40.0f, 50.0f}, Colour<Single>{40.0f, 90.0f, 90.0f}, Colour<Single>{40.0f, 40.0f, 90.0f}})
+        EXPECT_NE(withSaturationAndValueTimes(c, more, half).r.value, 255.0f);
 }
 
 TEST(Trial, GivesUpWhereABoundIsOutOfReach)
@@ -164,14 +166,16 @@ TEST(Trial, GivesTheBytesOfTheExactRecipe)
 TEST(Trial, CollectsThePixelsOnWhichItDoesNotDecide)
 {
     unsigned char marked[blockPixels] = {};
-    EXPECT_EQ(UnsurePixels(marked).count, 0);
+    EXPECT_EQ(UnsurePixels(marked, blockPixels).count, 0);
     for (int i : {0, 7, 8, 100, 255})
         marked[i] = 1;
-    const UnsurePixels pixels(marked);
+    const UnsurePixels pixels(marked, blockPixels);
     ASSERT_EQ(pixels.count, 5);
     for (int k = 0; k < 5; k++)
         EXPECT_EQ(pixels.at[k], (std::array{0, 7, 8, 100, 255})[std::size_t(k)]);
     for (unsigned char& mark : marked)
         mark = 1;
-    EXPECT_EQ(UnsurePixels(marked).count, blockPixels);
+    // Of a block that is part filled, its own pixels only.
+    for (int count : {1, 7, 63, 64, 65, 200, blockPixels})
+        EXPECT_EQ(UnsurePixels(marked, count).count, count);
 }
