@@ -18,7 +18,8 @@ struct PlacedRect {
 
 /// Draws `source`, of at least one pixel, scaled into `rect` of the block `out` (outWidth x outHeight x 4 bytes), all
 /// four bytes of a pixel alike. A side that shrinks averages the area of each output pixel, a side that grows
-/// interpolates linearly; `nearest` takes one pixel instead. A source at its own size on whole pixels is copied as it
+/// interpolates linearly; `nearest` takes one pixel instead. An average is off by half a step from rounding, and by an
+/// eighth at most besides; one colour stays that colour. A source at its own size on whole pixels is copied as it
 /// is. A pixel that the rectangle touches belongs to the picture, without a seam of the background; the others are left
 /// alone.
 void drawScaled(

@@ -40,6 +40,19 @@ Picture drawn(const Picture& source, const PlacedRect& rect, bool nearest, int w
     return out;
 }
 
+/// Holds every pixel of the drawing to the definition. A sum is good to a 128th of a step for each of its taps, of
+/// which there are `taps` in both directions together at most, unless they are so many that more bits are taken.
+void expectWeighed(const Picture& source, const PlacedRect& rect, int width, int height, int taps)
+{
+    const Picture out = drawn(source, rect, false, width, height);
+    for (int y = 0; y < height; y++)
+        for (int x = 0; x < width; x++)
+            for (int k = 0; k < 4; k++)
+                ASSERT_NEAR(out.at(x, y)[k], literal(source, rect, x, y, k), 0.501 + taps / 256.0)
+                    << source.width << " x " << source.height << " into " << rect.width << " x " << rect.height
+                    << " at " << x << ", " << y;
+}
+
 } // namespace
 
 TEST(Resample, WeighsThePixelsOfEachSide)
@@ -48,15 +61,15 @@ TEST(Resample, WeighsThePixelsOfEachSide)
     const PlacedRect rects[] = {{0, 0, 20, 16}, {-5, 0, 30, 16}, {0, -7, 20, 31}, {-0.5, -0.5, 21, 17},
         {-90, -2, 200, 20}, {0, -150, 20, 316}, {0, 0, 20, 99}};
     for (const auto& [width, height] : sizes)
-        for (const PlacedRect& rect : rects) {
-            const Picture source = randomPicture(width, height, 7), out = drawn(source, rect, false, 20, 16);
-            for (int y = 0; y < 16; y++)
-                for (int x = 0; x < 20; x++)
-                    for (int k = 0; k < 4; k++)
-                        ASSERT_NEAR(out.at(x, y)[k], literal(source, rect, x, y, k), 0.501)
-                            << width << " x " << height << " into " << rect.width << " x " << rect.height << " at " << x
-                            << ", " << y;
-        }
+        for (const PlacedRect& rect : rects)
+            expectWeighed(randomPicture(width, height, 7), rect, 20, 16, 6);
+}
+
+TEST(Resample, WeighsManyPixelsWell)
+{
+    expectWeighed(randomPicture(60, 45, 7), {0, 0, 4, 3}, 4, 3, 32);
+    expectWeighed(randomPicture(70, 3, 7), {0, 0, 4, 3}, 4, 3, 0);
+    expectWeighed(randomPicture(3, 900, 7), {0, 0, 4, 7}, 4, 7, 0);
 }
 
 TEST(Resample, LeavesTheRestAlone)
@@ -73,11 +86,14 @@ TEST(Resample, LeavesTheRestAlone)
     }
 }
 
-TEST(Resample, ManyPixelsOfWhiteStayWhite)
+TEST(Resample, OneColourStaysThatColour)
 {
-    const Picture out = drawn(flatPicture(60000, 3, 255, 255, 254), {0, 0, 3, 2}, false, 3, 2);
-    for (int x = 0; x < 3; x++) {
-        EXPECT_EQ(out.at(x, 1)[0], 255);
-        EXPECT_EQ(out.at(x, 1)[2], 254);
+    for (const int width : {3, 5, 40, 60000}) {
+        const Picture out = drawn(flatPicture(width, 3, 255, 0, 254), {0, 0, 3.3, 2.2}, false, 3, 2);
+        for (int x = 0; x < 3; x++) {
+            EXPECT_EQ(out.at(x, 1)[0], 255);
+            EXPECT_EQ(out.at(x, 1)[1], 0);
+            EXPECT_EQ(out.at(x, 1)[2], 254);
+        }
     }
 }
