@@ -86,7 +86,7 @@ void CharImage::applyFilterBorder(int border, int maxSide)
         const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
         const float radius = std::min(halfWidth, halfHeight);
         // Far outside the circle a vignette's curve would turn back to light: the corners are black instead.
-        vignetteDisc(*this, radius - 3.0f, radius, 3.0f, 1.0f, false);
+        vignetteRing(*this, radius - 3.0f, radius, 3.0f, 1.0f, false);
         vignetteDisc(*this, float(radius * 0.3), radius, 3.0f, 0.4f, true);
         maskDisc(*this, radius);
     }

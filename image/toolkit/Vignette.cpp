@@ -22,13 +22,18 @@ struct Shade {
     bool boostSaturation;
     float end = std::numeric_limits<float>::infinity(); ///< the radius from which on nothing is darkened
 
+    static float distance(int x, int y)
+    {
+        const float dx = float(x), dy = float(y);
+        return std::sqrt(dx * dx + dy * dy);
+    }
+
     /// Where `count` pixels of a row stand: from 0 at the inner to 1 at the outer radius.
     void placeAt(float* t, int count, int firstX, int y) const
     {
         const float span = outerRadius - innerRadius;
         for (int i = 0; i < count; i++) {
-            const float dx = float(firstX + i), dy = float(y), d = std::sqrt(dx * dx + dy * dy);
-            const float place = (d - innerRadius) / span;
+            const float d = distance(firstX + i, y), place = (d - innerRadius) / span;
             t[i] = d < end ? place : -1.0f;
         }
     }
@@ -58,7 +63,42 @@ struct Shade {
             [*this](Rgb c, float dark) { return darkened(c, byteLuminance(c), dark); }, true);
     }
 
+    /// The same, visiting only the pixels between the inner radius and the end.
+    void darkenRing(CharImage& image) const
+    {
+        const int cx = image.width / 2, cy = image.height / 2;
+        for (int y = 0; y < image.height; y++) {
+            const int dy = y - cy;
+            int last = int(std::sqrt(std::max(0.0, double(end) * end - double(dy) * dy))) + 1;
+            while (last >= 0 && !(distance(last, dy) < end))
+                last--;
+            int first = last;
+            while (first > 0 && distance(first - 1, dy) >= innerRadius)
+                first--;
+            unsigned char* centre = image.data + (std::size_t(y) * image.width + cx) * 4;
+            for (int dx = std::max(first, 0); dx <= last; dx += partPixels) {
+                float dark[partPixels];
+                placeAt(dark, partPixels, dx, dy);
+                becomeDarknessOfPart(dark, partPixels);
+                for (int i = 0; i < partPixels && dx + i <= last; i++) {
+                    if (cx + dx + i < image.width)
+                        darkenPixel(centre + (dx + i) * 4, dark[i]);
+                    if (dx + i > 0 && cx - dx - i >= 0)
+                        darkenPixel(centre - (dx + i) * 4, dark[i]);
+                }
+            }
+        }
+    }
+
 private:
+    void darkenPixel(unsigned char* pixel, float dark) const
+    {
+        const Rgb c = pixelAt(pixel), shaded = darkened(c, byteLuminance(c), dark);
+        pixel[0] = static_cast<unsigned char>(truncateAndClamp(shaded.r));
+        pixel[1] = static_cast<unsigned char>(truncateAndClamp(shaded.g));
+        pixel[2] = static_cast<unsigned char>(truncateAndClamp(shaded.b));
+    }
+
     /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
     static constexpr int partPixels = 32;
 
@@ -97,6 +137,12 @@ void vignetteDisc(
     CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation)
 {
     Shade{innerRadius, radius, exponent, strength, boostSaturation, radius}.darken(image);
+}
+
+void vignetteRing(
+    CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation)
+{
+    Shade{innerRadius, radius, exponent, strength, boostSaturation, radius}.darkenRing(image);
 }
 
 void CharImage::vignette(

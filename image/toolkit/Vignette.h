@@ -6,3 +6,7 @@ class CharImage;
 /// to the centre: what is painted over anyway costs nothing.
 void vignetteDisc(
     CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation);
+
+/// The same by visiting only the pixels between the two radii: for a ring of a few.
+void vignetteRing(
+    CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation);
