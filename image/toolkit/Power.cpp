@@ -6,10 +6,10 @@
 #include <bit>
 #include <cstdint>
 #include <cstdlib>
-#include <limits>
+#include <cstring>
 
 // std::pow one value at a time would cost more than all the rest of a look. Here the power is formed in double for a
-// whole block, as 2 to the exponent times the binary logarithm, to better than 2^-31 of its value. The C library's
+// whole block, as 2 to the exponent times the binary logarithm, to better than 2^-33 of its value. The C library's
 // single-precision pow is formed in double as well and rounded last, so that both round to the same float unless the
 // value lies next to the middle between two floats. Those few, and everything odd (zero, negative, infinite, tiny), are
 // left to std::pow itself.
@@ -25,11 +25,27 @@ struct Power {
 };
 
 /// The part of a result of this logarithm, to the base 2, by which the library may err before it rounds: its logarithm
-/// is good to 1.83 x 2^-33, its power of 2 to 1.69 x 2^-34. Extreme results are not made here.
+/// is good to 1.83 x 2^-33, which the exponent makes 1.27 x 2^-33, and its power of 2 to 1.69 x 2^-34.
 inline double libraryError(double log)
 {
-    return std::fabs(log) < 60.0 ? 0x1p-31 + std::fabs(log) * 0x1p-32 : std::numeric_limits<double>::infinity();
+    return 0x1p-33 + std::fabs(log) * (1.3 * 0x1p-33);
 }
+
+/// The bases whose powers are made here: those from 2^-n to 2^n, positive and normal, whose results are not extreme.
+struct Bases {
+    float lowest, highest;
+
+    static Bases of(float exponent)
+    {
+        const double log = 60.0 / std::fabs(exponent);
+        const std::uint32_t n = log < 100.0 ? std::uint32_t(log) : 100u;
+        return {powerOfTwo(127u - n), powerOfTwo(127u + n)};
+    }
+    bool have(float base) const { return base >= lowest && base <= highest; }
+
+private:
+    static float powerOfTwo(std::uint32_t biased) { return std::bit_cast<float>(biased << 23); }
+};
 
 // base = m 2^k with m on sqrt(1/2) .. sqrt(2).
 constexpr std::uint32_t rootOfHalf = 0x3f3504f3u;
@@ -44,13 +60,13 @@ inline float mantissa(float base)
     return std::bit_cast<float>(((std::bit_cast<std::uint32_t>(base) - rootOfHalf) & 0x007fffffu) + rootOfHalf);
 }
 
-/// For a normal positive float.
 inline Power powerOf(float base, double exponent)
 {
     // The logarithm of m by the series of the inverse hyperbolic tangent.
     const double m = mantissa(base);
     const double z = (m - 1.0) / (m + 1.0), z2 = z * z;
-    double series = 1.0 / 11.0;
+    double series = 1.0 / 13.0;
+    series = series * z2 + 1.0 / 11.0;
     series = series * z2 + 1.0 / 9.0;
     series = series * z2 + 1.0 / 7.0;
     series = series * z2 + 1.0 / 5.0;
@@ -62,7 +78,8 @@ inline Power powerOf(float base, double exponent)
     constexpr double rounder = 6755399441055744.0;
     const double shifted = y + rounder;
     const double f = (y - (shifted - rounder)) * log2;
-    double e = 1.0 / 40320.0;
+    double e = 1.0 / 362880.0;
+    e = e * f + 1.0 / 40320.0;
     e = e * f + 1.0 / 5040.0;
     e = e * f + 1.0 / 720.0;
     e = e * f + 1.0 / 120.0;
@@ -72,7 +89,7 @@ inline Power powerOf(float base, double exponent)
     e = e * f + 1.0;
     e = e * f + 1.0;
     const double scale = std::bit_cast<double>((std::bit_cast<std::uint64_t>(shifted) + 1023u) << 52);
-    return {e * scale, libraryError(y) + 0x1p-30};
+    return {e * scale, libraryError(y) + 0x1p-33};
 }
 
 /// The same for an exponent that takes a product or two: `product(base)` is good to almost all of a double.
@@ -98,12 +115,6 @@ inline Rounded roundedBothWays(Power p)
     return {float(p.value - reach), float(p.value + reach)};
 }
 
-/// A base for which powerOf is not made.
-inline bool isOdd(float base)
-{
-    return !(base >= 1e-30f && base <= 1e30f);
-}
-
 /// Zero, without a sign, is frequent, and stays zero under a positive exponent.
 inline bool isZero(float base)
 {
@@ -113,21 +124,20 @@ inline bool isZero(float base)
 /// `power(base)` for each value, and std::pow where it is not sure.
 template <class Function> void raiseBy(float* values, int count, float exponent, Function power)
 {
+    const Bases bases = Bases::of(exponent);
     Plane result;
-    alignas(64) int unsure[blockPixels];
+    unsigned char unsure[blockPixels];
     for (int i = 0; i < count; i++) {
         const float base = values[i];
-        const bool odd = isOdd(base);
-        const Power p = power(odd ? 1.0f : base);
-        const Rounded rounded = roundedBothWays(p);
-        const bool zero = isZero(base) && exponent > 0.0f;
+        const Rounded rounded = roundedBothWays(power(base));
+        const bool zero = isZero(base) & (exponent > 0.0f);
+        const bool sure = bases.have(base) & (rounded.below == rounded.above);
         result.at[i] = zero ? 0.0f : rounded.below;
-        unsure[i] = zero ? 0 : odd ? 1 : rounded.below == rounded.above ? 0 : 1;
+        unsure[i] = zero | sure ? 0 : 1;
     }
     for (int i = 0; i < count; i += 8) {
-        int any = 0;
-        for (int j = i; j < i + 8; j++)
-            any |= unsure[j];
+        std::uint64_t any;
+        std::memcpy(&any, unsure + i, sizeof any);
         for (int j = i; any != 0 && j < i + 8; j++)
             if (unsure[j])
                 result.at[j] = std::pow(values[j], exponent);
@@ -154,10 +164,9 @@ void raise(float* values, int count, float exponent)
 
 float sesquiPower(float value)
 {
-    const bool odd = isOdd(value);
-    const Power p = sesquiPowerOf(odd ? 1.0f : value);
-    const Rounded rounded = roundedBothWays(p);
-    return odd || rounded.below != rounded.above ? std::pow(value, 1.5f) : rounded.below;
+    const Rounded rounded = roundedBothWays(sesquiPowerOf(value));
+    const bool sure = Bases::of(1.5f).have(value) && rounded.below == rounded.above;
+    return sure ? rounded.below : std::pow(value, 1.5f);
 }
 
 void applySCurve(float* values, int count, float exponent)
