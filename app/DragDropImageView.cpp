@@ -31,8 +31,9 @@ DragDropImageView::DragDropImageView(QWidget* parent)
 
 void DragDropImageView::setImage(const QImage& image)
 {
+    const QRect before = shownArea();
     rendered = image;
-    update();
+    update(before | shownArea());
 }
 
 void DragDropImageView::setComparedImage(const QImage& image)
@@ -71,6 +72,11 @@ QRectF DragDropImageView::imageRect() const
     const QSizeF shown = QSizeF(shownPixels()) / ratio;
     const auto snapped = [ratio](qreal v) { return std::floor(v * ratio) / ratio; };
     return {QPointF(snapped((width() - shown.width()) / 2), snapped((height() - shown.height()) / 2)), shown};
+}
+
+QRect DragDropImageView::shownArea() const
+{
+    return shownImage().isNull() ? rect() : imageRect().toAlignedRect();
 }
 
 const QImage& DragDropImageView::fitted()

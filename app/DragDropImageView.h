@@ -61,6 +61,8 @@ private:
         QImage image;
     };
     QSize shownPixels() const;
+    /// What the picture takes of the widget; all of it without one, for the words that stand there instead.
+    QRect shownArea() const;
     const QImage& fitted();
 
     QImage rendered, compared;

@@ -3,7 +3,6 @@
 // LUMORA is the program, FOLDER takes the photo. A time is the least of a few measurements, but opening is measured
 // once; it is a person's time unless it says that it is the processor's.
 
-#include "app/DragDropImageView.h"
 #include "app/MainWindowController.h"
 #include "bench/Measure.h"
 #include "bench/Photo.h"
@@ -15,10 +14,12 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QLoggingCategory>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -63,24 +64,35 @@ void measureStart(const QString& program, const QString& photo)
     say("peak memory of the program with the photo open", best.peakMemory, "MiB");
 }
 
-/// Paints the widget now, and waits until the display has it.
-void paint(QWidget& widget)
+/// Shows the window and waits until it can be seen: nothing is painted before.
+void expose(QWidget& window)
 {
-    widget.repaint();
+    window.show();
+    QElapsedTimer clock;
+    clock.start();
+    while (!window.windowHandle()->isExposed()) {
+        if (clock.hasExpired(10'000))
+            qFatal("the window does not appear");
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+}
+
+/// Paints what has changed, as the event loop would, and waits until the display has it.
+void paint()
+{
+    QApplication::sendPostedEvents();
     QGuiApplication::sync();
 }
 
 void measureWindow(const QByteArray& photo)
 {
     MainWindowController window;
-    window.show();
-    QApplication::processEvents();
+    expose(window);
     window.displayRes = previewSide;
-    auto& preview = *window.findChild<DragDropImageView*>();
     const double open = secondsOf([&] {
         if (!window.loadImageFromFile(photo))
             qFatal("the photo cannot be opened");
-        paint(window);
+        paint();
     });
     const QSize size = window.getoriginalDisplay().size();
     say(QStringLiteral("open, to the painted window"), open * 1e3, "ms");
@@ -91,10 +103,10 @@ void measureWindow(const QByteArray& photo)
         const int look = looks.theArray[i];
         const double press = leastOf(pressRounds, [&] {
             secondsOf([&] { window.applyOriginalFilter(); });
-            paint(window);
+            paint();
             return secondsOf([&] {
                 window.pressFilterButton(look);
-                paint(preview);
+                paint();
             });
         });
         logs += std::log(press);
@@ -111,7 +123,7 @@ void measureWindow(const QByteArray& photo)
                 [&] {
                     return secondsOf([&] {
                         window.updateThumbnailImages();
-                        paint(window);
+                        paint();
                     });
                 }),
         "ms");
