@@ -21,42 +21,28 @@ void fillFactors(Plane& factor, float dx, float dy, double reach)
     }
 }
 
-/// For each pixel of a block: whether its place lies inside the picture, and where.
-struct Places {
-    Plane x, y, inside;
-    bool any;
+/// On one axis, for each pixel of a block: where it is read.
+struct Axis {
+    Plane inside; ///< 1 where that lies in the picture, else 0
+    bool any; ///< of the pixels
+    int pixel[blockPixels]; ///< the one that holds the place
+    /// That one's share in the blend with the next. Odd on purpose: it has all up to its middle, and from there on falls
+    /// from a half to nothing.
+    Plane share;
 
-    /// Nearly centre + 0.66 factor distance; the detour over the picture's size rounds differently and is kept.
-    static float placeOf(float distance, float factor, float size, float centre)
+    /// The block's pixels stand at first, first + step, ... of `size`.
+    void find(int first, int step, const Plane& factor, float size)
     {
-        return ((distance * factor + centre) / size * size - centre) * 0.66f + centre;
-    }
-
-    void find(int firstX, int row, const Plane& factor, float across, float down)
-    {
-        const float cx = across * 0.5f, cy = down * 0.5f;
+        Plane places;
         int found = 0;
         for (int i = 0; i < blockPixels; i++) {
-            const float sx = placeOf(float(firstX + i) - cx, factor.at[i], across, cx);
-            const float sy = placeOf(float(row) - cy, factor.at[i], down, cy);
-            const bool within = (sx >= 0.0f) & (sy >= 0.0f) & (sx < across) & (sy < down);
-            x.at[i] = within ? sx : 0.0f;
-            y.at[i] = within ? sy : 0.0f;
+            const float place = placeOf(float(first + i * step), factor.at[i], size);
+            const bool within = (place >= 0.0f) & (place < size);
+            places.at[i] = within ? place : 0.0f;
             inside.at[i] = within ? 1.0f : 0.0f;
             found |= within;
         }
         any = found;
-    }
-};
-
-/// On one axis, for each pixel of a block: the pixel that holds its place, and the share of that one in the blend with
-/// the next. Odd on purpose: it has all up to its middle, and from there on falls from a half to nothing.
-struct Neighbours {
-    int pixel[blockPixels];
-    Plane share;
-
-    void find(const Plane& places, float size)
-    {
         for (int i = 0; i < blockPixels; i++) {
             const float place = places.at[i], next = float(int(place)) + 1.0f, rest = next - place;
             const bool blends = (place + 0.5f >= next) & (next < size);
@@ -64,13 +50,21 @@ struct Neighbours {
             share.at[i] = blends ? rest : 1.0f;
         }
     }
+
+private:
+    /// Nearly centre + 0.66 factor (at - centre); the detour over the picture's size rounds differently and is kept.
+    static float placeOf(float at, float factor, float size)
+    {
+        const float centre = size * 0.5f;
+        return (((at - centre) * factor + centre) / size * size - centre) * 0.66f + centre;
+    }
 };
 
 /// The pixels of the picture that a block is made of, two of a row and the two below them.
 struct Corners {
     std::uint32_t upper[2 * blockPixels], lower[2 * blockPixels];
 
-    void gather(const unsigned char* const* rows, const Neighbours& across, const Neighbours& down)
+    void gather(const unsigned char* const* rows, const Axis& across, const Axis& down)
     {
         for (int i = 0; i < blockPixels; i++) {
             const unsigned char* const* const row = rows + down.pixel[i];
@@ -107,22 +101,18 @@ void CharImage::makeFisheye()
     const double reach = std::min(cx, cy) * 0.97;
     Block block;
     Plane factor;
-    Places places;
-    Neighbours h, v;
+    Axis h, v;
     Corners corners;
     const auto bend = [&](int x, int y, const unsigned char* const* rows) {
         unsigned char* const pixels = data + (std::size_t(y) * width + x) * 4;
-        const int count = std::min(blockPixels, width - x);
-        block.open(pixels, count);
-        places.find(x, y, factor, across, down);
-        if (places.any) {
-            h.find(places.x, across);
-            v.find(places.y, down);
+        block.open(pixels, std::min(blockPixels, width - x));
+        v.find(y, 0, factor, down);
+        if (h.any && v.any) {
             corners.gather(rows, h, v);
             workPlanes(block, [&](Rgb, int i) {
                 const float hs = h.share.at[i], vs = v.share.at[i];
                 const Rgb c = {corners.mixed(i, 0, hs, vs), corners.mixed(i, 1, hs, vs), corners.mixed(i, 2, hs, vs)};
-                return places.inside.at[i] > 0.0f ? c : grey(0.0f);
+                return h.inside.at[i] * v.inside.at[i] > 0.0f ? c : grey(0.0f);
             });
         } else
             workPlanes(block, [](Rgb, int) { return grey(0.0f); });
@@ -130,7 +120,7 @@ void CharImage::makeFisheye()
         block.close();
     };
 
-    // From the middle row outwards, so that rows which mirror one another share their factors. A row reads at most
+    // From the middle row outwards, so that rows which mirror one another share what they have across. A row reads at most
     // 0.14 reach nearer to the middle, where the rows are written over.
     FormerRows rows(*this, 2 * (int(reach * 0.141) + 4 + bandRows));
     for (int first = (height + 1) / 2; first <= height; first += bandRows) {
@@ -143,6 +133,7 @@ void CharImage::makeFisheye()
         for (int x = 0; x < width; x += blockPixels)
             for (int y = first; y < end; y++) {
                 fillFactors(factor, float(x) - cx, float(y) - cy, reach);
+                h.find(x, 1, factor, across);
                 bend(x, height - y, rows.table());
                 if (y < height)
                     bend(x, y, rows.table());
