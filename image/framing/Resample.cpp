@@ -101,8 +101,8 @@ template <class Value> Value ofByte(unsigned char byte)
 
 template <class Value> Value weightOf(double share)
 {
-    return static_cast<Value>(
-        std::min(std::ldexp(share, bitsOf<Value>) + 0.5, double(std::numeric_limits<Value>::max())));
+    constexpr double largest = std::numeric_limits<Value>::max();
+    return static_cast<Value>(std::min(share * (largest + 1.0) + 0.5, largest));
 }
 
 template <class Value> Value times(Value value, Value weight)
@@ -130,6 +130,8 @@ public:
         , m_pairs((side.mostTaps + 1) / 2)
     {
         // As many pairs of taps for every column, and each weight once for each channel.
+        m_firstChannels.reserve(side.taps.size());
+        m_weights.reserve(side.taps.size() * m_pairs * 8);
         const double* weights = side.weights.data();
         for (const Taps& column : side.taps) {
             m_firstChannels.push_back(column.first * 4 - int(firstByte()));
