@@ -27,7 +27,7 @@
 namespace {
 
 constexpr int width = 6000, height = 4000, previewSide = 1200;
-constexpr int rounds = 3, pressRounds = 10;
+constexpr int rounds = 3, pressRounds = 30;
 
 double leastOf(int times, const std::function<double()>& measure)
 {

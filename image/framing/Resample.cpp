@@ -19,7 +19,7 @@ struct Taps {
 /// the weights of all of them, which sum up to 1 for each output pixel.
 struct Side {
     int begin = 0, mostTaps = 1;
-    bool grows;
+    bool grows = false;
     std::vector<Taps> taps;
     std::vector<double> weights;
 

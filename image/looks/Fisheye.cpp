@@ -26,8 +26,8 @@ struct Axis {
     Plane inside; ///< 1 where that lies in the picture, else 0
     bool any; ///< of the pixels
     int pixel[blockPixels]; ///< the one that holds the place
-    /// That one's share in the blend with the next. Odd on purpose: it has all up to its middle, and from there on falls
-    /// from a half to nothing.
+    /// That one's share in the blend with the next. Odd on purpose: it has all up to its middle, and from there on
+    /// falls from a half to nothing.
     Plane share;
 
     /// The block's pixels stand at first, first + step, ... of `size`.
@@ -120,8 +120,8 @@ void CharImage::makeFisheye()
         block.close();
     };
 
-    // From the middle row outwards, so that rows which mirror one another share what they have across. A row reads at most
-    // 0.14 reach nearer to the middle, where the rows are written over.
+    // From the middle row outwards, so that rows which mirror one another share what they have across. A row reads at
+    // most 0.14 reach nearer to the middle, where the rows are written over.
     FormerRows rows(*this, 2 * (int(reach * 0.141) + 4 + bandRows));
     for (int first = (height + 1) / 2; first <= height; first += bandRows) {
         const int end = std::min(first + bandRows, height + 1);

@@ -67,9 +67,10 @@ struct Shade {
     void darkenRing(CharImage& image) const
     {
         const int cx = image.width / 2, cy = image.height / 2;
+        const double beyond = end * (1.0 + 1e-6); // by more than a distance is rounded
         for (int y = 0; y < image.height; y++) {
             const int dy = y - cy;
-            int last = int(std::sqrt(std::max(0.0, double(end) * end - double(dy) * dy))) + 1;
+            int last = int(std::sqrt(std::max(0.0, beyond * beyond - double(dy) * dy))) + 1;
             while (last >= 0 && !(distance(last, dy) < end))
                 last--;
             int first = last;
