@@ -4,22 +4,40 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <vector>
 
 namespace {
 
 /// Rows that are worked on block by block together, as they read nearly the same pixels.
-constexpr int bandRows = 32;
+constexpr int bandRows = 8;
 
-/// How far out each pixel of a block is read, compared with the pixels at the centre. The block begins at the distances
-/// `dx` and `dy` from there.
-void fillFactors(Plane& factor, float dx, float dy, double reach)
-{
-    for (int i = 0; i < blockPixels; i++) {
-        const float x = dx + float(i);
-        const float q = float(std::sqrt(x * x + dy * dy) / reach);
-        factor.at[i] = float(q * q * 0.45 + 1.0);
+/// How far out each pixel of a row is read, compared with the pixels at the centre, at the distance `dy` down from
+/// there. Columns that mirror one another have the same factor.
+class FactorRow {
+public:
+    explicit FactorRow(int width)
+        : m_factors(std::size_t(width) + blockPixels)
+        , m_width(width)
+    {
     }
-}
+    void fill(float dy, double reach)
+    {
+        const int middle = m_width / 2;
+        const float centre = float(m_width) * 0.5f;
+        for (int x = middle; x < m_width + blockPixels; x++) {
+            const float dx = float(x) - centre;
+            const float q = float(std::sqrt(dx * dx + dy * dy) / reach);
+            m_factors[std::size_t(x)] = float(q * q * 0.45 + 1.0);
+        }
+        for (int x = 0; x < middle; x++)
+            m_factors[std::size_t(x)] = m_factors[std::size_t(m_width - x)];
+    }
+    const float* from(int x) const { return m_factors.data() + x; }
+
+private:
+    std::vector<float> m_factors;
+    int m_width;
+};
 
 /// On one axis, for each pixel of a block: where it is read.
 struct Axis {
@@ -31,12 +49,12 @@ struct Axis {
     Plane share;
 
     /// The block's pixels stand at first, first + step, ... of `size`.
-    void find(int first, int step, const Plane& factor, float size)
+    void find(int first, int step, const float* factor, float size)
     {
         Plane places;
         int found = 0;
         for (int i = 0; i < blockPixels; i++) {
-            const float place = placeOf(float(first + i * step), factor.at[i], size);
+            const float place = placeOf(float(first + i * step), factor[i], size);
             const bool within = (place >= 0.0f) & (place < size);
             places.at[i] = within ? place : 0.0f;
             inside.at[i] = within ? 1.0f : 0.0f;
@@ -100,10 +118,10 @@ void CharImage::makeFisheye()
     const float across = float(width), down = float(height), cx = across * 0.5f, cy = down * 0.5f;
     const double reach = std::min(cx, cy) * 0.97;
     Block block;
-    Plane factor;
+    std::vector<FactorRow> factors(bandRows, FactorRow(width));
     Axis h, v;
     Corners corners;
-    const auto bend = [&](int x, int y, const unsigned char* const* rows) {
+    const auto bend = [&](int x, int y, const float* factor, const unsigned char* const* rows) {
         unsigned char* const pixels = data + (std::size_t(y) * width + x) * 4;
         block.open(pixels, std::min(blockPixels, width - x));
         v.find(y, 0, factor, down);
@@ -129,14 +147,15 @@ void CharImage::makeFisheye()
             rows.keep(height - y);
             if (y < height)
                 rows.keep(y);
+            factors[std::size_t(y - first)].fill(float(y) - cy, reach);
         }
         for (int x = 0; x < width; x += blockPixels)
             for (int y = first; y < end; y++) {
-                fillFactors(factor, float(x) - cx, float(y) - cy, reach);
+                const float* factor = factors[std::size_t(y - first)].from(x);
                 h.find(x, 1, factor, across);
-                bend(x, height - y, rows.table());
+                bend(x, height - y, factor, rows.table());
                 if (y < height)
-                    bend(x, y, rows.table());
+                    bend(x, y, factor, rows.table());
             }
     }
 }
