@@ -131,9 +131,9 @@ template <class Function> void raiseBy(float* values, int count, float exponent,
         const float base = values[i];
         const Rounded rounded = roundedBothWays(power(base));
         const bool zero = isZero(base) & (exponent > 0.0f);
-        const bool sure = bases.have(base) & (rounded.below == rounded.above);
+        const bool sure = zero | (bases.have(base) & (rounded.below == rounded.above));
         result.at[i] = zero ? 0.0f : rounded.below;
-        unsure[i] = zero | sure ? 0 : 1;
+        unsure[i] = sure ? 0 : 1;
     }
     for (int i = 0; i < count; i += 8) {
         std::uint64_t any;

@@ -1,11 +1,50 @@
 #include "tests/app/Desk.h"
 
+#include <QPaintEvent>
+
 // Run at several densities of the screen.
 
 class SharpnessTest : public QObject {
     Q_OBJECT
 
+private:
+    /// Collects what a widget is told to paint.
+    struct PaintWatch : QObject {
+        QRegion region;
+
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint)
+                region += static_cast<QPaintEvent*>(event)->region();
+            return false;
+        }
+        bool covers(const QRect& area) const { return QRegion(area).subtracted(region).isEmpty(); }
+    };
+
 private slots:
+    void aNewPicturePaintsItsOwnPlaceAndThatOfTheFormerOne()
+    {
+        DragDropImageView view;
+        view.resize(301, 203);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        PaintWatch watch;
+        view.installEventFilter(&watch);
+        view.setImage(makePhoto(150, 40)); // in place of the words
+        QTRY_VERIFY(watch.covers(view.rect()));
+        for (const QSize size : {QSize(40, 150), QSize(151, 39)}) {
+            const QRect former = view.imageRect().toAlignedRect();
+            watch.region = {};
+            view.setImage(makePhoto(size.width(), size.height()));
+            QTRY_VERIFY(watch.covers(view.imageRect().toAlignedRect()));
+            QVERIFY(watch.covers(former));
+            QVERIFY(!watch.covers(view.rect()));
+        }
+        watch.region = {};
+        view.setImage({});
+        QTRY_VERIFY(watch.covers(view.rect()));
+    }
+
     void aPixelOfThePictureIsAPixelOfTheScreen()
     {
         DragDropImageView view;
