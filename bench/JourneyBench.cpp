@@ -14,12 +14,11 @@
 
 #include <QApplication>
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QLoggingCategory>
-#include <QWindow>
+#include <QTest>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -64,19 +63,6 @@ void measureStart(const QString& program, const QString& photo)
     say("peak memory of the program with the photo open", best.peakMemory, "MiB");
 }
 
-/// Shows the window and waits until it can be seen: nothing is painted before.
-void expose(QWidget& window)
-{
-    window.show();
-    QElapsedTimer clock;
-    clock.start();
-    while (!window.windowHandle()->isExposed()) {
-        if (clock.hasExpired(10'000))
-            qFatal("the window does not appear");
-        QApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-}
-
 /// Paints what has changed, as the event loop would, and waits until the display has it.
 void paint()
 {
@@ -87,7 +73,9 @@ void paint()
 void measureWindow(const QByteArray& photo)
 {
     MainWindowController window;
-    expose(window);
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window)) // nothing is painted before
+        qFatal("the window does not appear");
     window.displayRes = previewSide;
     const double open = secondsOf([&] {
         if (!window.loadImageFromFile(photo))
@@ -102,7 +90,7 @@ void measureWindow(const QByteArray& photo)
     for (int i = 0; i < looks.numThings; i++) {
         const int look = looks.theArray[i];
         const double press = leastOf(pressRounds, [&] {
-            secondsOf([&] { window.applyOriginalFilter(); });
+            window.applyOriginalFilter();
             paint();
             return secondsOf([&] {
                 window.pressFilterButton(look);

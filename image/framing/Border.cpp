@@ -1,5 +1,6 @@
 #include "image/CharImage.h"
 #include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/Disc.h"
 #include "image/toolkit/Vignette.h"
 
 #include <algorithm>
@@ -20,16 +21,8 @@ void maskDisc(CharImage& image, float radius)
 {
     const unsigned char black[3] = {0, 0, 0};
     const int cx = image.width / 2, cy = image.height / 2;
-    int inside = 0; // columns on either side of the centre that stay, the centre's own included
     for (int y = 0; y < image.height; y++) {
-        const auto isOutside = [&](int column) {
-            const float dx = float(column), dy = float(y - cy);
-            return std::sqrt(dx * dx + dy * dy) >= radius;
-        };
-        while (inside > 0 && isOutside(inside - 1))
-            inside--;
-        while (inside <= cx && !isOutside(inside))
-            inside++;
+        const int inside = columnsWithin(radius, y - cy); // on either side of the centre
         paint(image, y, 0, std::clamp(cx - inside + 1, 0, image.width), black);
         paint(image, y, std::min(cx + inside, image.width), image.width, black);
     }

@@ -1,5 +1,6 @@
 #include "image/CharImage.h"
 #include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/Disc.h"
 
 namespace {
 
@@ -31,8 +32,7 @@ void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int 
                 continue;
             const int cx = isRight ? farLeft : left + radius - 1;
             const int cy = isBottom ? farTop : top + radius - 1;
-            const float dx = float(x - cx), dy = float(y - cy);
-            const float q = std::sqrt(dx * dx + dy * dy) / float(radius);
+            const float q = distance(float(x - cx), float(y - cy)) / float(radius);
             if (!(q > 0.0f))
                 continue;
             const float w = colourShare(q, hardness);

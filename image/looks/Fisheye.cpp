@@ -1,3 +1,4 @@
+#include "image/toolkit/Disc.h"
 #include "image/toolkit/FormerRows.h"
 #include "image/toolkit/PixelPass.h"
 
@@ -16,7 +17,7 @@ constexpr int bandRows = 8;
 class FactorRow {
 public:
     explicit FactorRow(int width)
-        : m_factors(std::size_t(width) + blockPixels)
+        : m_factors(std::size_t(width / blockPixels + 1) * blockPixels)
         , m_width(width)
     {
     }
@@ -24,9 +25,8 @@ public:
     {
         const int middle = m_width / 2;
         const float centre = float(m_width) * 0.5f;
-        for (int x = middle; x < m_width + blockPixels; x++) {
-            const float dx = float(x) - centre;
-            const float q = float(std::sqrt(dx * dx + dy * dy) / reach);
+        for (int x = middle; x < int(m_factors.size()); x++) {
+            const float q = float(distance(float(x) - centre, dy) / reach);
             m_factors[std::size_t(x)] = float(q * q * 0.45 + 1.0);
         }
         for (int x = 0; x < middle; x++)
@@ -117,16 +117,18 @@ void CharImage::makeFisheye()
         return;
     const float across = float(width), down = float(height), cx = across * 0.5f, cy = down * 0.5f;
     const double reach = std::min(cx, cy) * 0.97;
+    // A row reads at most 0.14 reach nearer to the middle, where the rows are written over.
+    FormerRows rows(*this, 2 * (int(reach * 0.141) + 4 + bandRows));
     Block block;
     std::vector<FactorRow> factors(bandRows, FactorRow(width));
     Axis h, v;
     Corners corners;
-    const auto bend = [&](int x, int y, const float* factor, const unsigned char* const* rows) {
+    const auto bend = [&](int x, int y, const float* factor) {
         unsigned char* const pixels = data + (std::size_t(y) * width + x) * 4;
         block.open(pixels, std::min(blockPixels, width - x));
         v.find(y, 0, factor, down);
         if (h.any && v.any) {
-            corners.gather(rows, h, v);
+            corners.gather(rows.table(), h, v);
             workPlanes(block, [&](Rgb, int i) {
                 const float hs = h.share.at[i], vs = v.share.at[i];
                 const Rgb c = {corners.mixed(i, 0, hs, vs), corners.mixed(i, 1, hs, vs), corners.mixed(i, 2, hs, vs)};
@@ -138,9 +140,7 @@ void CharImage::makeFisheye()
         block.close();
     };
 
-    // From the middle row outwards, so that rows which mirror one another share what they have across. A row reads at
-    // most 0.14 reach nearer to the middle, where the rows are written over.
-    FormerRows rows(*this, 2 * (int(reach * 0.141) + 4 + bandRows));
+    // From the middle row outwards: rows that mirror one another share what they have across.
     for (int first = (height + 1) / 2; first <= height; first += bandRows) {
         const int end = std::min(first + bandRows, height + 1);
         for (int y = first; y < end; y++) {
@@ -153,9 +153,9 @@ void CharImage::makeFisheye()
             for (int y = first; y < end; y++) {
                 const float* factor = factors[std::size_t(y - first)].from(x);
                 h.find(x, 1, factor, across);
-                bend(x, height - y, factor, rows.table());
+                bend(x, height - y, factor);
                 if (y < height)
-                    bend(x, y, factor, rows.table());
+                    bend(x, y, factor);
             }
     }
 }

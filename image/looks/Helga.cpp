@@ -1,5 +1,6 @@
 #include "image/looks/Helga.h"
 
+#include "image/toolkit/Disc.h"
 #include "image/toolkit/Hues.h"
 #include "image/toolkit/PixelPass.h"
 #include "image/toolkit/Power.h"
@@ -52,10 +53,8 @@ void CharImage::applyHelgaFilter()
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
     const float reach = float(1.49 * std::sqrt(double(halfWidth * halfWidth + halfHeight * halfHeight)));
     const auto fallOffAt = [=](float* fallOff, int count, int dx, int dy) {
-        for (int i = 0; i < count; i++) {
-            const float x = float(dx + i), y = float(dy);
-            fallOff[i] = std::sqrt(x * x + y * y) / reach;
-        }
+        for (int i = 0; i < count; i++)
+            fallOff[i] = distance(float(dx + i), float(dy)) / reach;
         applySCurve(fallOff, count, p.edgeExponent);
     };
     const auto contrasted = [=](auto c) {

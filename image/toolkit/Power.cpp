@@ -25,7 +25,7 @@ struct Power {
 };
 
 /// The part of a result of this logarithm, to the base 2, by which the library may err before it rounds: its logarithm
-/// is good to 1.83 x 2^-33, which the exponent makes 1.27 x 2^-33, and its power of 2 to 1.69 x 2^-34.
+/// is good to 1.83 x 2^-33, of which ln 2 times as much is left in the power, and its power of 2 to 1.69 x 2^-34.
 inline double libraryError(double log)
 {
     return 0x1p-33 + std::fabs(log) * (1.3 * 0x1p-33);

@@ -1,6 +1,7 @@
 #include "image/toolkit/Vignette.h"
 
 #include "image/CharImage.h"
+#include "image/toolkit/Disc.h"
 #include "image/toolkit/PixelPass.h"
 #include "image/toolkit/Power.h"
 
@@ -22,18 +23,12 @@ struct Shade {
     bool boostSaturation;
     float end = std::numeric_limits<float>::infinity(); ///< the radius from which on nothing is darkened
 
-    static float distance(int x, int y)
-    {
-        const float dx = float(x), dy = float(y);
-        return std::sqrt(dx * dx + dy * dy);
-    }
-
     /// Where `count` pixels of a row stand: from 0 at the inner to 1 at the outer radius.
     void placeAt(float* t, int count, int firstX, int y) const
     {
         const float span = outerRadius - innerRadius;
         for (int i = 0; i < count; i++) {
-            const float d = distance(firstX + i, y), place = (d - innerRadius) / span;
+            const float d = distance(float(firstX + i), float(y)), place = (d - innerRadius) / span;
             t[i] = d < end ? place : -1.0f;
         }
     }
@@ -67,17 +62,10 @@ struct Shade {
     void darkenRing(CharImage& image) const
     {
         const int cx = image.width / 2, cy = image.height / 2;
-        const double beyond = end * (1.0 + 1e-6); // by more than a distance is rounded
         for (int y = 0; y < image.height; y++) {
-            const int dy = y - cy;
-            int last = int(std::sqrt(std::max(0.0, beyond * beyond - double(dy) * dy))) + 1;
-            while (last >= 0 && !(distance(last, dy) < end))
-                last--;
-            int first = last;
-            while (first > 0 && distance(first - 1, dy) >= innerRadius)
-                first--;
+            const int dy = y - cy, last = columnsWithin(end, dy) - 1;
             unsigned char* centre = image.data + (std::size_t(y) * image.width + cx) * 4;
-            for (int dx = std::max(first, 0); dx <= last; dx += partPixels) {
+            for (int dx = columnsWithin(innerRadius, dy); dx <= last; dx += partPixels) {
                 float dark[partPixels];
                 placeAt(dark, partPixels, dx, dy);
                 becomeDarknessOfPart(dark, partPixels);

@@ -40,7 +40,7 @@ Picture drawn(const Picture& source, const PlacedRect& rect, bool nearest, int w
     return out;
 }
 
-/// Holds every pixel of the drawing to the definition. A sum is good to a 128th of a step for each of its taps, of
+/// Holds every pixel of the drawing to the definition. A sum is good to a 256th of a step for each of its taps, of
 /// which there are `taps` in both directions together at most, unless they are so many that more bits are taken.
 void expectWeighed(const Picture& source, const PlacedRect& rect, int width, int height, int taps)
 {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "image/toolkit/Arithmetic.h"
+
+#include <algorithm>
+#include <cmath>
+
+/// How far a pixel stands from a centre, so many columns across and rows down.
+inline float distance(float across, float down)
+{
+    return std::sqrt(across * across + down * down);
+}
+
+/// How many columns of a row, from the centre's own on, stand nearer to the centre than `radius`. The row is `dy` rows
+/// from there.
+inline int columnsWithin(float radius, int dy)
+{
+    const double beyond = radius * (1.0 + 1e-6); // by more than a distance is rounded
+    int columns = int(std::sqrt(std::max(0.0, beyond * beyond - double(dy) * dy))) + 2;
+    while (columns > 0 && distance(float(columns - 1), float(dy)) >= radius)
+        columns--;
+    return columns;
+}
