@@ -34,11 +34,16 @@ ChannelCurve bandedLightness()
     return channelCurve([](int tone) { return float(bandedTone(static_cast<unsigned char>(tone)) * per255); });
 }
 
-/// Gives each pixel its lightness and a stronger colour.
-void recolour(Block& block, const Plane& lightness)
+/// Gives each pixel of a row its lightness and a stronger colour. `lightnessAt(x)` is that of a block.
+template <class LightnessAt> void recolourRow(CharImage& image, int y, LightnessAt lightnessAt)
 {
-    block.fillPlanes();
-    tryBlock(block, Steps(Recoloured()), lightness.at, Recoloured::error, NoLevels());
+    Trial<Steps<Recoloured>, KnownWeights, NoLevels> trial(Steps{Recoloured()}, Recoloured::error, {});
+    forEachBlockOfRow(image, y, [&](Block& block, int x) {
+        block.fillPlanes();
+        const Plane lightness = lightnessAt(x);
+        trial.work(block, {lightness.at});
+    });
+    trial.finish();
 }
 
 /// How much of the outlines' grey covers a pixel, by the strength of its edge.
@@ -101,8 +106,8 @@ void CharImage::applyDeliciousFilter()
         outlines.endRow();
     };
     const auto draw = [&](int y) {
+        recolourRow(*this, y, [&](int x) { return lookedUp(lightness, tones.block(x, y)); });
         forEachBlockOfRow(*this, y, [&](Block& block, int x) {
-            recolour(block, lookedUp(lightness, tones.block(x, y)));
             const Plane strengths = outlines.block(x, y);
             if (hasOutlines(strengths))
                 drawOutlines(block, lookedUp(ink, strengths));
@@ -130,8 +135,6 @@ void CharImage::deliciousColorCore2()
         });
         tones.endRow();
     };
-    forEachDelayedRow(height, tones.delay(), measure, [&](int y) {
-        forEachBlockOfRow(
-            *this, y, [&](Block& block, int x) { recolour(block, lookedUp(lightness, tones.block(x, y))); });
-    });
+    forEachDelayedRow(height, tones.delay(), measure,
+        [&](int y) { recolourRow(*this, y, [&](int x) { return lookedUp(lightness, tones.block(x, y)); }); });
 }

@@ -2,8 +2,7 @@
 
 #include "image/toolkit/Disc.h"
 #include "image/toolkit/Hues.h"
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Power.h"
+#include "image/toolkit/RadialPass.h"
 #include "image/toolkit/Variation.h"
 
 HelgaParameters HelgaParameters::fixed()
@@ -52,10 +51,10 @@ void CharImage::applyHelgaFilter()
 
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
     const float reach = float(1.49 * std::sqrt(double(halfWidth * halfWidth + halfHeight * halfHeight)));
-    const auto fallOffAt = [=](float* fallOff, int count, int dx, int dy) {
+    const auto fallOffAt = [=](Raise toPower, float* fallOff, const int* across, const int* down, int count) {
         for (int i = 0; i < count; i++)
-            fallOff[i] = distance(float(dx + i), float(dy)) / reach;
-        applySCurve(fallOff, count, p.edgeExponent);
+            fallOff[i] = distance(float(across[i]), float(down[i])) / reach;
+        applySCurve(fallOff, count, p.edgeExponent, toPower);
     };
     const auto contrasted = [=](auto c) {
         c = eachChannel(c, [=](auto v) { return withContrast(v, p.contrast); });
@@ -71,5 +70,6 @@ void CharImage::applyHelgaFilter()
     // Half a step more than the floor makes no other byte, and no trial can be in doubt of it.
     const float floor = float(p.blackFloor) + 0.5f;
     const auto floored = [=](auto c) { return eachChannel(c, [=](auto v) { return notBelow(v, floor); }); };
-    forEachPixelAround(*this, width / 2, height / 2, 1.0f, fallOffAt, Steps(contrasted, lifted, darkened, floored));
+    forEachPixelAround(
+        *this, width / 2, height / 2, nearSCurve(), fallOffAt, Steps(contrasted, lifted, darkened, floored));
 }

@@ -1,11 +1,8 @@
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Power.h"
+#include "image/toolkit/RadialPass.h"
 
 #include <cstdlib>
 
 namespace {
-
-constexpr double heaviestGlow = 0.15;
 
 /// Where the light came in: a new place and reach on every call, whatever the variation switch says.
 struct Leak {
@@ -22,18 +19,23 @@ struct Leak {
     }
 
     /// The glow's weights, 0 .. 0.15, of pixels that stand so far from the place.
-    void glowAt(float* glow, int count, int firstX, int row) const
+    void glowAt(Raise toPower, float* glow, const int* across, const int* down, int count) const
     {
         for (int i = 0; i < count; i++) {
-            const double dx = firstX + i, dy = row;
+            const double dx = across[i], dy = down[i];
             const float d = float(std::sqrt(dx * dx + dy * dy));
             const float q = 1.0f - d / radius;
             glow[i] = q < 0.0f ? 0.0f : q > 1.0f ? 1.0f : q;
         }
-        raise(glow, count, 1.5f);
+        toPower(glow, count, exponent);
         for (int i = 0; i < count; i++)
-            glow[i] = float(glow[i] * heaviestGlow);
+            glow[i] = float(glow[i] * heaviest);
     }
+    static ErrorBound glow() { return rounded(nearPower() * heaviest); }
+
+private:
+    static constexpr float exponent = 1.5f;
+    static constexpr double heaviest = 0.15;
 };
 
 template <class Channel> Channel brightness(Colour<Channel> c)
@@ -78,8 +80,10 @@ void CharImage::applyLightleakFilter()
         return eachChannel(c, [=](auto v) { return notBelow(withShareTimes(v, p, 1.1f) * 1.35f, 62.5f); });
     };
     forEachPixelAround(
-        *this, leak.x, leak.y, heaviestGlow,
-        [=](float* glow, int count, int dx, int dy) { leak.glowAt(glow, count, dx, dy); },
+        *this, leak.x, leak.y, Leak::glow(),
+        [=](Raise toPower, float* glow, const int* across, const int* down, int count) {
+            leak.glowAt(toPower, glow, across, down, count);
+        },
         Steps(shaded, violet, muted, glowing, contrasted));
 
     const float halfWidth = width * 0.5f, halfHeight = height * 0.5f;

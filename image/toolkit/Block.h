@@ -108,7 +108,9 @@ public:
         for (int i = 0; i < blockPixels; i++)
             writeColour(to + 4 * i, bytesOf(i));
     }
-    void setBytes(int i, Colour<int> c) { writeColour(m_bytes + 4 * i, c); }
+    /// Where the bytes of a pixel are stored until the block is closed; they stay there if the block is whole.
+    unsigned char* bytes(int i) { return m_bytes + 4 * i; }
+    static void setBytes(unsigned char* pixel, Colour<int> c) { writeColour(pixel, c); }
 
     /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255.
     template <class ToByte> void storePlanes(ToByte toByte)

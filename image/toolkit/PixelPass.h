@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <vector>
 
 // Passes over the pixels of an image. A look gives what happens to one pixel; the loops and the byte conversions live
 // here. A pixel function should choose between values rather than branch, so that a whole block becomes vector code. It
@@ -111,15 +110,38 @@ template <class Recipe> double errorOfTrial(const Recipe& recipe, const Inputs& 
         return std::numeric_limits<double>::infinity();
 }
 
-/// Works a recipe into the bytes of a block whose planes are filled, with a trial where that is worth while.
-template <class Recipe, class ToByte = NoLevels>
-void tryOrWork(Block& block, const Recipe& recipe, const float* weights, double error, ToByte toByte = {})
-{
-    if constexpr (isMadeFor<Single, Recipe>)
-        if (error < tolerableError)
-            return tryBlock(block, recipe, weights, error, toByte);
-    workBlock(block, recipe, weights, toByte);
-}
+/// Works a recipe into the bytes of one block after another, with a trial where that is worth while.
+template <class Recipe, class Weights, class ToByte = NoLevels> class Work {
+public:
+    /// `error` is that of errorOfTrial.
+    Work(const Recipe& recipe, double error, ToByte toByte = {})
+        : m_recipe(recipe)
+        , m_toByte(toByte)
+        , m_isTried(error < tolerableError)
+        , m_trial(recipe, error, toByte)
+    {
+    }
+
+    /// The planes of the block are filled. Pixels of it may wait for finish().
+    void on(Block& block, const Weights& weights)
+    {
+        if constexpr (isMadeFor<Single, Recipe>)
+            if (m_isTried)
+                return m_trial.work(block, weights);
+        workBlock(block, m_recipe, weights.at, m_toByte);
+    }
+    void finish()
+    {
+        if constexpr (isMadeFor<Single, Recipe>)
+            m_trial.finish();
+    }
+
+private:
+    const Recipe m_recipe;
+    const ToByte m_toByte;
+    const bool m_isTried;
+    Trial<Recipe, Weights, ToByte> m_trial;
+};
 
 /// What a pass starts from: fills the planes of a block with its colours, and gives the weights of its pixels.
 struct Colours {
@@ -174,10 +196,17 @@ struct TonedColours {
 };
 
 /// Each pixel becomes what the recipe makes of it.
+template <class Source, class Recipe, class ToByte = NoLevels>
+void passOver(CharImage& image, Source& source, const Recipe& recipe, double error, ToByte toByte = {})
+{
+    Work<Recipe, KnownWeights, ToByte> work(recipe, error, toByte);
+    forEachBlock(image, [&](Block& block) { work.on(block, {source.fill(block)}); });
+    work.finish();
+}
+
 template <class Source, class Recipe> void passOver(CharImage& image, Source& source, const Recipe& recipe)
 {
-    const double error = errorOfTrial(recipe, source.inputs());
-    forEachBlock(image, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error); });
+    passOver(image, source, recipe, errorOfTrial(recipe, source.inputs()));
 }
 
 /// A pass and fillHistogram after it, in one walk over the picture: the levels ask only for every tenth pixel, so that
@@ -187,14 +216,12 @@ void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stre
 {
     const double error = errorOfTrial(recipe, source.inputs());
     CharImage samples = sampledPixels(image);
-    forEachBlock(samples, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error); });
+    passOver(samples, source, recipe, error);
     GrowArray<int> histogram;
     int minLum;
     getHistogramOfSamples(samples, &histogram, &minLum);
-    withByteOf(levelsOf(histogram, minLum, stretch), [&](auto byteOf) {
-        const LevelsOnBytes<decltype(byteOf)> levels = {byteOf};
-        forEachBlock(image, [&](Block& block) { tryOrWork(block, recipe, source.fill(block), error, levels); });
-    });
+    withByteOf(levelsOf(histogram, minLum, stretch),
+        [&](auto byteOf) { passOver(image, source, recipe, error, LevelsOnBytes<decltype(byteOf)>{byteOf}); });
 }
 
 /// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the others,
@@ -227,48 +254,4 @@ void forEachPixel(CharImage& image, const ToneTable& tones, Function function, F
 {
     TonedColours source{tones};
     passOver(image, source, stepsOf(function), finish...);
-}
-
-/// Each pixel becomes `function(colour, weight)`, the weight depending only on how far the pixel stands from a centre,
-/// a pixel of the image, across and down. `evaluate(weights, count, dx, dy)` gives `count` weights, 0 .. `heaviest`, at
-/// most a block of them and a multiple of 8, for the distances across dx, dx + 1, ... and the distance down dy, once
-/// for the up to four pixels that mirror one another. Where a weight of 0 `keepsPixels`, blocks without another weight
-/// are passed over.
-template <class Evaluate, class Function>
-void forEachPixelAround(CharImage& image, int centreX, int centreY, float heaviest, Evaluate evaluate,
-    Function function, bool keepsPixels = false)
-{
-    const auto inWhole = [](int unit, int count) { return (count + unit - 1) / unit * unit; };
-    const int reachX = std::max(centreX, image.width - 1 - centreX);
-    const int reachY = std::max(centreY, image.height - 1 - centreY);
-    std::vector<float> half(std::size_t(inWhole(8, reachX + 1)));
-    std::vector<float> row(std::size_t(inWhole(blockPixels, image.width)));
-    const auto recipe = stepsOf(function);
-    const double error = errorOfTrial(recipe, Inputs::ofBytes({0.0, heaviest}));
-    const auto workRow = [&](int y) {
-        const auto changes = [&](int x) {
-            if (!keepsPixels)
-                return true;
-            int found = 0;
-            for (int i = 0; i < blockPixels; i++)
-                found |= row[std::size_t(x + i)] != 0.0f;
-            return found != 0;
-        };
-        forEachBlockOfRow(image, y, changes, [&](Block& block, int x) {
-            block.fillPlanes();
-            tryOrWork(block, recipe, row.data() + x, error);
-        });
-    };
-    for (int dy = 0; dy <= reachY; dy++) {
-        for (int dx = 0; dx <= reachX; dx += blockPixels)
-            evaluate(half.data() + dx, std::min(blockPixels, int(half.size()) - dx), dx, dy);
-        for (int x = 0; x < centreX; x++)
-            row[x] = half[centreX - x];
-        for (int x = centreX; x < image.width; x++)
-            row[x] = half[x - centreX];
-        if (centreY + dy < image.height)
-            workRow(centreY + dy);
-        if (dy > 0 && centreY - dy >= 0)
-            workRow(centreY - dy);
-    }
 }

@@ -19,6 +19,10 @@ namespace {
 constexpr double twoOverLog2 = 2.8853900817779268; ///< 2 / ln 2
 constexpr double log2 = 0.6931471805599453;
 
+/// By how much a result of raiseNearly may be off. Its logarithm is good to 7 x 2^-24 of itself, of which at most 2.6 x
+/// 2^-24 is left in the power, as y 2^-y stays below 0.54; its power of 2 is good to 2.7 x 2^-24 of itself.
+constexpr double nearPowerError = 0x1p-22;
+
 struct Power {
     double value;
     double unsure; ///< the part of the value by which the library's may be another before it is rounded
@@ -145,6 +149,41 @@ template <class Function> void raiseBy(float* values, int count, float exponent,
     std::copy_n(result.at, count, values);
 }
 
+/// 2^-n, n from 0 up to 126, times 2^f, f on -1/2 .. 1/2.
+inline float powerOfTwoOf(float y)
+{
+    constexpr float rounder = 12582912.0f; // 1.5 x 2^23, which leaves the whole part in the lowest bits
+    const float shifted = y + rounder, f = (y - (shifted - rounder)) * float(log2);
+    float e = float(1.0 / 5040.0);
+    e = e * f + float(1.0 / 720.0);
+    e = e * f + float(1.0 / 120.0);
+    e = e * f + float(1.0 / 24.0);
+    e = e * f + float(1.0 / 6.0);
+    e = e * f + 0.5f;
+    e = e * f + 1.0f;
+    e = e * f + 1.0f;
+    return e * std::bit_cast<float>((std::bit_cast<std::uint32_t>(shifted) + 127u) << 23);
+}
+
+/// As powerOf, with as many steps of its series as a float has use for. What is less than 2^-126 stays about there.
+inline float nearPowerOf(float base, float exponent)
+{
+    const float m = mantissa(base), z = (m - 1.0f) / (m + 1.0f), z2 = z * z;
+    float series = float(1.0 / 9.0);
+    series = series * z2 + float(1.0 / 7.0);
+    series = series * z2 + float(1.0 / 5.0);
+    series = series * z2 + float(1.0 / 3.0);
+    series = series * z2 + 1.0f;
+    const float y = exponent * (float(wholeLog(base)) + z * series * float(twoOverLog2));
+    return powerOfTwoOf(larger(y, -126.0f));
+}
+
+template <class Function> void raiseNearlyBy(float* values, int count, Function power)
+{
+    for (int i = 0; i < count; i++)
+        values[i] = power(values[i]);
+}
+
 } // namespace
 
 void raise(float* values, int count, float exponent)
@@ -162,6 +201,23 @@ void raise(float* values, int count, float exponent)
         raiseBy(values, count, exponent, [=](float base) { return powerOf(base, exponent); });
 }
 
+void raiseNearly(float* values, int count, float exponent)
+{
+    if (exponent == 1.5f)
+        raiseNearlyBy(values, count, [](float base) { return base * std::sqrt(base); });
+    else if (exponent == 3.0f)
+        raiseNearlyBy(values, count, [](float base) { return base * base * base; });
+    else if (exponent == 5.0f)
+        raiseNearlyBy(values, count, [](float base) { return base * base * (base * base) * base; });
+    else
+        raiseNearlyBy(values, count, [=](float base) { return nearPowerOf(base, exponent); });
+}
+
+ErrorBound nearPower()
+{
+    return {-nearPowerError, 1.0 + nearPowerError, nearPowerError};
+}
+
 float sesquiPower(float value)
 {
     const Rounded rounded = roundedBothWays(sesquiPowerOf(value));
@@ -169,16 +225,21 @@ float sesquiPower(float value)
     return sure ? rounded.below : std::pow(value, 1.5f);
 }
 
-void applySCurve(float* values, int count, float exponent)
+void applySCurve(float* values, int count, float exponent, Raise toPower)
 {
     float power[blockPixels];
     for (int i = 0; i < count; i++) {
         const float x = values[i];
         power[i] = x < 0.5f ? x + x : float(2.0 - 2.0 * x);
     }
-    raise(power, count, exponent);
+    toPower(power, count, exponent);
     for (int i = 0; i < count; i++) {
         const float p = power[i], lower = p * 0.5f, upper = float(1.0 - 0.5 * p);
         values[i] = values[i] < 0.5f ? lower : upper;
     }
+}
+
+ErrorBound nearSCurve()
+{
+    return rounded(1.0 - 0.5 * nearPower());
 }

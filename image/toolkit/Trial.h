@@ -82,92 +82,136 @@ inline constexpr auto inParts = [](float v) {
     return notBelow < 255 * partsOfOne + partsOfOne / 2 ? notBelow : 255 * partsOfOne + partsOfOne / 2;
 };
 
-/// The pixels of a block on which a trial does not decide, in groups.
-struct UnsurePixels {
-    static constexpr int together = 8;
-    int at[blockPixels + together], count = 0;
-
-    /// Where `marked` is 1, among the first `pixels` of the block.
-    UnsurePixels(const unsigned char (&marked)[blockPixels], int pixels)
-    {
-        for (int first = 0; first < pixels; first += 64) {
-            std::uint64_t bits = 0;
-            for (int i = 0; i < 64; i += 8)
-                bits |= bitsOf(marked + first + i) << i;
-            if (pixels - first < 64)
-                bits &= (std::uint64_t(1) << (pixels - first)) - 1;
-            for (; bits != 0; bits &= bits - 1)
-                at[count++] = first + std::countr_zero(bits);
-        }
-        std::fill_n(at + count, together, 0); // so that the last group is whole
-    }
-
-private:
-    /// Eight bytes of 0 or 1 as the bits of a byte, the first one as the lowest: the product brings them together in
-    /// its top byte.
-    static std::uint64_t bitsOf(const unsigned char* bytes)
-    {
+/// `function(i)` for each pixel of a block, of the first `pixels`, where `marked` is 1.
+template <class Function>
+inline void forEachMarked(const unsigned char (&marked)[blockPixels], int pixels, Function function)
+{
+    // Eight bytes of 0 or 1 as the bits of a byte, the first one as the lowest: the product brings them together in its
+    // top byte.
+    const auto bitsOf = [](const unsigned char* bytes) {
         std::uint64_t eight;
         std::memcpy(&eight, bytes, 8);
         if constexpr (std::endian::native == std::endian::big)
             eight = __builtin_bswap64(eight);
         return eight * 0x0102040810204080u >> 56;
+    };
+    for (int first = 0; first < pixels; first += 64) {
+        std::uint64_t bits = 0;
+        for (int i = 0; i < 64; i += 8)
+            bits |= bitsOf(marked + first + i) << i;
+        if (pixels - first < 64)
+            bits &= (std::uint64_t(1) << (pixels - first)) - 1;
+        for (; bits != 0; bits &= bits - 1)
+            function(first + std::countr_zero(bits));
     }
+}
+
+/// Pixels on which a trial does not decide are evaluated so many at a time.
+inline constexpr int groupPixels = 8;
+
+/// The weights of a block's pixels, which a trial has exactly: tones and the like, or none.
+struct KnownWeights {
+    const float* at = nullptr;
+
+    /// Whether the recipe does nothing to the pixel.
+    bool keep(int) const { return false; }
+
+    /// Those of a group.
+    struct Group {
+        float weight[groupPixels] = {};
+
+        void set(int j, const KnownWeights& weights, int i) { weight[j] = weights.at ? weights.at[i] : 0.0f; }
+        void evaluate(float* exact) const { std::copy_n(weight, groupPixels, exact); }
+    };
 };
 
-/// The exact recipe for these pixels.
-template <class... Step, class ToByte>
-void decideExactly(
-    Block& block, const UnsurePixels& pixels, const Steps<Step...>& steps, const float* weights, ToByte toByte)
-{
-    constexpr int together = UnsurePixels::together;
-    for (int first = 0; first < pixels.count; first += together) {
-        const int* at = pixels.at + first;
-        float r[together], g[together], b[together], weight[together] = {};
-        for (int j = 0; j < together; j++) {
-            r[j] = block.r.at[at[j]];
-            g[j] = block.g.at[at[j]];
-            b[j] = block.b.at[at[j]];
-            if (weights)
-                weight[j] = weights[at[j]];
-        }
-        steps.forEach([&](const auto& step) {
+/// A recipe that is tried on one block after another.
+template <class Recipe, class Weights, class ToByte> class Trial {
+public:
+    /// `error` is how far a trial may be off.
+    Trial(const Recipe& recipe, double error, ToByte toByte)
+        : m_recipe(recipe)
+        , m_toByte(toByte)
+        // One part more for what is cut off, and one for the error's own.
+        , m_reach(int(std::min(error, tolerableError) * partsOfOne) + 2)
+    {
+    }
+    Trial(const Trial&) = delete;
+    Trial& operator=(const Trial&) = delete;
+
+    /// Works the recipe into the bytes of a block, whose planes stay as they were. Pixels of it may wait for finish().
+    void work(Block& block, const Weights& weights)
+    {
+        Planes trial;
+        const Planes* from = &block;
+        m_recipe.forEach([&](const auto& step) {
+            for (int i = 0; i < blockPixels; i++) {
+                const Rgb before = from->colour(i);
+                const Colour<Single> c =
+                    applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights.at}, i);
+                trial.setColour(i, {c.r.value, c.g.value, c.b.value});
+            }
+            from = &trial;
+        });
+        alignas(64) unsigned char unsure[blockPixels];
+        block.storeBytes([&, reach = m_reach](int i) {
+            const Colour<int> parts = eachChannel(trial.colour(i), inParts);
+            const Colour<int> beyondWhole = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
+            const unsigned char doubt = smallest(beyondWhole) < 2 * reach ? 1 : 0;
+            unsure[i] = weights.keep(i) ? 0 : doubt;
+            return eachChannel(parts, [&](int v) { return m_toByte.ofWhole(v >> partBits); });
+        });
+        forEachMarked(unsure, block.count(), [&](int i) { wait(block, weights, i); });
+        if (block.count() < blockPixels)
+            finish(); // its bytes do not stay where they are
+    }
+
+    /// The exact recipe for the pixels that wait.
+    void finish()
+    {
+        if (m_waiting > 0)
+            decide();
+    }
+
+private:
+    void wait(Block& block, const Weights& weights, int i)
+    {
+        const int j = m_waiting++;
+        m_bytes[j] = block.bytes(i);
+        m_r[j] = block.r.at[i];
+        m_g[j] = block.g.at[i];
+        m_b[j] = block.b.at[i];
+        m_weights.set(j, weights, i);
+        if (m_waiting == groupPixels)
+            decide();
+    }
+
+    void decide()
+    {
+        float r[groupPixels], g[groupPixels], b[groupPixels], weight[groupPixels];
+        std::copy_n(m_r, groupPixels, r);
+        std::copy_n(m_g, groupPixels, g);
+        std::copy_n(m_b, groupPixels, b);
+        m_weights.evaluate(weight);
+        m_recipe.forEach([&](const auto& step) {
 #pragma GCC unroll 1 // eight iterations written out would not become vector code
-            for (int j = 0; j < together; j++) {
+            for (int j = 0; j < groupPixels; j++) {
                 const Rgb c = applied(step, Rgb{r[j], g[j], b[j]}, weight, j);
                 r[j] = c.r;
                 g[j] = c.g;
                 b[j] = c.b;
             }
         });
-        for (int j = 0; j < together && first + j < pixels.count; j++)
-            block.setBytes(at[j], eachChannel(Rgb{r[j], g[j], b[j]}, toByte));
+        for (int j = 0; j < m_waiting; j++)
+            Block::setBytes(m_bytes[j], eachChannel(Rgb{r[j], g[j], b[j]}, m_toByte));
+        m_waiting = 0;
     }
-}
 
-/// Works a recipe into the bytes of a block, `error` being how far a trial may be off; the planes stay as they were.
-template <class... Step, class ToByte>
-void tryBlock(Block& block, const Steps<Step...>& steps, const float* weights, double error, ToByte toByte)
-{
-    Planes trial;
-    const Planes* from = &block;
-    steps.forEach([&](const auto& step) {
-        for (int i = 0; i < blockPixels; i++) {
-            const Rgb before = from->colour(i);
-            const Colour<Single> c =
-                applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights}, i);
-            trial.setColour(i, {c.r.value, c.g.value, c.b.value});
-        }
-        from = &trial;
-    });
-    // One part more for what is cut off, and one for the error's own.
-    const int reach = int(error * partsOfOne) + 2;
-    alignas(64) unsigned char unsure[blockPixels];
-    block.storeBytes([&](int i) {
-        const Colour<int> parts = eachChannel(trial.colour(i), inParts);
-        const Colour<int> beyondWhole = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
-        unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
-        return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
-    });
-    decideExactly(block, UnsurePixels(unsure, block.count()), steps, weights, toByte);
-}
+    const Recipe m_recipe;
+    const ToByte m_toByte;
+    const int m_reach;
+    int m_waiting = 0;
+    unsigned char* m_bytes[groupPixels];
+    float m_r[groupPixels] = {}, m_g[groupPixels] = {}, m_b[groupPixels] = {};
+    typename Weights::Group m_weights;
+};

@@ -2,11 +2,11 @@
 
 #include "image/CharImage.h"
 #include "image/toolkit/Disc.h"
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Power.h"
+#include "image/toolkit/RadialPass.h"
 
 #include <algorithm>
 #include <limits>
+#include <numeric>
 
 namespace {
 
@@ -23,39 +23,41 @@ struct Shade {
     bool boostSaturation;
     float end = std::numeric_limits<float>::infinity(); ///< the radius from which on nothing is darkened
 
-    /// Where `count` pixels of a row stand: from 0 at the inner to 1 at the outer radius.
-    void placeAt(float* t, int count, int firstX, int y) const
+    /// Where `count` pixels of a row stand, so many columns and rows from the centre: from 0 at the inner to 1 at the
+    /// outer radius.
+    void placeAt(float* t, const int* across, const int* down, int count) const
     {
-        const float span = outerRadius - innerRadius;
+        const float inner = innerRadius, span = outerRadius - innerRadius, last = end;
         for (int i = 0; i < count; i++) {
-            const float d = distance(float(firstX + i), float(y)), place = (d - innerRadius) / span;
-            t[i] = d < end ? place : -1.0f;
+            const float d = distance(float(across[i]), float(down[i])), place = (d - inner) / span;
+            t[i] = d < last ? place : -1.0f;
         }
     }
 
     /// How far pixels at these places are darkened, 0 .. 1: `t` becomes it. Within the inner radius it is 0.
-    void becomeDarkness(float* t, int count) const
+    void becomeDarkness(float* t, int count, Raise toPower = raise) const
     {
         for (int first = 0; first < count; first += partPixels)
-            becomeDarknessOfPart(t + first, std::min(partPixels, count - first));
+            becomeDarknessOfPart(t + first, std::min(partPixels, count - first), toPower);
     }
 
-    Rgb darkened(Rgb c, float level, float dark) const
+    template <class Channel> Colour<Channel> darkened(Colour<Channel> c, Channel level, Channel dark) const
     {
         if (boostSaturation)
-            c = eachChannel(c, [=](float v) { return v * (1.0f + dark) - dark * level; });
-        return eachChannel(c, [=](float v) { return (1.0f - dark) * v; });
+            c = eachChannel(c, [=](Channel v) { return v * (1.0f + dark) - dark * level; });
+        return eachChannel(c, [=](Channel v) { return (1.0f - dark) * v; });
     }
 
     void darken(CharImage& image) const
     {
-        const auto darknessAt = [this](float* weights, int count, int dx, int dy) {
-            placeAt(weights, count, dx, dy);
-            becomeDarkness(weights, count);
+        const auto darknessAt = [this](Raise toPower, float* weights, const int* across, const int* down, int count) {
+            placeAt(weights, across, down, count);
+            becomeDarkness(weights, count, toPower);
         };
+        const ErrorBound nearDarkness = curve(ErrorBound(0.0, 1.0), nearPower(), nearPower());
         forEachPixelAround(
-            image, image.width / 2, image.height / 2, 1.0f, darknessAt,
-            [*this](Rgb c, float dark) { return darkened(c, byteLuminance(c), dark); }, true);
+            image, image.width / 2, image.height / 2, {0.0, 1.0, nearDarkness.error}, darknessAt,
+            [*this](auto c, auto dark) { return darkened(c, byteLuminance(c), dark); }, true);
     }
 
     /// The same, visiting only the pixels between the inner radius and the end.
@@ -67,8 +69,11 @@ struct Shade {
             unsigned char* centre = image.data + (std::size_t(y) * image.width + cx) * 4;
             for (int dx = columnsWithin(innerRadius, dy); dx <= last; dx += partPixels) {
                 float dark[partPixels];
-                placeAt(dark, partPixels, dx, dy);
-                becomeDarknessOfPart(dark, partPixels);
+                int across[partPixels], down[partPixels];
+                std::iota(across, across + partPixels, dx);
+                std::fill_n(down, partPixels, dy);
+                placeAt(dark, across, down, partPixels);
+                becomeDarknessOfPart(dark, partPixels, raise);
                 for (int i = 0; i < partPixels && dx + i <= last; i++) {
                     if (cx + dx + i < image.width)
                         darkenPixel(centre + (dx + i) * 4, dark[i]);
@@ -91,22 +96,29 @@ private:
     /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
     static constexpr int partPixels = 32;
 
-    void becomeDarknessOfPart(float* t, int count) const
+    /// The blend of the two powers of a place, 1.5 and the exponent.
+    template <class Value> Value curve(Value t, Value a, Value e) const { return ((1.0f - a) * e + t * a) * strength; }
+
+    void becomeDarknessOfPart(float* t, int count, Raise toPower) const
     {
-        int reached = 0;
-        for (int i = 0; i < count; i++)
+        int reached = 0, beyond = !(exponent >= 1.0f);
+        for (int i = 0; i < count; i++) {
             reached |= !(t[i] < 0.0f);
+            beyond |= !(t[i] <= 1.0f);
+        }
         if (!reached) {
             std::fill_n(t, count, 0.0f);
             return;
         }
+        if (beyond)
+            toPower = raise;
         float a[partPixels], e[partPixels];
         for (int i = 0; i < count; i++)
             a[i] = e[i] = t[i] < 0.0f ? 1.0f : t[i];
-        raise(a, count, 1.5f);
-        raise(e, count, exponent);
+        toPower(a, count, 1.5f);
+        toPower(e, count, exponent);
         for (int i = 0; i < count; i++) {
-            const float dark = ((1.0f - a[i]) * e[i] + t[i] * a[i]) * strength;
+            const float dark = curve(t[i], a[i], e[i]);
             const float held = dark < 0.0f ? 0.0f : dark > 1.0f ? 1.0f : dark;
             t[i] = t[i] < 0.0f ? 0.0f : held;
         }
@@ -145,7 +157,10 @@ void CharImage::vignette(
     blurred.makeBlurry(softeningSize(std::max(width, height)), 0.0f);
     const auto softenAndDarken = [&](Block& block, int x, int y) {
         Plane t, dark;
-        shade.placeAt(t.at, blockPixels, x - width / 2, y - height / 2);
+        int across[blockPixels], down[blockPixels];
+        std::iota(across, across + blockPixels, x - width / 2);
+        std::fill_n(down, blockPixels, y - height / 2);
+        shade.placeAt(t.at, across, down, blockPixels);
         dark = t;
         shade.becomeDarkness(dark.at, blockPixels);
         const unsigned char* soft = blurred.data + (std::size_t(y) * width + x) * bytesPerPixel;

@@ -1,12 +1,11 @@
 #include "image/toolkit/Hues.h"
 #include "image/toolkit/Levels.h"
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Power.h"
+#include "image/toolkit/RadialPass.h"
 
-#include <array>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -70,6 +69,19 @@ template <class... Step, class... Source> void expectPassIsExact(const Steps<Ste
         ASSERT_EQ(pixel[3], before.data[4 * i + 3]) << i;
     }
 }
+
+/// A recipe that adds 1, of which the trial knows nothing but that it must leave a red of 67 to the exact form.
+struct DoubtfulOf67 {
+    Rgb operator()(Rgb c) const
+    {
+        return eachChannel(c, [](float v) { return v + 1.0f; });
+    }
+    Colour<Single> operator()(Colour<Single> c) const
+    {
+        const Single certain = c.r.value == 67.0f ? 0.0f : 0.5f;
+        return eachChannel(c, [=](Single v) { return v + certain; });
+    }
+};
 
 const auto tenths = [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 0.1 + 3.7); }); };
 
@@ -163,19 +175,70 @@ TEST(Trial, GivesTheBytesOfTheExactRecipe)
         [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 0.0003); }); }));
 }
 
-TEST(Trial, CollectsThePixelsOnWhichItDoesNotDecide)
+TEST(Trial, VisitsThePixelsOnWhichItDoesNotDecide)
 {
     unsigned char marked[blockPixels] = {};
-    EXPECT_EQ(UnsurePixels(marked, blockPixels).count, 0);
-    for (int i : {0, 7, 8, 100, 255})
+    std::vector<int> visited;
+    const auto note = [&](int i) { visited.push_back(i); };
+    forEachMarked(marked, blockPixels, note);
+    EXPECT_TRUE(visited.empty());
+    const std::vector<int> some = {0, 7, 8, 100, 255};
+    for (int i : some)
         marked[i] = 1;
-    const UnsurePixels pixels(marked, blockPixels);
-    ASSERT_EQ(pixels.count, 5);
-    for (int k = 0; k < 5; k++)
-        EXPECT_EQ(pixels.at[k], (std::array{0, 7, 8, 100, 255})[std::size_t(k)]);
+    forEachMarked(marked, blockPixels, note);
+    EXPECT_EQ(visited, some);
     for (unsigned char& mark : marked)
         mark = 1;
     // Of a block that is part filled, its own pixels only.
-    for (int count : {1, 7, 63, 64, 65, 200, blockPixels})
-        EXPECT_EQ(UnsurePixels(marked, count).count, count);
+    for (int count : {1, 7, 63, 64, 65, 200, blockPixels}) {
+        visited.clear();
+        forEachMarked(marked, count, note);
+        EXPECT_EQ(int(visited.size()), count);
+        EXPECT_EQ(visited.back(), count - 1);
+    }
+}
+
+TEST(Trial, DecidesOnPixelsOfManyBlocksTogether)
+{
+    // Whole blocks, and one that is part filled.
+    constexpr int pixels = 11 * blockPixels + 9;
+    CharImage image(new unsigned char[pixels * 4](), pixels, 1);
+    const auto isDoubtful = [](int i) { return i % 100 == 7 || i == pixels - 1; };
+    for (int i = 0; i < pixels; i++)
+        image.data[4 * i] = isDoubtful(i) ? 67 : 30;
+    Trial<Steps<DoubtfulOf67>, KnownWeights, NoLevels> trial(Steps{DoubtfulOf67()}, 1e-4, {});
+    forEachBlock(image, [&](Block& block) {
+        block.fillPlanes();
+        trial.work(block, {});
+    });
+    trial.finish();
+    for (int i = 0; i < pixels; i++) {
+        ASSERT_EQ(image.data[4 * i], isDoubtful(i) ? 68 : 30) << i;
+        ASSERT_EQ(image.data[4 * i + 1], isDoubtful(i) ? 1 : 0) << i;
+    }
+}
+
+TEST(Trial, DecidesWithTheExactWeights)
+{
+    constexpr int width = 600, height = 9, centreX = 411, centreY = 2;
+    for (bool zeroKeeps : {false, true}) {
+        CharImage image(new unsigned char[width * height * 4], width, height);
+        std::fill_n(image.data, width * height * 4, static_cast<unsigned char>(100));
+        // Nearly 0 or 1, so that all is in doubt; exactly a number of the place.
+        const auto weightAt = [](int across, int down) { return float(across % 7 + 10 * (down % 3)); };
+        forEachPixelAround(
+            image, centreX, centreY, {0.0, 30.0},
+            [=](Raise toPower, float* weights, const int* across, const int* down, int count) {
+                for (int i = 0; i < count; i++)
+                    weights[i] = toPower == Raise(raise) ? weightAt(across[i], down[i]) : float(across[i] % 2);
+            },
+            [](auto c, auto weight) { return eachChannel(c, [=](auto v) { return v + weight; }); }, zeroKeeps);
+        for (int y = 0; y < height; y++)
+            for (int x = 0; x < width; x++) {
+                const int across = std::abs(x - centreX), down = std::abs(y - centreY);
+                const bool kept = zeroKeeps && across % 2 == 0;
+                const int expected = kept ? 100 : 100 + int(weightAt(across, down));
+                ASSERT_EQ(image.data[(y * width + x) * 4], expected) << x << ", " << y;
+            }
+    }
 }
