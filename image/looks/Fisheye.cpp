@@ -1,6 +1,6 @@
+#include "image/toolkit/Block.h"
+#include "image/toolkit/DelayedRows.h"
 #include "image/toolkit/Disc.h"
-#include "image/toolkit/FormerRows.h"
-#include "image/toolkit/PixelPass.h"
 
 #include <algorithm>
 #include <bit>
@@ -9,8 +9,9 @@
 
 namespace {
 
-/// Rows that are worked on block by block together, as they read nearly the same pixels.
-constexpr int bandRows = 8;
+// The picture is made in tiles: neighbouring pixels read nearly the same ones, a tile's stay in the first-level cache.
+constexpr int tilePixels = 64; ///< of a row
+constexpr int tileRows = 16;
 
 /// How far out each pixel of a row is read, compared with the pixels at the centre, at the distance `dy` down from
 /// there. Columns that mirror one another have the same factor.
@@ -39,33 +40,33 @@ private:
     int m_width;
 };
 
-/// On one axis, for each pixel of a block: where it is read.
+/// On one axis, for each pixel of a tile's row: where it is read.
 struct Axis {
-    Plane inside; ///< 1 where that lies in the picture, else 0
+    float inside[tilePixels]; ///< 1 where that lies in the picture, else 0
     bool any; ///< of the pixels
-    int pixel[blockPixels]; ///< the one that holds the place
+    int pixel[tilePixels]; ///< the one that holds the place
     /// That one's share in the blend with the next. Odd on purpose: it has all up to its middle, and from there on
     /// falls from a half to nothing.
-    Plane share;
+    float share[tilePixels];
 
-    /// The block's pixels stand at first, first + step, ... of `size`.
+    /// The pixels stand at first, first + step, ... of `size`.
     void find(int first, int step, const float* factor, float size)
     {
-        Plane places;
+        float places[tilePixels];
         int found = 0;
-        for (int i = 0; i < blockPixels; i++) {
+        for (int i = 0; i < tilePixels; i++) {
             const float place = placeOf(float(first + i * step), factor[i], size);
             const bool within = (place >= 0.0f) & (place < size);
-            places.at[i] = within ? place : 0.0f;
-            inside.at[i] = within ? 1.0f : 0.0f;
+            places[i] = within ? place : 0.0f;
+            inside[i] = within ? 1.0f : 0.0f;
             found |= within;
         }
         any = found;
-        for (int i = 0; i < blockPixels; i++) {
-            const float place = places.at[i], next = float(int(place)) + 1.0f, rest = next - place;
+        for (int i = 0; i < tilePixels; i++) {
+            const float place = places[i], next = float(int(place)) + 1.0f, rest = next - place;
             const bool blends = (place + 0.5f >= next) & (next < size);
             pixel[i] = int(place);
-            share.at[i] = blends ? rest : 1.0f;
+            share[i] = blends ? rest : 1.0f;
         }
     }
 
@@ -78,17 +79,27 @@ private:
     }
 };
 
-/// The pixels of the picture that a block is made of, two of a row and the two below them.
+/// The pixels of the picture that a tile's row is made of, two of a row and the two below them.
 struct Corners {
-    std::uint32_t upper[2 * blockPixels], lower[2 * blockPixels];
+    std::uint32_t upper[2 * tilePixels], lower[2 * tilePixels];
 
-    void gather(const unsigned char* const* rows, const Axis& across, const Axis& down)
+    /// Where the picture has no next pixel or row, any pixel stands for it. It has less than 2^32 pixels.
+    void gather(const CharImage& picture, const Axis& across, const Axis& down)
     {
-        for (int i = 0; i < blockPixels; i++) {
-            const unsigned char* const* const row = rows + down.pixel[i];
-            const std::size_t at = std::size_t(across.pixel[i]) * 4;
-            std::memcpy(upper + 2 * i, row[0] + at, 8);
-            std::memcpy(lower + 2 * i, row[1] + at, 8);
+        const std::uint32_t width = std::uint32_t(picture.width);
+        std::uint32_t first[tilePixels], furthest = 0;
+        for (int i = 0; i < tilePixels; i++) {
+            first[i] = std::uint32_t(down.pixel[i]) * width + std::uint32_t(across.pixel[i]);
+            furthest = larger(furthest, first[i]);
+        }
+        const std::size_t count = picture.pixelCount();
+        if (furthest + std::size_t(width) + 2 > count)
+            return gatherAtTheEnd(picture.data, first, width, count - 1);
+        const unsigned char *const row = picture.data, *const next = row + std::size_t(width) * 4;
+        for (int i = 0; i < tilePixels; i++) {
+            const std::size_t at = std::size_t(first[i]) * 4;
+            std::memcpy(upper + 2 * i, row + at, 8);
+            std::memcpy(lower + 2 * i, next + at, 8);
         }
     }
 
@@ -106,6 +117,23 @@ struct Corners {
         const float beside = (1.0f - h) * channel(upper[2 * i + 1], k) + h * nearest;
         return (below * (1.0f - v) + beside * v + nearest) * 0.5f;
     }
+
+private:
+    void gatherAtTheEnd(const unsigned char* pixels, const std::uint32_t* first, std::size_t width, std::size_t last)
+    {
+        const auto pixel = [=](std::size_t at) {
+            std::uint32_t p;
+            std::memcpy(&p, pixels + std::min(at, last) * 4, 4);
+            return p;
+        };
+        for (int i = 0; i < tilePixels; i++) {
+            const std::size_t at = first[i];
+            upper[2 * i] = pixel(at);
+            upper[2 * i + 1] = pixel(at + 1);
+            lower[2 * i] = pixel(at + width);
+            lower[2 * i + 1] = pixel(at + width + 1);
+        }
+    }
 };
 
 } // namespace
@@ -117,47 +145,48 @@ void CharImage::makeFisheye()
         return;
     const float across = float(width), down = float(height), cx = across * 0.5f, cy = down * 0.5f;
     const double reach = std::min(cx, cy) * 0.97;
-    // A row reads at most 0.14 reach nearer to the middle, where the rows are written over.
-    FormerRows rows(*this, 2 * (int(reach * 0.141) + 4 + bandRows));
-    Block block;
-    std::vector<FactorRow> factors(bandRows, FactorRow(width));
+    // A row reads at most 0.14 reach nearer to the middle, where rows are made before it.
+    DelayedRows rows(*this, 2 * (int(reach * 0.141) + 4 + tileRows));
+    std::vector<FactorRow> factors(tileRows, FactorRow(width));
+    unsigned char *above[tileRows], *below[tileRows];
     Axis h, v;
     Corners corners;
-    const auto bend = [&](int x, int y, const float* factor) {
-        unsigned char* const pixels = data + (std::size_t(y) * width + x) * 4;
-        block.open(pixels, std::min(blockPixels, width - x));
+    // One row of a tile.
+    const auto bend = [&](unsigned char* row, int x, int y, const float* factor) {
+        unsigned char* __restrict to = row + std::size_t(x) * 4;
         v.find(y, 0, factor, down);
         if (h.any && v.any) {
-            corners.gather(rows.table(), h, v);
-            workPlanes(block, [&](Rgb, int i) {
-                const float hs = h.share.at[i], vs = v.share.at[i];
-                const Rgb c = {corners.mixed(i, 0, hs, vs), corners.mixed(i, 1, hs, vs), corners.mixed(i, 2, hs, vs)};
-                return h.inside.at[i] * v.inside.at[i] > 0.0f ? c : grey(0.0f);
-            });
+            corners.gather(*this, h, v);
+            for (int i = 0; i < tilePixels; i++) {
+                const float hs = h.share[i], vs = v.share[i];
+                const Rgb mix = {corners.mixed(i, 0, hs, vs), corners.mixed(i, 1, hs, vs), corners.mixed(i, 2, hs, vs)};
+                const Rgb c = h.inside[i] * v.inside[i] > 0.0f ? mix : grey(0.0f);
+                Block::setBytes(to + 4 * i, eachChannel(c, [](float value) { return int(value); }));
+            }
         } else
-            workPlanes(block, [](Rgb, int) { return grey(0.0f); });
-        block.storePlanes([](float value) { return int(value); });
-        block.close();
+            std::memset(to, 0, tilePixels * 4);
     };
 
     // From the middle row outwards: rows that mirror one another share what they have across.
-    for (int first = (height + 1) / 2; first <= height; first += bandRows) {
-        const int end = std::min(first + bandRows, height + 1);
+    for (int first = (height + 1) / 2; first <= height; first += tileRows) {
+        const int end = std::min(first + tileRows, height + 1);
         for (int y = first; y < end; y++) {
-            rows.keep(height - y);
-            if (y < height)
-                rows.keep(y);
-            factors[std::size_t(y - first)].fill(float(y) - cy, reach);
+            const int k = y - first;
+            above[k] = rows.begin(height - y);
+            below[k] = y < height ? rows.begin(y) : nullptr;
+            factors[std::size_t(k)].fill(float(y) - cy, reach);
         }
-        for (int x = 0; x < width; x += blockPixels)
+        for (int x = 0; x < width; x += tilePixels)
             for (int y = first; y < end; y++) {
-                const float* factor = factors[std::size_t(y - first)].from(x);
+                const int k = y - first;
+                const float* factor = factors[std::size_t(k)].from(x);
                 h.find(x, 1, factor, across);
-                bend(x, height - y, factor);
-                if (y < height)
-                    bend(x, y, factor);
+                bend(above[k], x, height - y, factor);
+                if (below[k])
+                    bend(below[k], x, y, factor);
             }
     }
+    rows.finish();
 }
 
 void CharImage::applyFisheyeFilter()

@@ -112,6 +112,15 @@ public:
     unsigned char* bytes(int i) { return m_bytes + 4 * i; }
     static void setBytes(unsigned char* pixel, Colour<int> c) { writeColour(pixel, c); }
 
+    /// Copies the colours of `count` pixels; the spare bytes stay.
+    static void copyColours(unsigned char* __restrict to, const unsigned char* __restrict from, int count)
+    {
+        for (int i = 0; i < count; i++) {
+            const std::uint32_t w = (wordAt(to + 4 * i) & ~colourMask) | (wordAt(from + 4 * i) & colourMask);
+            std::memcpy(to + 4 * i, &w, 4);
+        }
+    }
+
     /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255.
     template <class ToByte> void storePlanes(ToByte toByte)
     {

@@ -37,8 +37,8 @@ template <class Evaluate> struct RadialWeights {
 /// a pixel of the image, across and down. `evaluate(toPower, weights, across, down, count)` gives `count` weights, at
 /// most a block of them and a multiple of 8, for the distances across[0] and down[0], across[1] and down[1], ... once
 /// for the up to four pixels that mirror one another. `range` is what they may be if it raises by raiseNearly. Where a
-/// weight of 0 `keepsPixels`, blocks without another weight are passed over; raiseNearly must then leave no other weight
-/// at 0 than raise does.
+/// weight of 0 `keepsPixels`, blocks without another weight are passed over; raiseNearly must then leave no other
+/// weight at 0 than raise does.
 template <class Evaluate, class Function>
 void forEachPixelAround(CharImage& image, int centreX, int centreY, ErrorBound range, Evaluate evaluate,
     Function function, bool keepsPixels = false)

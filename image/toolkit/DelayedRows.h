@@ -1,0 +1,58 @@
+#pragma once
+
+#include "image/CharImage.h"
+#include "image/toolkit/Block.h"
+
+#include <vector>
+
+/// New rows of a picture, for a look that reads around the pixel that it writes: each is made aside and replaces the
+/// former one when others were begun, so that the picture can be read as it was for as long. That spares the memory of
+/// a whole copy.
+class DelayedRows {
+public:
+    /// A row waits until `count` more are begun, 1 at least.
+    DelayedRows(CharImage& picture, int count)
+        : m_picture(picture)
+        , m_waiting(std::size_t(count), {-1, std::vector<unsigned char>(inWholeBlocks(picture.width))})
+    {
+    }
+
+    /// Where row `y` is to be made, in whole blocks of pixels: all of it, but for the spare bytes, which stay the
+    /// picture's.
+    unsigned char* begin(int y)
+    {
+        Row& row = m_waiting[m_next];
+        m_next = (m_next + 1) % m_waiting.size();
+        replace(row);
+        row.y = y;
+        return row.pixels.data();
+    }
+
+    /// The rows that still wait replace the picture's.
+    void finish()
+    {
+        for (Row& row : m_waiting)
+            replace(row);
+    }
+
+private:
+    struct Row {
+        int y; ///< in the picture; -1 for none
+        std::vector<unsigned char> pixels;
+    };
+
+    static std::size_t inWholeBlocks(int width) { return std::size_t(width / blockPixels + 1) * blockPixels * 4; }
+
+    void replace(Row& row)
+    {
+        if (row.y < 0)
+            return;
+        unsigned char* const to = m_picture.data + std::size_t(row.y) * m_picture.width * 4;
+        Block::copyColours(to, row.pixels.data(), m_picture.width);
+        row.y = -1;
+    }
+
+    CharImage& m_picture;
+    std::vector<Row> m_waiting;
+    std::size_t m_next = 0;
+};
