@@ -17,8 +17,8 @@ namespace {
 constexpr qint64 largeFile = 2'000'000; ///< bytes; a smaller one is decoded in a moment
 constexpr int longestStrip = 10; ///< how many times as long as broad a thumbnail copy may be
 
-/// The middle of a long strip, all of any other picture. A thumbnail shows no more than the middle, in a square as large
-/// as its copy is long: those of whole strips would take gigabytes.
+/// The middle of a long strip, all of any other picture. A thumbnail shows no more than the middle, in a square as
+/// large as its copy is long: those of whole strips would take gigabytes.
 QImage middleOf(const QImage& image)
 {
     const int longest = std::min(image.width(), image.height()) * longestStrip;
@@ -79,7 +79,10 @@ void MainWindowController::setoriginalImage(const QImage& image)
     originalDisplay = scaledTo(image, bitmapSize(displaySize(size, displayRes)));
     // Points of a sharp screen are several pixels.
     const QImage middle = middleOf(image);
-    originalThumb = scaledTo(middle, bitmapSize(thumbnailSize(middle.size()) * devicePixelRatioF()));
+    const QSize thumb = bitmapSize(thumbnailSize(middle.size()) * devicePixelRatioF());
+    // The display copy shows the same, and a large photo takes a while to read once more.
+    const bool isAmple = middle.size() == size && (2 * thumb).boundedTo(originalDisplay.size()) == 2 * thumb;
+    originalThumb = scaledTo(isAmple ? originalDisplay : middle, thumb);
     ui->mainImageView->setComparedImage(originalDisplay);
 }
 

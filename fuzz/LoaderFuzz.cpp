@@ -1,4 +1,5 @@
-// The loader on a file of any bytes: build/fuzz/fuzz/LoaderFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/LoaderFuzz
+// The loader on a file of any bytes: build/fuzz/fuzz/LoaderFuzz -max_total_time=600 FOLDER
+// build/fuzz/fuzz/seeds/LoaderFuzz
 
 #include "render/PhotoLoader.h"
 #include "render/PhotoSaver.h"
@@ -10,7 +11,6 @@
 #include <unistd.h>
 
 namespace {
-
 
 /// A file that is nowhere but in memory.
 class MemoryFile {
@@ -49,7 +49,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // A photo or a reason, never both or neither.
     if (photo.image.isNull() == photo.reason.isEmpty())
         __builtin_trap();
-    if (!photo.image.isNull() && photo.image.format() != QImage::Format_RGBX8888)
+    const QImage::Format format = photo.image.format();
+    if (!photo.image.isNull() && format != QImage::Format_RGBX8888 && format != QImage::Format_RGB32)
         __builtin_trap();
     // What the camera wrote is as hostile as the rest.
     if (!photo.exif.isEmpty())

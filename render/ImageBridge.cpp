@@ -7,6 +7,7 @@
 #include "render/OnWhite.h"
 
 #include <QTransform>
+#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -89,6 +90,17 @@ void fillSpareBytes(unsigned char* pixels, std::size_t size)
         pixels[i + 3] = 255;
 }
 
+/// From Format_RGB32 to the order of an exchange block, in place: QImage would make a copy.
+void orderChannels(unsigned char* pixels, std::size_t size)
+{
+    for (std::size_t i = 0; i < size; i += 4) {
+        QRgb colour;
+        std::memcpy(&colour, pixels + i, 4);
+        const auto ordered = qToBigEndian<QRgb>(colour << 8 | 255);
+        std::memcpy(pixels + i, &ordered, 4);
+    }
+}
+
 void freeBlock(void* pixels)
 {
     delete[] static_cast<unsigned char*>(pixels);
@@ -140,7 +152,7 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
         std::memset(block.get(), 255, size);
         return block.release();
     }
-    const QImage source = turned(onWhite(image), orientation);
+    const QImage source = turned(onWhiteInEitherOrder(image), orientation);
     const Margins margins{left, right, top, bottom};
     // Single precision can lose a pixel of the picture's own aspect; a picture of the output's size fills it.
     PlacedRect rect{0, 0, double(outWidth), double(outHeight)};
@@ -155,12 +167,19 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
         std::memset(block.get(), 255, size);
     const PixelRows rows{source.constBits(), std::size_t(source.bytesPerLine()), source.width(), source.height()};
     drawScaled(rows, rect, fast, block.get(), outWidth, outHeight);
+    if (source.format() == QImage::Format_RGB32)
+        orderChannels(block.get(), size);
     return block.release();
 }
 
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height)
 {
     fillSpareBytes(pixels, blockSize(width, height));
+    return opaqueImage(pixels, width, height);
+}
+
+QImage opaqueImage(unsigned char* pixels, int width, int height)
+{
     return QImage(pixels, width, height, qsizetype(width) * 4, QImage::Format_RGBX8888, freeBlock, pixels);
 }
 

@@ -28,5 +28,8 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
 /// set to 255, as the format asks.
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height);
 
+/// The same where the spare bytes are 255 already: those of getRGBACharImageArray are, and looks leave them alone.
+QImage opaqueImage(unsigned char* pixels, int width, int height);
+
 /// A picture of `image`, which is not changed and may be deleted afterwards.
 QImage NSImageFromCharImage(const CharImage* image);

@@ -1,5 +1,7 @@
 #include "render/OnWhite.h"
 
+#include <utility>
+
 QImage onWhite(QImage image)
 {
     if (!image.hasAlphaChannel()) {
@@ -18,4 +20,9 @@ QImage onWhite(QImage image)
     }
     image.reinterpretAsFormat(QImage::Format_RGBX8888);
     return image;
+}
+
+QImage onWhiteInEitherOrder(QImage image)
+{
+    return image.format() == QImage::Format_RGB32 ? image : onWhite(std::move(image));
 }

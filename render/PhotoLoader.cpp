@@ -96,8 +96,8 @@ QString sizeRefusal(const QSize& size, int bytesPerPixel)
     return pixels * bytesPerPixel > freeMemory() / blocksPerPhoto ? memoryRefusal(size) : QString();
 }
 
-/// Formats of the platform that hold drawings and icons rather than photos. The icons' decoder allocates whatever a file
-/// claims, and a drawing may take any time to be rendered.
+/// Formats of the platform that hold drawings and icons rather than photos. The icons' decoder allocates whatever a
+/// file claims, and a drawing may take any time to be rendered.
 bool isForPhotos(const QByteArray& format)
 {
     return format != "icns" && format != "svg" && format != "svgz" && format != "pdf";
@@ -168,7 +168,7 @@ LoadedPhoto load(const QByteArray& path)
     reason = decode(file, image);
     if (!reason.isEmpty())
         return refusal(reason);
-    photo.image = onWhite(inSRgb(std::move(image)));
+    photo.image = onWhiteInEitherOrder(inSRgb(std::move(image)));
     return photo.image.isNull() ? refusal(text("There is not enough free memory for the picture.")) : photo;
 }
 

@@ -6,7 +6,7 @@
 
 /// A photo from a file, or why there is none.
 struct LoadedPhoto {
-    QImage image; ///< upright, sRGB, Format_RGBX8888, laid on white; null when refused
+    QImage image; ///< upright, sRGB, Format_RGBX8888 or Format_RGB32, laid on white; null when refused
     QByteArray exif; ///< what the camera wrote: the raw EXIF block of a JPEG, empty where there is none
     QString reason; ///< for people, set when `image` is null
 };

@@ -66,8 +66,7 @@ bool hasRoomFor(const QSize& size)
     return qint64(size.width()) * size.height() * 4 <= freeMemory() / (blocksPerPhoto - 1);
 }
 
-QImage render(
-    const QImage& source, const RenderSettings& settings, const Frame& frame, const RenderProgress& progress)
+QImage render(const QImage& source, const RenderSettings& settings, const Frame& frame, const RenderProgress& progress)
 {
     report(progress, "Fit");
     const std::unique_ptr<CharImage> image(
@@ -85,7 +84,9 @@ QImage render(
             image->addBorder(frame.left, frame.right, frame.top, frame.bottom, 255.0f, 255.0f, 255.0f);
         image->applyFilterBorder(settings.borderFilter, frame.maxSide);
     }
-    QImage picture = getImageRefFromRGBACharArray(std::exchange(image->data, nullptr), image->width, image->height);
+    // Only margins have spare bytes that nobody has set.
+    const auto wrapped = frame.hasMargins() ? getImageRefFromRGBACharArray : opaqueImage;
+    QImage picture = wrapped(std::exchange(image->data, nullptr), image->width, image->height);
     picture.setColorSpace(source.colorSpace());
     return picture;
 }

@@ -4,18 +4,21 @@
 #include "render/OnWhite.h"
 
 #include <QColorSpace>
+#include <utility>
 
 QImage scaledTo(const QImage& image, const QSize& size)
 {
-    if (image.size() == size || image.isNull())
+    if (image.isNull())
         return image;
-    QImage scaled(size, QImage::Format_RGBX8888);
+    if (image.size() == size)
+        return onWhite(image);
+    const QImage source = onWhiteInEitherOrder(image);
+    QImage scaled(size, source.format());
     if (scaled.isNull())
         return scaled;
-    const QImage source = onWhite(image);
     const PixelRows rows{source.constBits(), std::size_t(source.bytesPerLine()), source.width(), source.height()};
     const PlacedRect whole{0, 0, double(size.width()), double(size.height())};
     drawScaled(rows, whole, false, scaled.bits(), size.width(), size.height());
     scaled.setColorSpace(image.colorSpace());
-    return scaled;
+    return onWhite(std::move(scaled));
 }

@@ -307,6 +307,13 @@ private slots:
         for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
                  QImage::Format_RGB888, QImage::Format_RGBA64, QImage::Format_BGR888})
             QVERIFY(sameBytes(*fit(source.convertToFormat(format), -1.0f, -1, -1), source));
+        // Drawn in their own order, whatever becomes of their size and place.
+        const QImage inOtherOrder = source.convertToFormat(QImage::Format_RGB32);
+        for (const int orientation : {0, 1, 2, upright})
+            for (const QSize size : {QSize(9, 8), QSize(8, 9), QSize(4, 4), QSize(31, 20), QSize(3, 30)})
+                for (const bool fast : {false, true})
+                    QCOMPARE(draw(inOtherOrder, size.width(), size.height(), orientation, {}, fast),
+                        draw(source, size.width(), size.height(), orientation, {}, fast));
         QImage indexed(2, 1, QImage::Format_Indexed8);
         indexed.setColorTable({qRgb(1, 2, 3), qRgb(200, 100, 50)});
         indexed.setPixel(0, 0, 1);

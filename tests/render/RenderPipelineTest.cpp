@@ -195,6 +195,27 @@ private slots:
         QCOMPARE(picture.pixel(100, 100), qRgb(255, 255, 255));
     }
 
+    void everyRenderIsOpaque()
+    {
+        // The spare bytes of a picture that is shown or saved are 255, whatever it went through.
+        GrowArray<int> looks = CharImage::getLooks(), borders = CharImage::getLooks();
+        borders.add(none);
+        for (const QSize size : {QSize(60, 40), QSize(40, 61)})
+            for (int i = 0; i < looks.numThings; i++)
+                for (int k = 0; k < borders.numThings; k++) {
+                    RenderSettings settings;
+                    settings.filter = looks.theArray[i];
+                    settings.cropFilter = i % 2 ? none : square;
+                    settings.borderFilter = borders.theArray[k];
+                    const QImage source = samples::noise(size.width(), size.height());
+                    const QImage picture =
+                        renderPhoto(k % 2 ? source : source.convertToFormat(QImage::Format_RGB32), settings);
+                    QCOMPARE(picture.format(), QImage::Format_RGBX8888);
+                    for (qsizetype byte = 3; byte < picture.sizeInBytes(); byte += 4)
+                        QCOMPARE(picture.constBits()[byte], 255);
+                }
+    }
+
     void tellsItsSteps()
     {
         GrowArray<int> list;

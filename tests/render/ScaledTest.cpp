@@ -29,7 +29,9 @@ private slots:
         const QImage picture = samples::flat(30, 20, QColor(10, 20, 30));
         for (const QImage::Format format :
             {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB888})
-            QCOMPARE(scaledTo(picture.convertToFormat(format), {7, 5}), samples::flat(7, 5, QColor(10, 20, 30)));
+            for (const QSize size : {QSize(7, 5), QSize(30, 20)})
+                QCOMPARE(scaledTo(picture.convertToFormat(format), size),
+                    samples::flat(size.width(), size.height(), QColor(10, 20, 30)));
         QImage clear(30, 20, QImage::Format_ARGB32);
         clear.fill(Qt::transparent);
         QCOMPARE(scaledTo(clear, {7, 5}), samples::flat(7, 5, Qt::white));
