@@ -111,10 +111,10 @@ template <class Recipe> double errorOfTrial(const Recipe& recipe, const Inputs& 
 }
 
 /// Works a recipe into the bytes of one block after another, with a trial where that is worth while.
-template <class Recipe, class Weights, class ToByte = NoLevels> class Work {
+template <class Recipe, class Weights, class ToByte = NoLevels> class BlockWork {
 public:
     /// `error` is that of errorOfTrial.
-    Work(const Recipe& recipe, double error, ToByte toByte = {})
+    BlockWork(const Recipe& recipe, double error, ToByte toByte = {})
         : m_recipe(recipe)
         , m_toByte(toByte)
         , m_isTried(error < tolerableError)
@@ -199,7 +199,7 @@ struct TonedColours {
 template <class Source, class Recipe, class ToByte = NoLevels>
 void passOver(CharImage& image, Source& source, const Recipe& recipe, double error, ToByte toByte = {})
 {
-    Work<Recipe, KnownWeights, ToByte> work(recipe, error, toByte);
+    BlockWork<Recipe, KnownWeights, ToByte> work(recipe, error, toByte);
     forEachBlock(image, [&](Block& block) { work.on(block, {source.fill(block)}); });
     work.finish();
 }

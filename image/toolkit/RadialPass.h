@@ -54,7 +54,7 @@ void forEachPixelAround(CharImage& image, int centreX, int centreY, ErrorBound r
     const auto recipe = stepsOf(function);
     const double error = errorOfTrial(recipe, Inputs::ofBytes(range));
     const Raise toPower = error < tolerableError ? raiseNearly : raise;
-    Work<std::remove_const_t<decltype(recipe)>, RadialWeights<Evaluate>> work(recipe, error);
+    BlockWork<std::remove_const_t<decltype(recipe)>, RadialWeights<Evaluate>> work(recipe, error);
     const auto workRow = [&](int y, int dy) {
         const auto changes = [&](int x) {
             if (!keepsPixels)

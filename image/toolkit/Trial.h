@@ -125,7 +125,8 @@ struct KnownWeights {
     };
 };
 
-/// A recipe that is tried on one block after another.
+/// A recipe that is tried on one block after another. `Weights` has a block's weights as the trial takes them (`at`),
+/// which of its pixels the recipe leaves alone (`keep`), and the exact weights of a group (`Group`).
 template <class Recipe, class Weights, class ToByte> class Trial {
 public:
     /// `error` is how far a trial may be off.
