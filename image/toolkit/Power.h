@@ -6,7 +6,7 @@
 /// std::pow(value, exponent) gives.
 void raise(float* values, int count, float exponent);
 
-/// The same in single precision, for a trial: values on 0 .. 1, an exponent of 1 or more.
+/// The same in single precision, for a trial: values on 0 .. 1, an exponent on 1 .. 60.
 void raiseNearly(float* values, int count, float exponent);
 
 /// What is known of the results of raiseNearly.

@@ -54,9 +54,10 @@ struct Shade {
             placeAt(weights, across, down, count);
             becomeDarkness(weights, count, toPower);
         };
-        const ErrorBound nearDarkness = curve(ErrorBound(0.0, 1.0), nearPower(), nearPower());
+        const double error = endsAtOuterRadius(image) ? curve(ErrorBound(0.0, 1.0), nearPower(), nearPower()).error
+                                                      : std::numeric_limits<double>::infinity();
         forEachPixelAround(
-            image, image.width / 2, image.height / 2, {0.0, 1.0, nearDarkness.error}, darknessAt,
+            image, image.width / 2, image.height / 2, {0.0, 1.0, error}, darknessAt,
             [*this](auto c, auto dark) { return darkened(c, byteLuminance(c), dark); }, true);
     }
 
@@ -96,22 +97,27 @@ private:
     /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
     static constexpr int partPixels = 32;
 
+    /// Whether no pixel stands beyond the outer radius: further out the curve may be no number, and no trial can be
+    /// made. The exponents of looks are among those that one is good for.
+    bool endsAtOuterRadius(const CharImage& image) const
+    {
+        const float furthest = distance(float(image.width / 2), float(image.height / 2));
+        return (std::min(furthest, end) - innerRadius) / (outerRadius - innerRadius) <= 1.0f
+            && outerRadius > innerRadius && exponent >= 1.0f && exponent <= 60.0f;
+    }
+
     /// The blend of the two powers of a place, 1.5 and the exponent.
     template <class Value> Value curve(Value t, Value a, Value e) const { return ((1.0f - a) * e + t * a) * strength; }
 
     void becomeDarknessOfPart(float* t, int count, Raise toPower) const
     {
-        int reached = 0, beyond = !(exponent >= 1.0f);
-        for (int i = 0; i < count; i++) {
+        int reached = 0;
+        for (int i = 0; i < count; i++)
             reached |= !(t[i] < 0.0f);
-            beyond |= !(t[i] <= 1.0f);
-        }
         if (!reached) {
             std::fill_n(t, count, 0.0f);
             return;
         }
-        if (beyond)
-            toPower = raise;
         float a[partPixels], e[partPixels];
         for (int i = 0; i < count; i++)
             a[i] = e[i] = t[i] < 0.0f ? 1.0f : t[i];
