@@ -24,5 +24,7 @@ QImage onWhite(QImage image)
 
 QImage onWhiteInEitherOrder(QImage image)
 {
-    return image.format() == QImage::Format_RGB32 ? image : onWhite(std::move(image));
+    if (image.format() == QImage::Format_RGB32)
+        return image;
+    return onWhite(std::move(image));
 }

@@ -18,7 +18,7 @@ constexpr int tileRows = 16;
 class FactorRow {
 public:
     explicit FactorRow(int width)
-        : m_factors(std::size_t(width / blockPixels + 1) * blockPixels)
+        : m_factors(inWholeBlocks(width + 1))
         , m_width(width)
     {
     }

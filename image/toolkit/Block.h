@@ -3,6 +3,7 @@
 #include "image/toolkit/Arithmetic.h"
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -11,6 +12,12 @@
 
 /// Pixels of one block; its planes stay in the first-level cache.
 inline constexpr int blockPixels = 256;
+
+/// So many pixels filled up to whole blocks.
+inline std::size_t inWholeBlocks(int pixels)
+{
+    return (std::size_t(pixels) + blockPixels - 1) / blockPixels * blockPixels;
+}
 
 /// A float per pixel of a block.
 struct alignas(64) Plane {
@@ -106,11 +113,18 @@ public:
     {
         unsigned char* __restrict to = m_bytes;
         for (int i = 0; i < blockPixels; i++)
-            writeColour(to + 4 * i, bytesOf(i));
+            setBytes(to + 4 * i, bytesOf(i));
     }
     /// Where the bytes of a pixel are stored until the block is closed; they stay there if the block is whole.
     unsigned char* bytes(int i) { return m_bytes + 4 * i; }
-    static void setBytes(unsigned char* pixel, Colour<int> c) { writeColour(pixel, c); }
+
+    /// Stores a colour of 0 .. 255 in a pixel; the spare byte stays.
+    static void setBytes(unsigned char* pixel, Colour<int> c)
+    {
+        const std::uint32_t w = (wordAt(pixel) & ~colourMask) | std::uint32_t(c.r) << redShift
+            | std::uint32_t(c.g) << greenShift | std::uint32_t(c.b) << blueShift;
+        std::memcpy(pixel, &w, 4);
+    }
 
     /// Copies the colours of `count` pixels; the spare bytes stay.
     static void copyColours(unsigned char* __restrict to, const unsigned char* __restrict from, int count)
@@ -146,12 +160,6 @@ private:
         std::uint32_t w;
         std::memcpy(&w, pixel, 4);
         return w;
-    }
-    static void writeColour(unsigned char* pixel, Colour<int> c)
-    {
-        const std::uint32_t w = (wordAt(pixel) & ~colourMask) | std::uint32_t(c.r) << redShift
-            | std::uint32_t(c.g) << greenShift | std::uint32_t(c.b) << blueShift;
-        std::memcpy(pixel, &w, 4);
     }
 
     unsigned char* m_bytes = m_part;

@@ -13,7 +13,7 @@ public:
     /// A row waits until `count` more are begun, 1 at least.
     DelayedRows(CharImage& picture, int count)
         : m_picture(picture)
-        , m_waiting(std::size_t(count), {-1, std::vector<unsigned char>(inWholeBlocks(picture.width))})
+        , m_waiting(std::size_t(count), {-1, std::vector<unsigned char>(inWholeBlocks(picture.width) * 4)})
     {
     }
 
@@ -40,8 +40,6 @@ private:
         int y; ///< in the picture; -1 for none
         std::vector<unsigned char> pixels;
     };
-
-    static std::size_t inWholeBlocks(int width) { return std::size_t(width / blockPixels + 1) * blockPixels * 4; }
 
     void replace(Row& row)
     {

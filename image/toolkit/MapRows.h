@@ -17,7 +17,7 @@ public:
     WideRow(int width, int margin)
         : m_width(std::size_t(std::max(width, 0)))
         , m_margin(std::size_t(margin))
-        , m_values(2 * m_margin + (m_width + blockPixels - 1) / blockPixels * blockPixels)
+        , m_values(2 * m_margin + inWholeBlocks(int(m_width)))
     {
     }
 

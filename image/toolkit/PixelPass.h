@@ -115,12 +115,12 @@ template <class Recipe, class Weights, class ToByte = NoLevels> class BlockWork 
 public:
     /// `error` is that of errorOfTrial.
     BlockWork(const Recipe& recipe, double error, ToByte toByte = {})
-        : m_recipe(recipe)
-        , m_toByte(toByte)
-        , m_isTried(error < tolerableError)
+        : m_isTried(error < tolerableError)
         , m_trial(recipe, error, toByte)
     {
     }
+
+    bool isTried() const { return m_isTried; }
 
     /// The planes of the block are filled. Pixels of it may wait for finish().
     void on(Block& block, const Weights& weights)
@@ -128,7 +128,7 @@ public:
         if constexpr (isMadeFor<Single, Recipe>)
             if (m_isTried)
                 return m_trial.work(block, weights);
-        workBlock(block, m_recipe, weights.at, m_toByte);
+        workBlock(block, m_trial.recipe, weights.at, m_trial.toByte);
     }
     void finish()
     {
@@ -137,8 +137,6 @@ public:
     }
 
 private:
-    const Recipe m_recipe;
-    const ToByte m_toByte;
     const bool m_isTried;
     Trial<Recipe, Weights, ToByte> m_trial;
 };

@@ -102,9 +102,14 @@ template <class Product> Power productOf(float base, double exponent, Product pr
     return {product(double(base)), libraryError(exponent * (std::abs(wholeLog(base)) + 0.5))};
 }
 
+// Those of the recipes, in double and, for a trial, in single precision.
+constexpr auto sesqui = [](auto x) { return x * std::sqrt(x); };
+constexpr auto cubed = [](auto x) { return x * x * x; };
+constexpr auto toTheFifth = [](auto x) { return x * x * (x * x) * x; };
+
 inline Power sesquiPowerOf(float base)
 {
-    return productOf(base, 1.5, [](double x) { return x * std::sqrt(x); });
+    return productOf(base, 1.5, sesqui);
 }
 
 /// Both ends of where the library's result may lie. They round to the same float unless the middle between two lies
@@ -192,11 +197,9 @@ void raise(float* values, int count, float exponent)
     if (exponent == 1.5f)
         raiseBy(values, count, exponent, [](float base) { return sesquiPowerOf(base); });
     else if (exponent == 3.0f)
-        raiseBy(values, count, exponent,
-            [](float base) { return productOf(base, 3.0, [](double x) { return x * x * x; }); });
+        raiseBy(values, count, exponent, [](float base) { return productOf(base, 3.0, cubed); });
     else if (exponent == 5.0f)
-        raiseBy(values, count, exponent,
-            [](float base) { return productOf(base, 5.0, [](double x) { return x * x * (x * x) * x; }); });
+        raiseBy(values, count, exponent, [](float base) { return productOf(base, 5.0, toTheFifth); });
     else
         raiseBy(values, count, exponent, [=](float base) { return powerOf(base, exponent); });
 }
@@ -204,11 +207,11 @@ void raise(float* values, int count, float exponent)
 void raiseNearly(float* values, int count, float exponent)
 {
     if (exponent == 1.5f)
-        raiseNearlyBy(values, count, [](float base) { return base * std::sqrt(base); });
+        raiseNearlyBy(values, count, sesqui);
     else if (exponent == 3.0f)
-        raiseNearlyBy(values, count, [](float base) { return base * base * base; });
+        raiseNearlyBy(values, count, cubed);
     else if (exponent == 5.0f)
-        raiseNearlyBy(values, count, [](float base) { return base * base * (base * base) * base; });
+        raiseNearlyBy(values, count, toTheFifth);
     else
         raiseNearlyBy(values, count, [=](float base) { return nearPowerOf(base, exponent); });
 }

@@ -43,18 +43,17 @@ template <class Evaluate, class Function>
 void forEachPixelAround(CharImage& image, int centreX, int centreY, ErrorBound range, Evaluate evaluate,
     Function function, bool keepsPixels = false)
 {
-    const auto inWhole = [](int unit, int count) { return (count + unit - 1) / unit * unit; };
     const int reachX = std::max(centreX, image.width - 1 - centreX);
     const int reachY = std::max(centreY, image.height - 1 - centreY);
-    std::vector<int> across(std::size_t(inWhole(8, reachX + 1)));
+    std::vector<int> across(std::size_t(reachX / 8 + 1) * 8);
     std::iota(across.begin(), across.end(), 0);
     std::vector<float> half(across.size());
-    std::vector<float> row(std::size_t(inWhole(blockPixels, image.width)));
+    std::vector<float> row(inWholeBlocks(image.width));
     std::vector<int> down(blockPixels);
     const auto recipe = stepsOf(function);
     const double error = errorOfTrial(recipe, Inputs::ofBytes(range));
-    const Raise toPower = error < tolerableError ? raiseNearly : raise;
     BlockWork<std::remove_const_t<decltype(recipe)>, RadialWeights<Evaluate>> work(recipe, error);
+    const Raise toPower = work.isTried() ? raiseNearly : raise;
     const auto workRow = [&](int y, int dy) {
         const auto changes = [&](int x) {
             if (!keepsPixels)

@@ -129,10 +129,13 @@ struct KnownWeights {
 /// which of its pixels the recipe leaves alone (`keep`), and the exact weights of a group (`Group`).
 template <class Recipe, class Weights, class ToByte> class Trial {
 public:
+    const Recipe recipe;
+    const ToByte toByte;
+
     /// `error` is how far a trial may be off.
-    Trial(const Recipe& recipe, double error, ToByte toByte)
-        : m_recipe(recipe)
-        , m_toByte(toByte)
+    Trial(const Recipe& tried, double error, ToByte bytes)
+        : recipe(tried)
+        , toByte(bytes)
         // One part more for what is cut off, and one for the error's own.
         , m_reach(int(std::min(error, tolerableError) * partsOfOne) + 2)
     {
@@ -145,7 +148,7 @@ public:
     {
         Planes trial;
         const Planes* from = &block;
-        m_recipe.forEach([&](const auto& step) {
+        recipe.forEach([&](const auto& step) {
             for (int i = 0; i < blockPixels; i++) {
                 const Rgb before = from->colour(i);
                 const Colour<Single> c =
@@ -160,7 +163,7 @@ public:
             const Colour<int> beyondWhole = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
             const unsigned char doubt = smallest(beyondWhole) < 2 * reach ? 1 : 0;
             unsure[i] = weights.keep(i) ? 0 : doubt;
-            return eachChannel(parts, [&](int v) { return m_toByte.ofWhole(v >> partBits); });
+            return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
         });
         forEachMarked(unsure, block.count(), [&](int i) { wait(block, weights, i); });
         if (block.count() < blockPixels)
@@ -187,6 +190,7 @@ private:
             decide();
     }
 
+    /// Where a group has less than all its pixels, former ones stand for those that are missing.
     void decide()
     {
         float r[groupPixels], g[groupPixels], b[groupPixels], weight[groupPixels];
@@ -194,7 +198,7 @@ private:
         std::copy_n(m_g, groupPixels, g);
         std::copy_n(m_b, groupPixels, b);
         m_weights.evaluate(weight);
-        m_recipe.forEach([&](const auto& step) {
+        recipe.forEach([&](const auto& step) {
 #pragma GCC unroll 1 // eight iterations written out would not become vector code
             for (int j = 0; j < groupPixels; j++) {
                 const Rgb c = applied(step, Rgb{r[j], g[j], b[j]}, weight, j);
@@ -204,12 +208,10 @@ private:
             }
         });
         for (int j = 0; j < m_waiting; j++)
-            Block::setBytes(m_bytes[j], eachChannel(Rgb{r[j], g[j], b[j]}, m_toByte));
+            Block::setBytes(m_bytes[j], eachChannel(Rgb{r[j], g[j], b[j]}, toByte));
         m_waiting = 0;
     }
 
-    const Recipe m_recipe;
-    const ToByte m_toByte;
     const int m_reach;
     int m_waiting = 0;
     unsigned char* m_bytes[groupPixels];

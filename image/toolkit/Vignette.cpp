@@ -23,7 +23,7 @@ struct Shade {
     bool boostSaturation;
     float end = std::numeric_limits<float>::infinity(); ///< the radius from which on nothing is darkened
 
-    /// Where `count` pixels of a row stand, so many columns and rows from the centre: from 0 at the inner to 1 at the
+    /// Where `count` pixels stand, so many columns and rows from the centre: from 0 at the inner to 1 at the
     /// outer radius.
     void placeAt(float* t, const int* across, const int* down, int count) const
     {
@@ -32,6 +32,15 @@ struct Shade {
             const float d = distance(float(across[i]), float(down[i])), place = (d - inner) / span;
             t[i] = d < last ? place : -1.0f;
         }
+    }
+
+    /// The same for neighbours in a row, at most a block of them.
+    void placeRowAt(float* t, int firstAcross, int down, int count) const
+    {
+        int across[blockPixels], downs[blockPixels];
+        std::iota(across, across + count, firstAcross);
+        std::fill_n(downs, count, down);
+        placeAt(t, across, downs, count);
     }
 
     /// How far pixels at these places are darkened, 0 .. 1: `t` becomes it. Within the inner radius it is 0.
@@ -54,8 +63,8 @@ struct Shade {
             placeAt(weights, across, down, count);
             becomeDarkness(weights, count, toPower);
         };
-        const double error = endsAtOuterRadius(image) ? curve(ErrorBound(0.0, 1.0), nearPower(), nearPower()).error
-                                                      : std::numeric_limits<double>::infinity();
+        const double error = canBeTriedOn(image) ? curve(ErrorBound(0.0, 1.0), nearPower(), nearPower()).error
+                                                 : std::numeric_limits<double>::infinity();
         forEachPixelAround(
             image, image.width / 2, image.height / 2, {0.0, 1.0, error}, darknessAt,
             [*this](auto c, auto dark) { return darkened(c, byteLuminance(c), dark); }, true);
@@ -70,10 +79,7 @@ struct Shade {
             unsigned char* centre = image.data + (std::size_t(y) * image.width + cx) * 4;
             for (int dx = columnsWithin(innerRadius, dy); dx <= last; dx += partPixels) {
                 float dark[partPixels];
-                int across[partPixels], down[partPixels];
-                std::iota(across, across + partPixels, dx);
-                std::fill_n(down, partPixels, dy);
-                placeAt(dark, across, down, partPixels);
+                placeRowAt(dark, dx, dy, partPixels);
                 becomeDarknessOfPart(dark, partPixels, raise);
                 for (int i = 0; i < partPixels && dx + i <= last; i++) {
                     if (cx + dx + i < image.width)
@@ -97,9 +103,9 @@ private:
     /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
     static constexpr int partPixels = 32;
 
-    /// Whether no pixel stands beyond the outer radius: further out the curve may be no number, and no trial can be
-    /// made. The exponents of looks are among those that one is good for.
-    bool endsAtOuterRadius(const CharImage& image) const
+    /// Whether raiseNearly is good for the places of all pixels: beyond the outer radius the curve may even be no
+    /// number.
+    bool canBeTriedOn(const CharImage& image) const
     {
         const float furthest = distance(float(image.width / 2), float(image.height / 2));
         return (std::min(furthest, end) - innerRadius) / (outerRadius - innerRadius) <= 1.0f
@@ -163,10 +169,7 @@ void CharImage::vignette(
     blurred.makeBlurry(softeningSize(std::max(width, height)), 0.0f);
     const auto softenAndDarken = [&](Block& block, int x, int y) {
         Plane t, dark;
-        int across[blockPixels], down[blockPixels];
-        std::iota(across, across + blockPixels, x - width / 2);
-        std::fill_n(down, blockPixels, y - height / 2);
-        shade.placeAt(t.at, across, down, blockPixels);
+        shade.placeRowAt(t.at, x - width / 2, y - height / 2, blockPixels);
         dark = t;
         shade.becomeDarkness(dark.at, blockPixels);
         const unsigned char* soft = blurred.data + (std::size_t(y) * width + x) * bytesPerPixel;
