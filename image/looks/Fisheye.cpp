@@ -96,6 +96,10 @@ struct Corners {
         if (furthest + std::size_t(width) + 2 > count)
             return gatherAtTheEnd(picture.data, first, width, count - 1);
         const unsigned char *const row = picture.data, *const next = row + std::size_t(width) * 4;
+        // The next tile's row begins about where this one ends; the processor cannot foresee that.
+        const std::uint32_t length = first[tilePixels - 1] - first[0];
+        for (int i = 0; i < tilePixels; i += 8)
+            __builtin_prefetch(row + std::min(std::size_t(first[i] + length), count - 1) * 4);
         for (int i = 0; i < tilePixels; i++) {
             const std::size_t at = std::size_t(first[i]) * 4;
             std::memcpy(upper + 2 * i, row + at, 8);
