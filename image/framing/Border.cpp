@@ -1,5 +1,6 @@
 #include "image/CharImage.h"
 #include "image/toolkit/Arithmetic.h"
+#include "image/toolkit/Block.h"
 #include "image/toolkit/Disc.h"
 #include "image/toolkit/Vignette.h"
 
@@ -8,12 +9,13 @@
 
 namespace {
 
-/// Paints the pixels of columns `from` .. `to` - 1 in a row, bytes 0 to 2.
+/// Paints the pixels of columns `from` .. `to` - 1 in a row; their spare bytes stay.
 void paint(CharImage& image, int row, int from, int to, const unsigned char* colour)
 {
-    unsigned char* pixel = image.data + (std::size_t(row) * image.width + from) * image.bytesPerPixel;
-    for (int x = from; x < to; x++, pixel += image.bytesPerPixel)
-        std::memcpy(pixel, colour, 3);
+    const Colour<int> c = {colour[0], colour[1], colour[2]};
+    unsigned char* const pixels = image.data + std::size_t(row) * image.width * 4;
+    for (int x = from; x < to; x++)
+        Block::setBytes(pixels + std::size_t(x) * 4, c);
 }
 
 /// Black from the integer centre's distance `radius` outwards.
