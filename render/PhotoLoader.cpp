@@ -3,7 +3,6 @@
 #include "render/ColorProfile.h"
 #include "render/FreeMemory.h"
 #include "render/JpegMarkers.h"
-#include "render/LargePages.h"
 #include "render/OnWhite.h"
 #include "render/formats/PngColourKey.h"
 #include "render/formats/PsdHandler.h"
@@ -127,9 +126,6 @@ QString decodeByPlatform(QIODevice& file, QImage& image)
         const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()));
         if (!refusal.isEmpty())
             return refusal;
-        // The decoder fills a picture that fits, and makes another where this one does not.
-        image = QImage(size, reader.imageFormat());
-        useLargePages(image.bits(), std::size_t(image.sizeInBytes()));
     }
     return reader.read(&image) ? QString() : text("The picture is damaged and cannot be read.");
 }
