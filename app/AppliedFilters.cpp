@@ -91,7 +91,9 @@ QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter,
     settings.cropFilter = cropFilter;
     settings.borderFilter = borderFilter;
     settings.asThumbnail = asThumbnail;
-    const auto progress = [this](const char* step) { showStep(QString::fromUtf8(step)); };
+    RenderProgress progress;
+    if (!asThumbnail) // painting the bar takes longer than a thumbnail
+        progress = [this](const char* step) { showStep(QString::fromUtf8(step)); };
     return renderPhoto(image, settings, progress, reason);
 }
 
