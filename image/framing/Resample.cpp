@@ -237,14 +237,18 @@ template <class Value>
 void sumDown(const PixelRows& source, const Taps& row, const Value* weights, std::size_t first, std::size_t channels,
     Value* sums)
 {
-    const unsigned char* top = source.row(row.first) + first;
-    for (std::size_t k = 0; k < channels; k++)
-        sums[k] = times(ofByte<Value>(top[k]), weights[0]);
-    for (int tap = 1; tap < row.count; tap++) {
-        const unsigned char* bytes = source.row(row.first + tap) + first;
-        const Value weight = weights[tap];
-        for (std::size_t k = 0; k < channels; k++)
-            sums[k] = static_cast<Value>(sums[k] + times(ofByte<Value>(bytes[k]), weight));
+    constexpr std::size_t part = 4096; // whose sums stay in the first-level cache
+    for (std::size_t begin = 0; begin < channels; begin += part) {
+        const std::size_t end = std::min(begin + part, channels);
+        const unsigned char* top = source.row(row.first) + first;
+        for (std::size_t k = begin; k < end; k++)
+            sums[k] = times(ofByte<Value>(top[k]), weights[0]);
+        for (int tap = 1; tap < row.count; tap++) {
+            const unsigned char* bytes = source.row(row.first + tap) + first;
+            const Value weight = weights[tap];
+            for (std::size_t k = begin; k < end; k++)
+                sums[k] = static_cast<Value>(sums[k] + times(ofByte<Value>(bytes[k]), weight));
+        }
     }
 }
 
