@@ -64,34 +64,28 @@ inline float mantissa(float base)
     return std::bit_cast<float>(((std::bit_cast<std::uint32_t>(base) - rootOfHalf) & 0x007fffffu) + rootOfHalf);
 }
 
+/// The polynomial of these coefficients, the highest power's first, by Horner's rule.
+template <class Value, class... Coefficients> inline Value polynomial(Value x, double highest, Coefficients... others)
+{
+    Value sum = Value(highest);
+    ((sum = sum * x + Value(others)), ...);
+    return sum;
+}
+
 inline Power powerOf(float base, double exponent)
 {
     // The logarithm of m by the series of the inverse hyperbolic tangent.
     const double m = mantissa(base);
     const double z = (m - 1.0) / (m + 1.0), z2 = z * z;
-    double series = 1.0 / 13.0;
-    series = series * z2 + 1.0 / 11.0;
-    series = series * z2 + 1.0 / 9.0;
-    series = series * z2 + 1.0 / 7.0;
-    series = series * z2 + 1.0 / 5.0;
-    series = series * z2 + 1.0 / 3.0;
-    series = series * z2 + 1.0;
+    const double series = polynomial(z2, 1.0 / 13.0, 1.0 / 11.0, 1.0 / 9.0, 1.0 / 7.0, 1.0 / 5.0, 1.0 / 3.0, 1.0);
     const double y = exponent * (wholeLog(base) + z * series * twoOverLog2);
 
     // y = n + f with f on -1/2 .. 1/2; adding 1.5 x 2^52 leaves n in the lowest bits.
     constexpr double rounder = 6755399441055744.0;
     const double shifted = y + rounder;
     const double f = (y - (shifted - rounder)) * log2;
-    double e = 1.0 / 362880.0;
-    e = e * f + 1.0 / 40320.0;
-    e = e * f + 1.0 / 5040.0;
-    e = e * f + 1.0 / 720.0;
-    e = e * f + 1.0 / 120.0;
-    e = e * f + 1.0 / 24.0;
-    e = e * f + 1.0 / 6.0;
-    e = e * f + 0.5;
-    e = e * f + 1.0;
-    e = e * f + 1.0;
+    const double e = polynomial(
+        f, 1.0 / 362880.0, 1.0 / 40320.0, 1.0 / 5040.0, 1.0 / 720.0, 1.0 / 120.0, 1.0 / 24.0, 1.0 / 6.0, 0.5, 1.0, 1.0);
     const double scale = std::bit_cast<double>((std::bit_cast<std::uint64_t>(shifted) + 1023u) << 52);
     return {e * scale, libraryError(y) + 0x1p-33};
 }
@@ -159,14 +153,7 @@ inline float powerOfTwoOf(float y)
 {
     constexpr float rounder = 12582912.0f; // 1.5 x 2^23, which leaves the whole part in the lowest bits
     const float shifted = y + rounder, f = (y - (shifted - rounder)) * float(log2);
-    float e = float(1.0 / 5040.0);
-    e = e * f + float(1.0 / 720.0);
-    e = e * f + float(1.0 / 120.0);
-    e = e * f + float(1.0 / 24.0);
-    e = e * f + float(1.0 / 6.0);
-    e = e * f + 0.5f;
-    e = e * f + 1.0f;
-    e = e * f + 1.0f;
+    const float e = polynomial(f, 1.0 / 5040.0, 1.0 / 720.0, 1.0 / 120.0, 1.0 / 24.0, 1.0 / 6.0, 0.5, 1.0, 1.0);
     return e * std::bit_cast<float>((std::bit_cast<std::uint32_t>(shifted) + 127u) << 23);
 }
 
@@ -174,11 +161,7 @@ inline float powerOfTwoOf(float y)
 inline float nearPowerOf(float base, float exponent)
 {
     const float m = mantissa(base), z = (m - 1.0f) / (m + 1.0f), z2 = z * z;
-    float series = float(1.0 / 9.0);
-    series = series * z2 + float(1.0 / 7.0);
-    series = series * z2 + float(1.0 / 5.0);
-    series = series * z2 + float(1.0 / 3.0);
-    series = series * z2 + 1.0f;
+    const float series = polynomial(z2, 1.0 / 9.0, 1.0 / 7.0, 1.0 / 5.0, 1.0 / 3.0, 1.0);
     const float y = exponent * (float(wholeLog(base)) + z * series * float(twoOverLog2));
     return powerOfTwoOf(larger(y, -126.0f));
 }
