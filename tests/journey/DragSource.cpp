@@ -1,10 +1,11 @@
 // A window that files are dragged out of, as a file manager's is: journey_drag_source FILE...
 //
-// Tells on standard output what the target under the pointer answers: "copy" or "nothing" while the drag goes on, and
-// "over" at its end. What the target made of the drop it does not hear.
+// Tells on standard output that the pointer has "entered" it, then what the target under the pointer answers: "copy" or
+// "nothing" while the drag goes on, and "over" at its end. What the target made of the drop it does not hear.
 
 #include <QApplication>
 #include <QDrag>
+#include <QEnterEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -32,6 +33,8 @@ public:
     }
 
 protected:
+    void enterEvent(QEnterEvent*) override { say("entered"); }
+
     void mouseMoveEvent(QMouseEvent* event) override
     {
         if (!(event->buttons() & Qt::LeftButton))

@@ -15,6 +15,12 @@ build, photo = sys.argv[1:3]
 home = os.environ["HOME"]
 
 
+def tremble_at(x, y):
+    """A hand is never quite still. A pointer that stands there already would be waited for."""
+    point_at(x + 2, y)
+    point_at(x, y)
+
+
 def drag(lumora, *files):
     """Drags files out of a window of their own, lets go over the preview and waits until the program has the first."""
     heard = os.path.join(home, "heard")
@@ -28,17 +34,20 @@ def drag(lumora, *files):
     try:
         window = wait_for("the window to drag from", lambda: application(source.pid))
         label = wait_for("its handle", lambda: find(window, "Drag me", (pyatspi.ROLE_LABEL,)))
+
+        def reached():  # not before the window manager has put the window where it stays
+            tremble_at(*middle(label))
+            return "entered" in words()
+        wait_for("the pointer on the handle", reached)
         start, end = middle(label), middle(lumora.preview())
-        point_at(*start)
         xdotool("mousedown", 1)
         for step in range(1, 25):
             point_at(start[0] + (end[0] - start[0]) * step // 24, start[1] + (end[1] - start[1]) * step // 24)
 
-        def trembles():  # a hand is never quite still; each move asks the target again
-            point_at(end[0] + 2, end[1])
-            point_at(*end)
+        def accepted():  # each move asks the target again
+            tremble_at(*end)
             return "copy" in words()[-1:]
-        wait_for("the preview to accept the drag", trembles)
+        wait_for("the preview to accept the drag", accepted)
         xdotool("mouseup", 1)
         wait_for("the drag to end", lambda: "over" in words())
         lumora.wait_for_log(files[0])
