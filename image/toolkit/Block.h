@@ -69,6 +69,7 @@ public:
     Block& operator=(const Block&) = delete;
 
     /// Takes up `count` pixels, 1 .. blockPixels; they are as the stores below leave them once the block is closed.
+    /// Nothing is stored after that; closing again changes nothing.
     void open(unsigned char* pixels, int count)
     {
         m_pixels = pixels;
@@ -81,6 +82,7 @@ public:
     {
         if (m_bytes == m_part)
             std::memcpy(m_pixels, m_part, std::size_t(m_count) * 4);
+        m_bytes = m_pixels;
     }
 
     /// Its pixels in the image.
@@ -115,8 +117,8 @@ public:
         for (int i = 0; i < blockPixels; i++)
             setBytes(to + 4 * i, bytesOf(i));
     }
-    /// Where the bytes of a pixel are stored until the block is closed; they stay there if the block is whole.
-    unsigned char* bytes(int i) { return m_bytes + 4 * i; }
+    /// Where the image has a pixel.
+    unsigned char* pixel(int i) const { return m_pixels + 4 * i; }
 
     /// Stores a colour of 0 .. 255 in a pixel; the spare byte stays.
     static void setBytes(unsigned char* pixel, Colour<int> c)

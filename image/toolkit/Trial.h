@@ -143,7 +143,7 @@ public:
     Trial(const Trial&) = delete;
     Trial& operator=(const Trial&) = delete;
 
-    /// Works the recipe into the bytes of a block, whose planes stay as they were. Pixels of it may wait for finish().
+    /// Works the recipe into the bytes of a block and closes it. Pixels of it may wait for finish().
     void work(Block& block, const Weights& weights)
     {
         Planes trial;
@@ -165,9 +165,8 @@ public:
             unsure[i] = weights.keep(i) ? 0 : doubt;
             return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
         });
+        block.close();
         forEachMarked(unsure, block.count(), [&](int i) { wait(block, weights, i); });
-        if (block.count() < blockPixels)
-            finish(); // its bytes do not stay where they are
     }
 
     /// The exact recipe for the pixels that wait.
@@ -181,7 +180,7 @@ private:
     void wait(Block& block, const Weights& weights, int i)
     {
         const int j = m_waiting++;
-        m_bytes[j] = block.bytes(i);
+        m_bytes[j] = block.pixel(i);
         m_r[j] = block.r.at[i];
         m_g[j] = block.g.at[i];
         m_b[j] = block.b.at[i];
