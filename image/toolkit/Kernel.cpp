@@ -5,11 +5,11 @@
 void fillKernel(GrowArray<float>& weights, int size, float exponent, bool unitCentre)
 {
     const float half = float((size < 3 ? 3 : size) * 0.5);
-    float x = 0.0f;
+    int x = 0;
     do {
-        x += 1.0f;
-        weights.add(exponent <= 0.0f ? 1.0f : std::pow(x / half, exponent));
-    } while (x < half);
+        x++;
+        weights.add(exponent <= 0.0f ? 1.0f : std::pow(float(x) / half, exponent));
+    } while (float(x) < half);
     if (unitCentre)
         weights.theArray[weights.numThings - 1] = 1.0f;
     for (int i = weights.numThings - 2; i >= 0; i--)

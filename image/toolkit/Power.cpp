@@ -196,7 +196,7 @@ void raiseNearly(float* values, int count, float exponent)
     else if (exponent == 5.0f)
         raiseNearlyBy(values, count, toTheFifth);
     else
-        raiseNearlyBy(values, count, [=](float base) { return nearPowerOf(base, exponent); });
+        raiseNearlyBy(values, count, [=](float base) { return nearPowerOf(base + 0.0f, exponent); }); // no -0
 }
 
 ErrorBound nearPower()

@@ -1,7 +1,10 @@
 #include "image/CharImage.h"
 #include "tests/reference/Toolkit.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <limits>
+#include <utility>
 
 TEST(Vignette, LeavesThePixelAtTheInnerRadius)
 {
@@ -52,6 +55,17 @@ TEST(Vignette, DarkensByTheCurve)
     EXPECT_EQ(two->data[0], 188);
     for (int i = 1; i < 4; i++)
         EXPECT_EQ(two->data[4 * i], 200);
+}
+
+TEST(Vignette, LeavesPixelsWhosePlaceIsANegativeZero)
+{
+    // What lies within the inner radius, divided by so much, is no longer below 0.
+    const Picture picture = flatPicture(9, 9, 200, 200, 200);
+    for (const auto& [inner, outer] : {std::pair(5.0f, std::numeric_limits<float>::infinity()), {1e-30f, 1e17f}}) {
+        const auto image = imageOf(picture);
+        image->vignette(inner, outer, 4.8f, 0.9f, false, false);
+        EXPECT_TRUE(std::equal(picture.pixels.begin(), picture.pixels.end(), image->data));
+    }
 }
 
 TEST(Vignette, PushesWhatItDarkensAwayFromGrey)
