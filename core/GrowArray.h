@@ -52,7 +52,8 @@ public:
         return -1;
     }
 
-    /// Appends `x` unless it is present: keeps a set of distinct values in the order of their arrival.
+    /// Appends `x` unless it is present: keeps a set of distinct values in the order of their arrival. Of arrays of int
+    /// only.
     void addOnce(T x);
 
     /// Removes element `i` (0 .. numThings - 1); the later ones move down. Block and capacity stay.
@@ -77,8 +78,8 @@ private:
     {
         if (!theArray) {
             numThings = 0;
-            maxThings = 2;
             theArray = new T[2];
+            maxThings = 2;
             return;
         }
         T* bigger = new T[2u * unsigned(maxThings)];

@@ -1,9 +1,9 @@
 #include "image/toolkit/BlurRows.h"
 
 #include "image/CharImage.h"
+#include "image/toolkit/Block.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
 
 namespace {
@@ -77,15 +77,8 @@ void takeChannel(const unsigned char* pixels, int channel, int width, int margin
 void storeChannels(
     const unsigned char* red, const unsigned char* green, const unsigned char* blue, int width, unsigned char* pixels)
 {
-    constexpr bool little = std::endian::native == std::endian::little;
-    constexpr int forRed = little ? 0 : 24, forGreen = little ? 8 : 16, forBlue = little ? 16 : 8, spare = 24 - forRed;
-    for (int x = 0; x < width; x++) {
-        std::uint32_t word;
-        std::memcpy(&word, pixels + 4 * x, 4);
-        word = (word & 255u << spare) | std::uint32_t(red[x]) << forRed | std::uint32_t(green[x]) << forGreen
-            | std::uint32_t(blue[x]) << forBlue;
-        std::memcpy(pixels + 4 * x, &word, 4);
-    }
+    for (int x = 0; x < width; x++)
+        Block::setBytes(pixels + 4 * x, {red[x], green[x], blue[x]});
 }
 
 void weighRows(const std::vector<BlurTap>& taps, const unsigned char* const* rows, std::size_t count, unsigned char* to)

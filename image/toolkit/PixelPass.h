@@ -57,13 +57,6 @@ template <class Function> void forEachBlockOfRow(CharImage& image, int y, Functi
         image, y, [](int) { return true; }, function);
 }
 
-/// Works `function(colour, i)` into the planes of a block.
-template <class Function> inline void workPlanes(Block& block, Function function)
-{
-    for (int i = 0; i < blockPixels; i++)
-        block.setColour(i, function(block.colour(i), i));
-}
-
 /// What `function(colour)` gives for each pixel of a block.
 template <class Function> inline Plane planeOf(const Block& block, Function function)
 {
@@ -222,8 +215,8 @@ void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stre
         [&](auto byteOf) { passOver(image, source, recipe, error, LevelsOnBytes<decltype(byteOf)>{byteOf}); });
 }
 
-/// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the others,
-/// the levels follow.
+/// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the one with
+/// tones, the levels follow.
 template <class Function, class... Finish> void forEachPixel(CharImage& image, Function function, Finish... finish)
 {
     Colours source;
@@ -238,12 +231,12 @@ template <class Function> void forEachPixel(CharImage& image, const Levels& leve
 }
 
 /// Each pixel becomes `function(colour)`, the colour taken through a curve per channel first.
-template <class Function, class... Finish>
-void forEachPixel(CharImage& image, const ChannelCurve& red, const ChannelCurve& green, const ChannelCurve& blue,
-    Function function, Finish... finish)
+template <class Function>
+void forEachPixel(
+    CharImage& image, const ChannelCurve& red, const ChannelCurve& green, const ChannelCurve& blue, Function function)
 {
     CurvedColours source{red, green, blue};
-    passOver(image, source, stepsOf(function), finish...);
+    passOver(image, source, stepsOf(function));
 }
 
 /// Each pixel becomes `function(colour, tone)`, the tone looked up by the pixel's luminance.
