@@ -34,10 +34,13 @@ TEST(Magazine, OnlyTintsAndSaturatesThePivot)
 TEST(Magazine, IsAFunctionOfEachPixelAlone)
 {
     CharImage::useRandom = 0;
-    const auto first = imageOf(photoLikePicture(60, 40)), second = imageOf(photoLikePicture(60, 40));
-    first->applyFilter(3);
-    second->applyFilter(3);
-    EXPECT_TRUE(std::equal(first->data, first->data + 60 * 40 * 4, second->data));
+    Picture picture = sampledPicture({60, 60, 60}, {190, 190, 190});
+    for (const int x : {1, 399})
+        picture.at(x, 0)[1] = 77;
+    picture.at(2, 0)[0] = 10; // another neighbour
+    const auto image = imageOf(picture);
+    image->applyFilter(3);
+    EXPECT_TRUE(std::equal(image->data + 4, image->data + 7, image->data + 4 * 399));
 }
 
 TEST(Magazine, StretchesAnEmptyImageWithoutAPixelPass)
