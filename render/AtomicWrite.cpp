@@ -13,32 +13,29 @@
 
 namespace {
 
-QString text(const char* words)
-{
-    return QString::fromLatin1(words);
-}
-
 QString failure(int error)
 {
     switch (error) {
     case EACCES:
     case EPERM:
     case EROFS:
-        return text("There is no permission to write there.");
+        return QStringLiteral("There is no permission to write there.");
     case ENOSPC:
     case EDQUOT:
-        return text("The disk is full.");
+        return QStringLiteral("The disk is full.");
     case EFBIG:
-        return text("The file is larger than may be written there.");
+        return QStringLiteral("The file is larger than may be written there.");
     case ENOENT:
     case ENOTDIR:
-        return text("The folder does not exist.");
+        return QStringLiteral("The folder does not exist.");
     case ENAMETOOLONG:
-        return text("The file's name is too long.");
+        return QStringLiteral("The file's name is too long.");
+    case ELOOP:
+        return QStringLiteral("The link leads to itself.");
     case EISDIR:
-        return text("There is a folder of that name.");
+        return QStringLiteral("There is a folder of that name.");
     default:
-        return text("The file cannot be written: %1.").arg(qt_error_string(error));
+        return QStringLiteral("The file cannot be written: %1.").arg(qt_error_string(error));
     }
 }
 
@@ -78,12 +75,15 @@ public:
 
     bool isOpen() const { return m_descriptor >= 0; }
 
-    /// Owner and permissions of the file that is to be replaced; another user's file becomes one's own.
+    /// Owner, group and permissions of the file that is to be replaced. Another user's file becomes one's own; where
+    /// its group cannot be kept, the new one may no more than everybody.
     void takePermissions(const struct stat& replaced)
     {
-        if (fchown(m_descriptor, replaced.st_uid, replaced.st_gid) != 0) { /* only the permissions then */
-        }
-        fchmod(m_descriptor, replaced.st_mode & 07777);
+        mode_t permissions = replaced.st_mode & 0777;
+        if (fchown(m_descriptor, replaced.st_uid, replaced.st_gid) != 0
+            && fchown(m_descriptor, uid_t(-1), replaced.st_gid) != 0)
+            permissions = (permissions & 0707) | (permissions & 07) << 3;
+        fchmod(m_descriptor, permissions);
     }
 
     bool write(const QByteArray& data)
@@ -134,6 +134,8 @@ int write(const std::string& target, const QByteArray& data)
     const std::string folder = target.substr(0, target.rfind('/') + 1);
     struct stat replaced;
     const bool replaces = stat(target.c_str(), &replaced) == 0;
+    if (!replaces && errno == ELOOP)
+        return ELOOP;
     if (replaces && S_ISDIR(replaced.st_mode))
         return EISDIR;
     if (replaces && (!S_ISREG(replaced.st_mode) || access(target.c_str(), W_OK) != 0))

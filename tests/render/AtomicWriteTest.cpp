@@ -6,6 +6,7 @@
 #include <QTest>
 #include <ctime>
 #include <dirent.h>
+#include <grp.h>
 #include <memory>
 #include <set>
 #include <string>
@@ -17,6 +18,7 @@
 namespace {
 
 constexpr uid_t nobody = 65534;
+constexpr gid_t sharedGroup = 12345; ///< one that the user without rights is in
 
 mode_t permissionsOf(const QByteArray& path)
 {
@@ -30,7 +32,9 @@ template <class Function> int resultInChild(Function child)
 {
     const pid_t process = fork();
     if (process == 0) {
-        if (geteuid() == 0 && setresuid(nobody, nobody, nobody) != 0)
+        if (geteuid() == 0
+            && (setgroups(1, &sharedGroup) != 0 || setresgid(nobody, nobody, nobody) != 0
+                || setresuid(nobody, nobody, nobody) != 0))
             _exit(100);
         _exit(child());
     }
@@ -121,6 +125,32 @@ private slots:
         QCOMPARE(status.st_uid, geteuid() == 0 ? nobody : geteuid());
     }
 
+    void anotherUsersFileKeepsItsGroupOrGivesItNoMoreThanEverybody_data()
+    {
+        QTest::addColumn<gid_t>("group");
+        QTest::addColumn<mode_t>("before");
+        QTest::addColumn<mode_t>("after");
+        QTest::newRow("a group of one's own") << sharedGroup << mode_t(0670) << mode_t(0670);
+        QTest::newRow("another group") << gid_t(1) << mode_t(0676) << mode_t(0666);
+    }
+    void anotherUsersFileKeepsItsGroupOrGivesItNoMoreThanEverybody()
+    {
+        QFETCH(gid_t, group);
+        QFETCH(mode_t, before);
+        QFETCH(mode_t, after);
+        samples::writeFile(pathOf("old.jpg"), "old");
+        const bool isOwn = geteuid() != 0; // then the file is one's own, and stays as it is
+        QVERIFY(isOwn || chown(pathOf("old.jpg").constData(), 1, group) == 0);
+        QVERIFY(chmod(pathOf("old.jpg").constData(), before) == 0);
+        QCOMPARE(resultInChild([&] { return write(pathOf("old.jpg"), "new") ? 0 : 1; }), 0);
+        struct stat status = {};
+        QVERIFY(stat(pathOf("old.jpg").constData(), &status) == 0);
+        QCOMPARE(samples::readFile(pathOf("old.jpg")), QByteArray("new"));
+        QCOMPARE(permissionsOf(pathOf("old.jpg")), isOwn ? before : after);
+        if (group == sharedGroup)
+            QCOMPARE(status.st_gid, isOwn ? getegid() : sharedGroup);
+    }
+
     void namesAreBytes_data()
     {
         QTest::addColumn<QByteArray>("name");
@@ -187,6 +217,7 @@ private slots:
         QTest::newRow("below a file") << QByteArray("file/photo.jpg") << QByteArray("The folder does not exist.");
         QTest::newRow("folder") << QByteArray("folder") << QByteArray("There is a folder of that name.");
         QTest::newRow("folder, as a path") << QByteArray("folder/") << QByteArray("There is a folder of that name.");
+        QTest::newRow("link to itself") << QByteArray("loop") << QByteArray("The link leads to itself.");
         QTest::newRow("pipe") << QByteArray("pipe") << QByteArray("There is no permission to write there.");
         QTest::newRow("too long") << QByteArray(300, 'n') << QByteArray("The file's name is too long.");
     }
@@ -196,9 +227,10 @@ private slots:
         QFETCH(QByteArray, reason);
         samples::writeFile(pathOf("file"), "old");
         QVERIFY(mkdir(pathOf("folder").constData(), 0755) == 0 && mkfifo(pathOf("pipe").constData(), 0644) == 0);
+        QVERIFY(symlink("loop", pathOf("loop").constData()) == 0);
         QCOMPARE(refusal(pathOf(name), "data", reason.constData()), 0);
         QCOMPARE(samples::readFile(pathOf("file")), QByteArray("old"));
-        QCOMPARE(names(), std::set<std::string>({"file", "folder", "pipe"}));
+        QCOMPARE(names(), std::set<std::string>({"file", "folder", "loop", "pipe"}));
     }
 
     void readOnlyFolder()
