@@ -8,13 +8,14 @@
 #include <QtEndian>
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <optional>
 #include <vector>
 
 namespace {
 
 constexpr int headerSize = 26;
+constexpr qint64 paletteSize = 768;
+constexpr qint64 largestProfile = 64 << 20; ///< bytes; those in use have a few millions
 
 enum Mode { bitmap = 0, grey = 1, indexed = 2, rgb = 3, cmyk = 4, duotone = 8, lab = 9 };
 
@@ -52,8 +53,8 @@ std::optional<Header> parse(const QByteArray& b)
         return {};
     const Header header = {version == 2, number<quint16>(b.constData() + 12), int(width), int(height),
         number<quint16>(b.constData() + 22), number<quint16>(b.constData() + 24)};
-    const bool knownMode = header.isGrey() || header.mode == indexed || header.mode == rgb || header.mode == cmyk
-        || header.mode == lab;
+    const bool knownMode =
+        header.isGrey() || header.mode == indexed || header.mode == rgb || header.mode == cmyk || header.mode == lab;
     const bool knownBits = header.mode == bitmap ? header.bits == 1
         : header.mode == indexed                 ? header.bits == 8
                                                  : header.bits == 8 || header.bits == 16 || header.bits == 32;
@@ -74,19 +75,21 @@ struct Sections {
     bool firstExtraIsAlpha = false; ///< otherwise the channels beyond the colours are kept selections
 };
 
-QByteArray profileOf(const QByteArray& resources)
+/// The colour profile among the resources, which end at `end`; empty where there is none.
+QByteArray readProfile(QIODevice& device, qint64 end)
 {
     constexpr int iccProfile = 0x040f;
-    for (qint64 at = 0; at + 12 <= resources.size();) {
-        const int id = number<quint16>(resources.constData() + at + 4);
-        const int nameLength = static_cast<unsigned char>(resources[at + 6]);
-        at += 6 + ((nameLength + 2) & ~1);
-        if (at + 4 > resources.size())
+    // Each begins with the four letters of who made it.
+    while (device.pos() + 12 <= end && !device.read(4).contains('\0')) {
+        const int id = readNumber<quint16>(device);
+        const int nameLength = readNumber<quint8>(device);
+        device.skip((nameLength + 2) / 2 * 2 - 1);
+        const qint64 size = readNumber<quint32>(device);
+        if (size > end - device.pos())
             return {};
-        const qint64 size = number<quint32>(resources.constData() + at);
         if (id == iccProfile)
-            return resources.mid(at + 4, size);
-        at += 4 + size + (size & 1);
+            return size <= largestProfile ? device.read(size) : QByteArray();
+        device.seek(device.pos() + size + size % 2);
     }
     return {};
 }
@@ -100,11 +103,15 @@ std::optional<Sections> readSections(QIODevice& device, const Header& header)
     const qint64 palette = readNumber<quint32>(device);
     if (!fits(palette))
         return {};
-    sections.palette = device.read(palette);
+    const qint64 afterPalette = device.pos() + palette;
+    sections.palette = device.read(std::min(palette, paletteSize));
+    device.seek(afterPalette);
     const qint64 resources = readNumber<quint32>(device);
     if (!fits(resources))
         return {};
-    sections.profile = profileOf(device.read(resources));
+    const qint64 afterResources = device.pos() + resources;
+    sections.profile = readProfile(device, afterResources);
+    device.seek(afterResources);
     const qint64 layers = header.big ? readNumber<qint64>(device) : qint64(readNumber<quint32>(device));
     if (!fits(layers))
         return {};
@@ -270,7 +277,7 @@ bool PsdHandler::read(QImage* image)
 {
     const auto header = headerOf(device());
     const auto sections = header ? readSections(*device(), *header) : std::nullopt;
-    if (!sections || (header->mode == indexed && sections->palette.size() < 768))
+    if (!sections || (header->mode == indexed && sections->palette.size() < paletteSize))
         return false;
     Rows rows(*device(), *header);
     if (!rows.holdsPicture())
