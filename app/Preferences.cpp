@@ -12,24 +12,30 @@ QString text(const GrowString& string)
     return QString::fromLatin1(string.cString());
 }
 
-/// True for a file that cannot be the store: one of its lines is no section, no comment and no "key=value". The store
-/// itself tells that only to the first who opens it.
+bool isSection(const QByteArray& line)
+{
+    return line.startsWith('[') && line.endsWith(']');
+}
+
+/// True for a file that cannot be the store: it does not begin with a section, as a store does even when its end was
+/// lost, and one of its lines is no section, no comment and no "key=value". The store itself tells that only to the
+/// first who opens it.
 bool isForeign(const QString& fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    const QByteArrayList lines = file.readAll().split('\n');
-    return std::ranges::any_of(lines, [](const QByteArray& line) {
+    const QByteArrayList lines = file.readAll().trimmed().split('\n');
+    return !isSection(lines.front().trimmed()) && std::ranges::any_of(lines, [](const QByteArray& line) {
         const QByteArray words = line.trimmed();
-        return !words.isEmpty() && words.front() != '[' && words.front() != ';' && !words.contains('=');
+        return !words.isEmpty() && !isSection(words) && words.front() != ';' && !words.contains('=');
     });
 }
 
 void store(const GrowString& key, const QVariant& value)
 {
     QSettings settings(QStringLiteral("Dovrel"), QStringLiteral("Lumora"));
-    // A file that is broken, or not a preferences file at all, is somebody's: it is not written over.
+    // A file that is not a preferences file at all is somebody's: it is not written over.
     if (isForeign(settings.fileName()))
         qWarning("%s is not a preferences file: choices are not saved", qUtf8Printable(settings.fileName()));
     else

@@ -2,8 +2,8 @@
 
 #include "core/GrowString.h"
 
-// The user's choices between runs, in the per-user store of the application. Each call opens the store afresh. A key that is
-// missing, or whose value is of another kind, reads as the empty string, 0 or false. Text is ASCII.
+// The user's choices between runs, in the per-user store of the application. Each call opens the store afresh. A key
+// that is missing, or whose value is of another kind, reads as the empty string, 0 or false. Text is ASCII.
 
 void setPreferenceString(const GrowString& key, const GrowString& value);
 void setPreferenceInt(const GrowString& key, int value);

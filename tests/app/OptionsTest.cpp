@@ -45,8 +45,7 @@ private slots:
         QCOMPARE(itemsOf(desk.find<QComboBox>("btnCropping")),
             QStringList({"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"}));
         QCOMPARE(itemsOf(desk.find<QComboBox>("btnImgSize")),
-            QStringList(
-                {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"}));
+            QStringList({"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"}));
     }
 
     void firstRunHasTheDefaults()
@@ -66,13 +65,13 @@ private slots:
             desk.choose("btnBorders", "Rounded");
             desk.choose("btnCropping", "4x3");
             desk.choose("btnImgSize", "500");
-            QVERIFY(chosen(desk) == (Choices {true, true, 4, 4, 7}));
+            QVERIFY(chosen(desk) == (Choices{true, true, 4, 4, 7}));
             desk.window.applicationWillTerminate();
             QCOMPARE(getPreferenceBool("UseRandomness"), true);
             QCOMPARE(getPreferenceInt("PrefsVersion"), 2);
         }
         Desk desk;
-        QVERIFY(chosen(desk) == (Choices {true, false, 4, 4, 7}));
+        QVERIFY(chosen(desk) == (Choices{true, false, 4, 4, 7}));
         QCOMPARE(CharImage::useRandom, 0);
         QCOMPARE(desk.window.doMultiFiltering, false); // until the next render or click
     }
@@ -102,7 +101,7 @@ private slots:
         setPreferences("[General]\nPrefsVersion=2\nUseMultiFilter=1\nBorderStyle=7\nCroppingStyle=6\n"
                        "OutputSize=99999999999\n");
         Desk edge;
-        QVERIFY(chosen(edge) == (Choices {true, false, 7, 6, 0}));
+        QVERIFY(chosen(edge) == (Choices{true, false, 7, 6, 0}));
     }
 
     void aFileThatIsNoPreferencesIsLeftAlone()
@@ -118,6 +117,19 @@ private slots:
             desk.window.applicationWillTerminate();
         }
         QCOMPARE(contentsOf(QFile::encodeName(preferencesFile())), letter);
+    }
+
+    void whatIsLeftOfACutOffFileIsUsedAndMadeWhole()
+    {
+        setPreferences("[General]\nBorderStyle=3\nCroppingStyle=2\nOutputSize=4\nPrefsVersion=2\nUseMul");
+        {
+            Desk desk;
+            QVERIFY(chosen(desk) == (Choices{false, false, 3, 2, 4}));
+            desk.click("chkMultiFilter");
+            desk.window.applicationWillTerminate();
+        }
+        Desk desk;
+        QVERIFY(chosen(desk) == (Choices{true, false, 3, 2, 4}));
     }
 
     void aFolderInThePlaceOfTheFileIsLeftAlone()
@@ -140,8 +152,8 @@ private slots:
             desk.window.applicationWillTerminate();
         }
         const QByteArray kept = contentsOf(QFile::encodeName(preferencesFile()));
-        QVERIFY(kept.contains("SomebodysKey=theirs") && kept.contains("[Other]\nToo=1")
-            && kept.contains("PrefsVersion=2"));
+        QVERIFY(
+            kept.contains("SomebodysKey=theirs") && kept.contains("[Other]\nToo=1") && kept.contains("PrefsVersion=2"));
     }
 
     void preferencesKeepTextNumbersAndTruth()
@@ -164,8 +176,8 @@ private slots:
 
     void cropsAndBordersAreFiltersOfTheirTitles()
     {
-        const std::pair<const char*, int> crops[]
-            = {{"Square", 21}, {"Cinema", 8}, {"6x4", 23}, {"4x3", 25}, {"7x6", 24}, {"None", 14}, {"By Filter", 14}};
+        const std::pair<const char*, int> crops[] = {
+            {"Square", 21}, {"Cinema", 8}, {"6x4", 23}, {"4x3", 25}, {"7x6", 24}, {"None", 14}, {"By Filter", 14}};
         const std::pair<const char*, int> borders[] = {{"Thin", 26}, {"Medium", 27}, {"Thick", 28}, {"Rounded", 29},
             {"Instant", 4}, {"Cinema", 8}, {"None", 14}, {"By Filter", 14}};
         Desk desk(makePhoto(60, 40));
@@ -208,8 +220,8 @@ private slots:
         Desk desk(makePhoto(60, 40));
         const auto thumbnail = [&] { return desk.find<QToolButton>("btnHelga")->icon().cacheKey(); };
         const qint64 before = thumbnail();
-        for (const auto& [popUp, item] : {std::pair("btnBorders", "Thick"), std::pair("btnCropping", "Square"),
-                 std::pair("btnImgSize", "100")}) {
+        for (const auto& [popUp, item] :
+            {std::pair("btnBorders", "Thick"), std::pair("btnCropping", "Square"), std::pair("btnImgSize", "100")}) {
             const qint64 render = desk.render();
             desk.choose(popUp, item);
             QVERIFY(desk.render() != render);
