@@ -28,7 +28,7 @@ constexpr LookText looks[] = {
     {6, "A contrasty black-and-white print of the sixties, with light skies."},
     {7, "A hard colour print under a brown wash that is strongest in the shadows."},
     {5, "Black and white over the full range of greys; blue skies print dark."},
-    {0, "Cross-processed film: hard reds and greens, flat blues. The FishEye button."},
+    {0, "Cross-processed film: hard reds and greens, flat blues."},
     {4, "An instant print: soft tones, brown shadows and dark corners."},
     {3, "Warmed towards orange; darks darker, lights lighter, stronger colours."},
     {9, "Infrared film: leaves turn bright, blue sky turns dark."},

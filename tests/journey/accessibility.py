@@ -6,7 +6,7 @@ import sys
 
 import pyatspi
 
-from desk import find, key, press_by_name, say, wait_for, walk
+from desk import key, press_by_name, say, wait_for, walk
 from lumora import LOOK_BUTTONS, MENU_LOOKS, Lumora
 
 controls = (pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_TOGGLE_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON,
