@@ -6,6 +6,17 @@
 
 #include <QAction>
 
+namespace {
+
+/// Without a press of it.
+void showSwitch(QAbstractButton& button, bool on)
+{
+    const QSignalBlocker shownOnly(button);
+    button.setChecked(on);
+}
+
+} // namespace
+
 void MainWindowController::addAppliedFilter(int filter)
 {
     filterIDs.addOnce(filter);
@@ -108,7 +119,7 @@ void MainWindowController::multiFilterToggled()
 {
     const Work work(*this);
     if (!work)
-        return;
+        return showSwitch(*ui->chkMultiFilter, doMultiFiltering);
     doMultiFiltering = ui->chkMultiFilter->isChecked();
     if (!doMultiFiltering) {
         // Only the look that was added last stays.
@@ -123,7 +134,7 @@ void MainWindowController::useRandomToggled()
 {
     const Work work(*this);
     if (!work)
-        return;
+        return showSwitch(*ui->chkRandomness, CharImage::useRandom != 0);
     CharImage::useRandom = ui->chkRandomness->isChecked() ? 1 : 0;
     settingChanged();
     updateThumbnailImages();
@@ -135,10 +146,7 @@ void MainWindowController::reExpose()
     if (!work)
         return;
     CharImage::renewRandomNumbers();
-    {
-        const QSignalBlocker shownOnly(ui->chkRandomness);
-        ui->chkRandomness->setChecked(true);
-    }
+    showSwitch(*ui->chkRandomness, true);
     CharImage::useRandom = 1;
     settingChanged();
     updateThumbnailImages();
@@ -151,8 +159,6 @@ void MainWindowController::showAppliedFilters()
         const int filter = action->data().toInt();
         action->setChecked(filter == 14 ? filterIDs.numThings == 0 : filterIDs.find(filter) >= 0);
     }
-    for (int i = 0; i < filterButtons.numThings; i++) {
-        const QSignalBlocker shownOnly(filterButtons.theArray[i]);
-        filterButtons.theArray[i]->setChecked(lookActions[i]->isChecked());
-    }
+    for (int i = 0; i < filterButtons.numThings; i++)
+        showSwitch(*filterButtons.theArray[i], lookActions[i]->isChecked());
 }

@@ -29,22 +29,7 @@ QImage middleOf(const QImage& image)
 
 } // namespace
 
-bool MainWindowController::openFile(const QByteArray& path)
-{
-    QString reason;
-    const bool taken = takeFile(path, &reason);
-    if (!reason.isEmpty())
-        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), reason);
-    return taken;
-}
-
 bool MainWindowController::loadImageFromFile(const QByteArray& path)
-{
-    QString reason;
-    return takeFile(path, &reason);
-}
-
-bool MainWindowController::takeFile(const QByteArray& path, QString* reason)
 {
     const Work work(*this, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
     if (!work)
@@ -53,7 +38,7 @@ bool MainWindowController::takeFile(const QByteArray& path, QString* reason)
     showStep(tr("Decode"));
     LoadedPhoto photo = loadPhoto(path);
     if (photo.image.isNull()) {
-        *reason = photo.reason;
+        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), photo.reason);
         return false;
     }
     originalExif = photo.exif;
@@ -141,6 +126,8 @@ void MainWindowController::saveFilteredImage()
     QSizeF size = render.size();
     if (imgOutputSize > -1)
         size = downsizeNSImage(render, imgOutputSize);
+    if (render.isNull())
+        return openModalSheetWithText(tr("The photo cannot be saved."), memoryRefusal(bitmapSize(size)));
     std::printf("downsizing image to %i, ended with %f %f\n", imgOutputSize, size.width(), size.height());
     showStep(tr("Encode"));
     const QByteArray jpeg = encodeJpeg(render, originalExif);
@@ -149,7 +136,7 @@ void MainWindowController::saveFilteredImage()
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));
     const QByteArray path = askWhereToSave();
     if (!path.isEmpty() && !writeFileAtomically(path, jpeg, &reason)) {
-        qWarning("didn't work!");
+        std::puts("didn't work!");
         qWarning("%s: %s", path.constData(), qUtf8Printable(reason));
     }
 }

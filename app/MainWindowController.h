@@ -61,10 +61,9 @@ public:
     const QImage& getFiltersAppliedImage() const { return filtersAppliedImage; }
     void setFiltersAppliedImage(const QImage& image) { filtersAppliedImage = image; }
     void setoriginalImage(const QImage& image);
-    /// True when the file of that path (any bytes) was taken as the new photo; otherwise nothing changes.
+    /// True when the file of that path (any bytes) was taken as the new photo. Otherwise nothing changes, and a sheet
+    /// says why.
     bool loadImageFromFile(const QByteArray& path) override;
-    /// A file handed over by the desktop: as loadImageFromFile, and a sheet names the reason when it is refused.
-    bool openFile(const QByteArray& path);
     /// The same as soon as the window has been painted.
     void openFileWhenShown(const QByteArray& path) { fileWhenShown = path; }
     /// Scales to the longer side `maxSide`, also upwards; gives the exact size before it was rounded to pixels.
@@ -143,8 +142,6 @@ private:
     int stepsOfRender() const;
     void showStep(const QString& name);
     void showAppliedFilters();
-    /// Loads a file; where it is refused there is a `reason`, where other work is under way there is none.
-    bool takeFile(const QByteArray& path, QString* reason);
     void setCurrentFile(const QByteArray& path);
     void rotateImage(float degrees);
     int largerFrameSide() const;
@@ -162,6 +159,7 @@ private:
     QByteArray originalExif; ///< what the camera wrote into the photo's file
     QByteArray currentFileName; ///< of the last loaded file, the name offered when saving
     QByteArray fileWhenShown;
+    bool wasPainted = false;
     QString panelFolder; ///< where a panel was left; empty before the first
 
     int workDepth = 0;

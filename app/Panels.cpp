@@ -1,15 +1,17 @@
 #include "app/MainWindowController.h"
 #include "app/Rules.h"
+#include "ui_MainWindow.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
 
 namespace {
 
-/// Keeps the platform's own panel from writing its history into the user's configuration when it goes: while this lives,
-/// settings are written nowhere.
+/// Keeps the platform's own panel from writing its history into the user's configuration when it goes: while this
+/// lives, settings are written nowhere.
 class NoPanelHistory {
 public:
     NoPanelHistory() { setFolder(QStringLiteral("/dev/null")); }
@@ -37,6 +39,7 @@ void prepare(QFileDialog& panel, const QString& folder)
 /// Runs a file panel; true when it was confirmed.
 bool MainWindowController::runPanel(QFileDialog& panel)
 {
+    ui->progressBar->hide(); // nothing is worked on while the panel waits
     mayBeEntered = workDepth == 0;
     const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
     mayBeEntered = true;
@@ -60,7 +63,7 @@ void MainWindowController::loadImageButtonPressed()
             chosen = panel.selectedFiles();
     }
     for (const QString& file : chosen)
-        openFile(QFile::encodeName(file));
+        loadImageFromFile(QFile::encodeName(file));
 }
 
 /// Asks for the path of the JPEG; empty when the panel was cancelled.
@@ -71,22 +74,21 @@ QByteArray MainWindowController::askWhereToSave()
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setDefaultSuffix(QStringLiteral("jpg"));
     prepare(panel, panelFolder);
-    const QString proposed = shownName(currentFileName);
+    // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
+    // is what it asks about: a name that cannot be shown is not taken back.
+    const QString proposed = shownName(currentFileName).replace(u'"', u'\'');
     panel.selectFile(proposed); // after the types, which would change the name's extension to theirs
     if (!runPanel(panel))
         return {};
-    const QFileInfo chosen(panel.selectedFiles().first());
-    // A name that cannot be shown as it is comes back as it was when the proposal was left alone.
-    if (chosen.fileName() == proposed)
-        return QFile::encodeName(chosen.absolutePath()) + '/' + currentFileName;
-    return QFile::encodeName(chosen.absoluteFilePath());
+    return QFile::encodeName(QFileInfo(panel.selectedFiles().first()).absoluteFilePath());
 }
 
 void MainWindowController::openModalSheetWithText(const QString& text, const QString& auxText)
 {
     auto* sheet = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("Lumora"), text, QMessageBox::Ok, this);
-    sheet->setTextFormat(Qt::PlainText);
     sheet->setInformativeText(auxText);
+    for (QLabel* label : sheet->findChildren<QLabel*>()) // the box itself would ask only the first one
+        label->setTextFormat(Qt::PlainText);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setWindowModality(Qt::WindowModal);
     sheet->show();

@@ -12,13 +12,14 @@
 /// The filter numbers of the ten look buttons in their order; the first is "Original".
 inline constexpr int buttonFilters[] = {14, 1, 2, 8, 6, 7, 5, 0, 4, 3};
 
-/// The longest side of the display copy for a window whose larger frame side is `frameSide` pixels: the first 800 + 20 k that
-/// is not smaller.
+/// The longest side of the display copy for a window whose larger frame side is `frameSide` pixels: the first 800 + 20
+/// k that is not smaller.
 int displayResAtLoad(int frameSide);
 /// The same after a resize: grows by factors of 1.2, each truncated, and never shrinks.
 int displayResAfterResize(int displayRes, int frameSide);
 
-/// The size of the display copy of a photo: the longer side at most `displayRes`. A square photo is never reduced, on purpose.
+/// The size of the display copy of a photo: the longer side at most `displayRes`. A square photo is never reduced, on
+/// purpose.
 QSizeF displaySize(const QSize& photo, int displayRes);
 /// The size of the thumbnail copy: the shorter side is 100.
 QSizeF thumbnailSize(const QSize& photo);

@@ -13,6 +13,7 @@
 #include <QUrl>
 #include <cstdlib>
 #include <ctime>
+#include <utility>
 
 namespace {
 
@@ -68,8 +69,7 @@ void MainWindowController::completeNibLoading()
 
     fill(*ui->btnBorders, {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"});
     fill(*ui->btnCropping, {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"});
-    fill(*ui->btnImgSize,
-        {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
+    fill(*ui->btnImgSize, {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
 
     ui->mainImageView->setDelegate(this);
     qApp->installEventFilter(this);
@@ -168,17 +168,20 @@ void MainWindowController::windowDidResize()
 void MainWindowController::paintEvent(QPaintEvent* event)
 {
     QMainWindow::paintEvent(event);
+    // Until now the desktop had not yet put its frame round the window.
+    if (!std::exchange(wasPainted, true))
+        displayRes = qMax(displayRes, displayResAtLoad(largerFrameSide()));
     if (fileWhenShown.isEmpty())
         return;
     const QByteArray path = std::exchange(fileWhenShown, {});
-    QTimer::singleShot(0, this, [this, path] { openFile(path); });
+    QTimer::singleShot(0, this, [this, path] { loadImageFromFile(path); });
 }
 
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::FileOpen)
         return QMainWindow::eventFilter(watched, event);
-    openFile(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
+    loadImageFromFile(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
     return true;
 }
 
@@ -210,7 +213,8 @@ void MainWindowController::openHelp()
 {
     const QFileInfo document(helpDocument());
     if (!document.exists() || !QDesktopServices::openUrl(QUrl::fromLocalFile(document.canonicalFilePath())))
-        openModalSheetWithText(tr("The help cannot be shown."), tr("It stands at %1.").arg(document.absoluteFilePath()));
+        openModalSheetWithText(
+            tr("The help cannot be shown."), tr("It stands at %1.").arg(document.absoluteFilePath()));
 }
 
 void MainWindowController::openAbout()

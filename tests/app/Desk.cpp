@@ -150,6 +150,14 @@ QStringList Desk::sheet()
     return {};
 }
 
+bool Desk::closeSheet()
+{
+    for (auto* box : window.findChildren<QMessageBox*>())
+        if (box->isVisible())
+            return box->close();
+    return false;
+}
+
 void typeName(QFileDialog& panel, const QString& name)
 {
     auto* field = panel.findChild<QLineEdit*>("fileNameEdit");

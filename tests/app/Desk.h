@@ -59,6 +59,8 @@ public:
     void saveAs(const QString& name);
     /// The texts of the sheet that is shown, title and message; empty without one.
     QStringList sheet();
+    /// False without one.
+    bool closeSheet();
 };
 
 /// Types a name into a panel and confirms it.

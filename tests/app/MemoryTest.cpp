@@ -1,6 +1,5 @@
 #include "tests/app/Desk.h"
 
-#include <QLineEdit>
 #include <malloc.h>
 #include <unistd.h>
 

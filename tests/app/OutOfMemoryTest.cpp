@@ -1,8 +1,6 @@
 #include "tests/app/Desk.h"
 #include "tests/render/ScarceMemory.h"
 
-#include <QMessageBox>
-
 class OutOfMemoryTest : public QObject {
     Q_OBJECT
 
@@ -22,5 +20,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(OutOfMemoryTest)
+DESK_MAIN(OutOfMemoryTest)
 #include "OutOfMemoryTest.moc"

@@ -4,7 +4,6 @@
 #include "tests/app/Desk.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDesktopServices>
 #include <QLabel>
 #include <QLayout>
@@ -74,8 +73,7 @@ private slots:
             QVERIFY(expected.width() < 150); // fitted inside the wide border, which is not drawn
             const QIcon icon = desk.window.filterButtons.theArray[i]->icon();
             QCOMPARE(icon.availableSizes().first(), expected.size());
-            QCOMPARE(pixelsOf(icon.pixmap(expected.size()).toImage()),
-                pixelsOf(expected));
+            QCOMPARE(pixelsOf(icon.pixmap(expected.size()).toImage()), pixelsOf(expected));
         }
     }
 
@@ -103,9 +101,14 @@ private slots:
 
     void displayResFollowsTheFrame()
     {
-        const MainWindowController fresh;
-        const int side = qMax(fresh.frameGeometry().width(), fresh.frameGeometry().height());
-        QCOMPARE(fresh.displayRes, displayResAtLoad(side));
+        // The frame comes round the window when it is shown.
+        MainWindowController fresh;
+        fresh.resize(1000, 700);
+        fresh.displayRes = 1000;
+        fresh.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fresh));
+        QVERIFY(fresh.frameGeometry().width() > 1000 && fresh.frameGeometry().width() <= 1020);
+        QTRY_COMPARE(fresh.displayRes, 1020);
 
         Desk desk(makePhoto(1600, 900));
         desk.window.displayRes = 800;
@@ -179,8 +182,15 @@ private slots:
     void sheetsShowTextAsItIs()
     {
         Desk desk;
-        desk.window.openModalSheetWithText("100%s <b>", "%n %1 done");
-        QCOMPARE(desk.sheet(), QStringList({"100%s <b>", "%n %1 done"}));
+        desk.window.openModalSheetWithText("100%s <b>one</b>", "%n %1 <b>two</b>");
+        QCOMPARE(desk.sheet(), QStringList({"100%s <b>one</b>", "%n %1 <b>two</b>"}));
+        int shown = 0;
+        for (const QLabel* label : qobject_cast<QDialog*>(QApplication::activeModalWidget())->findChildren<QLabel*>())
+            if (!label->text().isEmpty()) {
+                QCOMPARE(label->textFormat(), Qt::PlainText);
+                shown++;
+            }
+        QCOMPARE(shown, 2);
     }
 
     void helpOpensItsDocumentOrSaysWhereItShouldBe()
@@ -212,11 +222,11 @@ private slots:
                 if (!entry->isSeparator())
                     entries << title->text().remove('&') + '/' + entry->text().remove('&') + ' '
                             + entry->shortcut().toString();
-        for (const char* entry : {"File/Open… Ctrl+O", "File/Save… Ctrl+S", "File/Quit Ctrl+Q",
-                 "Photo/Rotate left Ctrl+L", "Photo/Rotate right Ctrl+R", "Photo/Flatten Ctrl+Shift+F",
-                 "Photo/Re-expose Ctrl+E", "Looks/Original 1", "Looks/Magazine 0", "Looks/Infrared ",
-                 "Looks/Fisheye ", "Looks/Lightleak ", "Looks/Delicious ", "Looks/Arctic ", "Looks/Blowout ",
-                 "Help/Lumora Help F1", "Help/About Lumora "})
+        for (const char* entry :
+            {"File/Open… Ctrl+O", "File/Save… Ctrl+S", "File/Quit Ctrl+Q", "Photo/Rotate left Ctrl+L",
+                "Photo/Rotate right Ctrl+R", "Photo/Flatten Ctrl+Shift+F", "Photo/Re-expose Ctrl+E", "Looks/Original 1",
+                "Looks/Magazine 0", "Looks/Infrared ", "Looks/Fisheye ", "Looks/Lightleak ", "Looks/Delicious ",
+                "Looks/Arctic ", "Looks/Blowout ", "Help/Lumora Help F1", "Help/About Lumora "})
             QVERIFY2(entries.contains(QString::fromUtf8(entry)), entry);
     }
 
@@ -229,9 +239,9 @@ private slots:
             reached << desk.window.focusWidget()->objectName();
             QTest::keyClick(desk.window.focusWidget(), Qt::Key_Tab);
         }
-        for (const char* control : {"mainImageView", "btnOriginal", "btnHelga", "btnMagazine", "btnLoad", "btnLeft",
-                 "btnRight", "btnBorders", "btnCropping", "btnImgSize", "chkMultiFilter", "chkRandomness",
-                 "btnReExpose", "btnFlatten", "btnSave"})
+        for (const char* control :
+            {"mainImageView", "btnOriginal", "btnHelga", "btnMagazine", "btnLoad", "btnLeft", "btnRight", "btnBorders",
+                "btnCropping", "btnImgSize", "chkMultiFilter", "chkRandomness", "btnReExpose", "btnFlatten", "btnSave"})
             QVERIFY2(reached.contains(control), control);
     }
 
@@ -255,8 +265,8 @@ private slots:
         QList<QRect> before, after;
         const auto places = [&] {
             QList<QRect> all;
-            for (const QWidget* widget : desk.find<QWidget>("centralwidget")->findChildren<QWidget*>(
-                     Qt::FindDirectChildrenOnly))
+            for (const QWidget* widget :
+                desk.find<QWidget>("centralwidget")->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
                 all << widget->geometry();
             return all;
         };

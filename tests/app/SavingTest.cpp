@@ -1,0 +1,162 @@
+#include "render/PhotoSaver.h"
+#include "render/RenderPipeline.h"
+#include "tests/app/Desk.h"
+
+#include <QDirIterator>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <algorithm>
+#include <sys/resource.h>
+
+class SavingTest : public QObject {
+    Q_OBJECT
+
+private:
+    static QImage decoded(const QString& path)
+    {
+        return pixelsOf(QImage::fromData(contentsOf(QFile::encodeName(path)), "JPEG"));
+    }
+
+    /// What saving must write: the full-size render, encoded.
+    static QImage expected(Desk& desk)
+    {
+        const QImage render = renderPhoto(desk.window.getoriginalImage(),
+            {.filterIDs = &desk.window.filterIDs,
+                .cropFilter = desk.window.cropFilter,
+                .borderFilter = desk.window.borderFilter});
+        return pixelsOf(QImage::fromData(encodeJpeg(render, {}), "JPEG"));
+    }
+
+private slots:
+    void init() { setPreferences({}); }
+
+    void savingWritesTheFullSizeRender()
+    {
+        Desk desk;
+        desk.window.displayRes = 800;
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "a.png", makePhoto(1200, 900))));
+        desk.choose("btnBorders", "None");
+        desk.click("btnMono");
+        const QString path = desk.folder.filePath("out.jpg");
+        const QByteArray printed = printedBy([&] { desk.saveAs(path); });
+        QVERIFY(printed.contains("downsizing image to -1, ended with 1200.000000 900.000000\n"));
+        QCOMPARE(decoded(path), expected(desk));
+    }
+
+    void savingScalesToTheChosenSizeAlsoUpwards()
+    {
+        Desk desk(makePhoto(640, 480));
+        desk.choose("btnImgSize", "1000");
+        const QString path = desk.folder.filePath("large.jpg");
+        QByteArray printed = printedBy([&] { desk.saveAs(path); });
+        QVERIFY(printed.contains("downsizing image to 1000, ended with 1000.000000 750.000000\n"));
+        QCOMPARE(decoded(path).size(), QSize(1000, 750));
+
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "b.png", makePhoto(300, 200))));
+        desk.choose("btnImgSize", "800");
+        printed = printedBy([&] { desk.saveAs(path + "2.jpg"); });
+        QVERIFY(printed.contains("downsizing image to 800, ended with 800.000000 533.333333\n"));
+        QCOMPARE(decoded(path + "2.jpg").size(), QSize(800, 533));
+    }
+
+    void theSavePanelProposesTheNameAndTheBytesAreAlwaysJpeg()
+    {
+        Desk desk(makePhoto(60, 40));
+        desk.withPanel(
+            [&](QFileDialog& panel) {
+                QCOMPARE(panel.acceptMode(), QFileDialog::AcceptSave);
+                QCOMPARE(panel.findChild<QLineEdit*>("fileNameEdit")->text(), QString("photo.png"));
+                QVERIFY(panel.nameFilters().first().endsWith("(*.jpg *.jpeg *.gif *.png *.psd *.tga)"));
+                typeName(panel, desk.folder.filePath("picture.tga"));
+            },
+            [&] { desk.click("btnSave"); });
+        QVERIFY(contentsOf(QFile::encodeName(desk.folder.filePath("picture.tga"))).startsWith("\xff\xd8\xff"));
+        desk.saveAs(desk.folder.filePath("no extension"));
+        QVERIFY(QFile::exists(desk.folder.filePath("no extension.jpg")));
+        QVERIFY(!QFile::exists(desk.folder.filePath("no extension")));
+    }
+
+    void aCancelledPanelWritesNothing()
+    {
+        Desk desk(makePhoto(2600, 1700));
+        desk.withPanel(
+            [&](QFileDialog& panel) {
+                QVERIFY(!desk.find<QProgressBar>("progressBar")->isVisible()); // nothing is worked on
+                QTest::keyClick(&panel, Qt::Key_Escape);
+            },
+            [&] { desk.click("btnSave"); });
+        QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("photo.png"));
+    }
+
+    void nothingElseIsWritten()
+    {
+        const auto written = [] {
+            QStringList files;
+            for (QDirIterator it(configFolder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+                 it.hasNext();)
+                files << it.next();
+            return files;
+        };
+        Desk desk(makePhoto(60, 40));
+        desk.withPanel([&](QFileDialog& panel) { typeName(panel, desk.folder.filePath("photo.png")); },
+            [&] { desk.click("btnLoad"); });
+        desk.saveAs(desk.folder.filePath("out.jpg"));
+        QCOMPARE(written(), QStringList());
+        desk.window.applicationWillTerminate();
+        QCOMPARE(written(), QStringList(preferencesFile()));
+        QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList({"out.jpg", "photo.png"}));
+    }
+
+    void aFailedWriteIsLoggedAndLeavesTheOldFile()
+    {
+        Desk desk(makePhoto(600, 400));
+        const QString path = desk.folder.filePath("kept.jpg");
+        QFile kept(path);
+        QVERIFY(kept.open(QIODevice::WriteOnly) && kept.write("the old one") > 0);
+        kept.close();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("kept.jpg: The file is larger than may be written"));
+        const auto allowFilesOf = [](rlim_t bytes) {
+            rlimit limit;
+            getrlimit(RLIMIT_FSIZE, &limit);
+            limit.rlim_cur = std::min(bytes, limit.rlim_max);
+            setrlimit(RLIMIT_FSIZE, &limit);
+        };
+        const QByteArray printed = printedBy([&] {
+            desk.withPanel(
+                [&](QFileDialog& panel) {
+                    panel.setOption(QFileDialog::DontConfirmOverwrite);
+                    allowFilesOf(2000);
+                    typeName(panel, path);
+                },
+                [&] { desk.click("btnSave"); });
+            allowFilesOf(RLIM_INFINITY);
+        });
+        QVERIFY(printed.contains("\ndidn't work!\n"));
+        QCOMPARE(contentsOf(QFile::encodeName(path)), QByteArray("the old one"));
+        QCOMPARE(
+            QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList({"kept.jpg", "photo.png"}));
+        QCOMPARE(desk.sheet(), QStringList());
+
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("gone/out.jpg: The folder does not exist"));
+        desk.saveAs(desk.folder.filePath("gone/out.jpg"));
+    }
+
+    void theOpenPhotosOwnFileCanBeReplacedAndOpenedAgain()
+    {
+        Desk desk(makePhoto(60, 40));
+        const QString path = desk.folder.filePath("photo.png");
+        desk.click("btnMono");
+        desk.withPanel(
+            [&](QFileDialog& panel) {
+                panel.setOption(QFileDialog::DontConfirmOverwrite);
+                typeName(panel, path);
+            },
+            [&] { desk.click("btnSave"); });
+        QCOMPARE(pixelsOf(desk.window.getoriginalImage()), makePhoto(60, 40));
+        QCOMPARE(decoded(path), expected(desk));
+        QVERIFY(desk.window.loadImageFromFile(QFile::encodeName(path)));
+    }
+};
+
+DESK_MAIN(SavingTest)
+#include "SavingTest.moc"
