@@ -58,14 +58,15 @@ void work(CharImage& image, Input& input)
     const auto side = [&] { return input.below(half + 1); }; // margins lie inside the canvas
     switch (input.below(9)) {
     case 0:
-        image.fillHistogram(input.number(1), input.number(1), input.number(255), input.number(255), input.below(2),
-            input.below(2));
+        image.fillHistogram(
+            input.number(1), input.number(1), input.number(255), input.number(255), input.below(2), input.below(2));
         break;
     case 1:
         image.makeBlurry(input.below(40), input.number(4));
         break;
     case 2:
-        image.vignette(input.number(60), input.number(60), input.number(4), input.number(1), input.below(2), input.below(2));
+        image.vignette(
+            input.number(60), input.number(60), input.number(4), input.number(1), input.below(2), input.below(2));
         break;
     case 3:
         image.addNoise(input.below(30), input.below(9), 1 + input.below(255));
@@ -73,7 +74,8 @@ void work(CharImage& image, Input& input)
     case 4: {
         const std::unique_ptr<unsigned char[]> map(new unsigned char[image.pixelCount()]);
         image.fillEdgeDetectMap(map.get());
-        CharImage::smoothCharMap(map.get(), image.width, image.height, input.below(30), input.number(4), input.number(50));
+        CharImage::smoothCharMap(
+            map.get(), image.width, image.height, input.below(30), input.number(4), input.number(50));
         break;
     }
     case 5: {

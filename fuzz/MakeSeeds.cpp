@@ -56,7 +56,8 @@ QByteArray psd(int mode, int bits, int channels, bool wide, bool runLength, cons
     QByteArray file = "8BPS" + big(quint16(wide ? 2 : 1)) + QByteArray(6, '\0') + big(quint16(channels));
     file += big(quint32(3)) + big(quint32(4)) + big(quint16(bits)) + big(quint16(mode));
     file += mode == 2 ? big(quint32(768)) + ramp(768) : big(quint32(0));
-    const QByteArray resource = "8BIM" + big(quint16(0x040f)) + QByteArray(2, '\0') + big(quint32(profile.size())) + profile;
+    const QByteArray resource =
+        "8BIM" + big(quint16(0x040f)) + QByteArray(2, '\0') + big(quint32(profile.size())) + profile;
     file += big(quint32(resource.size())) + resource;
     const QByteArray layers = (wide ? big(quint64(2)) : big(quint32(2))) + big(qint16(-1));
     file += (wide ? big(quint64(layers.size())) : big(quint32(layers.size()))) + layers;
@@ -78,7 +79,8 @@ bool makePictures(const QString& folder)
         for (int bits : {8, 15, 16, 24, 32}) {
             if ((type % 8 == 2) == (bits == 8) || (type % 8 == 3 && bits != 8))
                 continue;
-            const QByteArray file = type % 8 == 1 ? tga(type, bits == 16 ? 16 : 8, bits, 0) : tga(type, bits, 0, bits & 3);
+            const QByteArray file =
+                type % 8 == 1 ? tga(type, bits == 16 ? 16 : 8, bits, 0) : tga(type, bits, 0, bits & 3);
             const QString name = QStringLiteral("%1-%2.tga").arg(type).arg(bits);
             made = made && write(folder + "/TgaFuzz", name, file) && write(folder + "/LoaderFuzz", name, file);
         }
@@ -87,7 +89,8 @@ bool makePictures(const QString& folder)
         {4, 8, 4}, {4, 16, 5}, {7, 8, 3}, {8, 8, 1}, {9, 8, 3}, {9, 16, 3}};
     for (const auto& [mode, bits, channels] : kinds)
         for (int layout = 0; layout < 4; layout++) {
-            const QByteArray file = psd(mode, bits, channels, layout & 1, layout & 2, mode == 3 ? profile : QByteArray());
+            const QByteArray file =
+                psd(mode, bits, channels, layout & 1, layout & 2, mode == 3 ? profile : QByteArray());
             const QString name = QStringLiteral("%1-%2-%3-%4.psd").arg(mode).arg(bits).arg(channels).arg(layout);
             made = made && write(folder + "/PsdFuzz", name, file) && write(folder + "/LoaderFuzz", name, file);
         }
@@ -115,7 +118,8 @@ int main(int argc, char** argv)
         && write(folder + "/PreferencesFuzz", "whole",
             "[General]\nBorderStyle=3\nCroppingStyle=2\nName=\"a, \\x41\"\nOutputSize=@Size(1 2)\nPrefsVersion=2\n"
             "UseMultiFilter=true\n")
-        && write(folder + "/PreferencesFuzz", "odd", "; note\n[%General]\nPrefsVersion=@Variant(\\0\\0\\0\\b)\n[x\n=\n");
+        && write(
+            folder + "/PreferencesFuzz", "odd", "; note\n[%General]\nPrefsVersion=@Variant(\\0\\0\\0\\b)\n[x\n=\n");
     for (int filter = 0; filter < 31; filter++)
         made = made && write(folder + "/EngineFuzz", QString::number(filter), ramp(40 + filter * 97) + char(filter));
     if (!made)

@@ -25,7 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     QFile::remove(storeFile());
     QFile file(storeFile());
-    if (!file.open(QIODevice::WriteOnly) || file.write(reinterpret_cast<const char*>(data), qint64(size)) != qint64(size))
+    if (!file.open(QIODevice::WriteOnly)
+        || file.write(reinterpret_cast<const char*>(data), qint64(size)) != qint64(size))
         std::abort();
     file.close();
     for (const char* key : {"PrefsVersion", "UseMultiFilter", "BorderStyle", "CroppingStyle", "OutputSize", "Name"}) {

@@ -1,7 +1,6 @@
 #include "render/JpegMarkers.h"
 
 #include <QIODevice>
-#include <cstring>
 
 namespace {
 

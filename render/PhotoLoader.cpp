@@ -21,11 +21,6 @@
 
 namespace {
 
-QString text(const char* words)
-{
-    return QString::fromLatin1(words);
-}
-
 LoadedPhoto refusal(const QString& reason)
 {
     LoadedPhoto refused;
@@ -38,12 +33,12 @@ QString openFailure(int error)
     switch (error) {
     case ENOENT:
     case ENOTDIR:
-        return text("The file does not exist.");
+        return QStringLiteral("The file does not exist.");
     case EACCES:
     case EPERM:
-        return text("There is no permission to read the file.");
+        return QStringLiteral("There is no permission to read the file.");
     default:
-        return text("The file cannot be opened: %1.").arg(qt_error_string(error));
+        return QStringLiteral("The file cannot be opened: %1.").arg(qt_error_string(error));
     }
 }
 
@@ -58,8 +53,9 @@ QString openRegularFile(const QByteArray& path, QFile& file)
     if (!known || !S_ISREG(status.st_mode) || status.st_size == 0) {
         close(descriptor);
         if (known && S_ISREG(status.st_mode))
-            return text("The file is empty.");
-        return text(S_ISDIR(status.st_mode) ? "It is a folder, not a picture." : "It is not a file with a picture.");
+            return QStringLiteral("The file is empty.");
+        return S_ISDIR(status.st_mode) ? QStringLiteral("It is a folder, not a picture.")
+                                       : QStringLiteral("It is not a file with a picture.");
     }
     if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         close(descriptor);
@@ -88,7 +84,7 @@ QString sizeRefusal(const QSize& size, int bytesPerPixel)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
     if (pixels > maxPhotoPixels)
-        return text("The picture is too large: %1 x %2 pixels. At most %3 megapixels can be opened.")
+        return QStringLiteral("The picture is too large: %1 x %2 pixels. At most %3 megapixels can be opened.")
             .arg(size.width())
             .arg(size.height())
             .arg(maxPhotoPixels / 1000000);
@@ -108,7 +104,8 @@ QString decodeByOwn(QImageIOHandler& handler, QImage& image)
         bytesPerPixel(QImage::Format(handler.option(QImageIOHandler::ImageFormat).toInt())));
     if (!refusal.isEmpty())
         return refusal;
-    return handler.read(&image) ? QString() : text("The picture is damaged or of a kind that cannot be read.");
+    return handler.read(&image) ? QString()
+                                : QStringLiteral("The picture is damaged or of a kind that cannot be read.");
 }
 
 QString decodeByPlatform(QIODevice& file, QImage& image)
@@ -120,14 +117,14 @@ QString decodeByPlatform(QIODevice& file, QImage& image)
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     if (!reader.canRead() || !isForPhotos(reader.format()))
-        return text("The file is not a picture of a kind that can be read.");
+        return QStringLiteral("The file is not a picture of a kind that can be read.");
     const QSize size = reader.size();
     if (size.isValid()) {
         const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()));
         if (!refusal.isEmpty())
             return refusal;
     }
-    return reader.read(&image) ? QString() : text("The picture is damaged and cannot be read.");
+    return reader.read(&image) ? QString() : QStringLiteral("The picture is damaged and cannot be read.");
 }
 
 /// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
@@ -142,7 +139,7 @@ QString decode(QIODevice& file, QImage& image)
         const QString reason = decodeByPlatform(png, image);
         if (!reason.isEmpty() || applyColourKey(image, *key))
             return reason;
-        return text("The picture is damaged or of a kind that cannot be read.");
+        return QStringLiteral("The picture is damaged or of a kind that cannot be read.");
     }
     file.seek(0);
     return decodeByPlatform(file, image);
@@ -157,7 +154,7 @@ LoadedPhoto load(const QByteArray& path)
     LoadedPhoto photo;
     const JpegMarkers markers = readJpegMarkers(file);
     if (markers.scans > maxJpegScans)
-        return refusal(text("The picture is damaged: it has too many parts."));
+        return refusal(QStringLiteral("The picture is damaged: it has too many parts."));
     photo.exif = markers.exif;
     file.seek(0);
     QImage image;
@@ -165,7 +162,7 @@ LoadedPhoto load(const QByteArray& path)
     if (!reason.isEmpty())
         return refusal(reason);
     photo.image = onWhiteInEitherOrder(inSRgb(std::move(image)));
-    return photo.image.isNull() ? refusal(text("There is not enough free memory for the picture.")) : photo;
+    return photo.image.isNull() ? refusal(QStringLiteral("There is not enough free memory for the picture.")) : photo;
 }
 
 } // namespace
@@ -175,6 +172,6 @@ LoadedPhoto loadPhoto(const QByteArray& path)
     try {
         return load(path);
     } catch (const std::bad_alloc&) {
-        return refusal(text("There is not enough free memory for the picture."));
+        return refusal(QStringLiteral("There is not enough free memory for the picture."));
     }
 }

@@ -4,7 +4,6 @@
 #include <QVariant>
 #include <QtEndian>
 #include <algorithm>
-#include <array>
 #include <optional>
 
 namespace {
@@ -45,8 +44,9 @@ std::optional<Header> parse(const QByteArray& bytes)
     const Header header = {b[0], b[1] == 1, kind == 1, kind == 3, (b[2] & 8) != 0, word(3), word(5), b[7], word(12),
         word(14), b[16], b[17] & 15, (b[17] & 16) != 0, (b[17] & 32) != 0};
     const bool mapFits = header.hasMap ? isColourDepth(header.mapBits) && header.mapLength > 0 : !header.mapped;
-    const bool depthFits
-        = header.mapped ? header.bits == 8 || header.bits == 16 : header.grey ? header.bits == 8 : isColourDepth(header.bits);
+    const bool depthFits = header.mapped ? header.bits == 8 || header.bits == 16
+        : header.grey                    ? header.bits == 8
+                                         : isColourDepth(header.bits);
     // The two highest bits once meant interleaved rows, which nobody wrote.
     if (!known || !mapFits || !depthFits || header.width == 0 || header.height == 0 || (b[17] & 192) != 0)
         return {};
@@ -100,7 +100,7 @@ public:
     Pixel at(int index) const
     {
         const qsizetype i = index - m_first;
-        return i >= 0 && i < m_colours.size() ? m_colours[i] : Pixel {0, 0, 0, 255};
+        return i >= 0 && i < m_colours.size() ? m_colours[i] : Pixel{0, 0, 0, 255};
     }
 
 private:
@@ -146,7 +146,7 @@ private:
     {
         if (m_header.mapped)
             return m_map.at(m_header.bits == 8 ? b[0] : qFromLittleEndian<quint16>(b));
-        return m_header.grey ? Pixel {b[0], b[0], b[0], 255} : colourAt(b, m_header.bits);
+        return m_header.grey ? Pixel{b[0], b[0], b[0], 255} : colourAt(b, m_header.bits);
     }
 
     const Header& m_header;

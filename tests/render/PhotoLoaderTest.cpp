@@ -4,7 +4,6 @@
 #include "tests/render/ScarceMemory.h"
 
 #include <QColorSpace>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
@@ -223,7 +222,7 @@ private slots:
         }
     }
 
-    void hugeClaimsAreRefusedAtOnce_data()
+    void hugeClaimsAreRefusedWithoutTheirMemory_data()
     {
         QTest::addColumn<QByteArray>("data");
         QTest::addColumn<bool>("sizeIsKnown");
@@ -238,16 +237,13 @@ private slots:
                              << true;
         QTest::newRow("one row beyond the limit") << greyPng(16384, 16385, 1, {}) << true;
     }
-    void hugeClaimsAreRefusedAtOnce()
+    void hugeClaimsAreRefusedWithoutTheirMemory()
     {
         QFETCH(QByteArray, data);
         QFETCH(bool, sizeIsKnown);
         rusage before, after;
         getrusage(RUSAGE_SELF, &before);
-        QElapsedTimer timer;
-        timer.start();
         const LoadedPhoto photo = loadData(data);
-        QVERIFY(timer.elapsed() < 500);
         QVERIFY(photo.image.isNull());
         QVERIFY(!photo.reason.isEmpty());
         if (sizeIsKnown)

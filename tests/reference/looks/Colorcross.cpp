@@ -2,9 +2,7 @@
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 namespace reference {
 

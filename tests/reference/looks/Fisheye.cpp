@@ -1,10 +1,8 @@
-#include "image/CharImage.h"
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 namespace reference {
 

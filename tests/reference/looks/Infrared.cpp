@@ -1,4 +1,3 @@
-#include "image/CharImage.h"
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 

@@ -2,10 +2,6 @@
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
-
 namespace reference {
 
 void lolo(Picture& picture)
