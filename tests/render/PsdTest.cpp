@@ -3,6 +3,7 @@
 #include <QColorSpace>
 #include <QtTest>
 #include <bit>
+#include <sys/resource.h>
 
 // Files that are written here byte by byte.
 
@@ -239,6 +240,31 @@ private slots:
         QVERIFY(open(file).reason.startsWith("The picture is too large: 60000 x 60000 pixels."));
         file.replace(14, 8, bigEndian(quint32(16000)) + bigEndian(quint32(16000)));
         QVERIFY(open(file).image.isNull());
+    }
+
+    void whatAFileHoldsBesidesThePictureTakesNoMemory_data()
+    {
+        QTest::addColumn<int>("place");
+        QTest::newRow("palette") << 26;
+        QTest::newRow("resources") << 30;
+    }
+    void whatAFileHoldsBesidesThePictureTakesNoMemory()
+    {
+        QFETCH(int, place);
+        // A picture of zeros behind 2 GB of them, which no disk has to hold.
+        constexpr qint64 claimed = qint64(2) << 30;
+        QByteArray head = psd({rgb, 8, 3}, ramps).first(26) + QByteArray(8, '\0');
+        head.replace(place, 4, bigEndian(quint32(claimed)));
+        QFile file(folder.filePath("long.psd"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(head) == head.size());
+        QVERIFY(file.resize(head.size() + claimed + 4 + 2 + 3 * width * height));
+        file.close();
+        rusage before, after;
+        getrusage(RUSAGE_SELF, &before);
+        const LoadedPhoto photo = loadPhoto(QFile::encodeName(file.fileName()));
+        getrusage(RUSAGE_SELF, &after);
+        QCOMPARE(photo.image.size(), QSize(width, height));
+        QVERIFY(after.ru_maxrss - before.ru_maxrss < 50 * 1024);
     }
 };
 
