@@ -35,13 +35,14 @@ void maskDisc(CharImage& image, float radius)
 void CharImage::addBorder(int left, int right, int top, int bottom, float red, float green, float blue)
 {
     const int newWidth = left + width + right, newHeight = top + height + bottom;
-    const std::size_t newRow = std::size_t(newWidth) * bytesPerPixel, row = std::size_t(width) * bytesPerPixel;
+    const std::size_t newRow = std::size_t(newWidth) * 4, row = std::size_t(width) * 4;
     CharImage framed(new unsigned char[newRow * newHeight], newWidth, newHeight);
     const unsigned char colour[3] = {truncateAndWrap(red), truncateAndWrap(green), truncateAndWrap(blue)};
     framed.fillBorder(left, right, top, bottom, colour);
     for (int y = 0; y < height; y++)
-        std::memcpy(framed.data + (top + y) * newRow + std::size_t(left) * bytesPerPixel, data + y * row, row);
+        std::memcpy(framed.data + (top + y) * newRow + std::size_t(left) * 4, data + y * row, row);
     std::swap(data, framed.data);
+    bytesPerPixel = framed.bytesPerPixel;
     width = newWidth;
     height = newHeight;
 }

@@ -162,6 +162,8 @@ void blurInWholeNumbers(CharImage& image, const BlurKernel& kernel)
 
 void CharImage::makeBlurry(int size, float exponent)
 {
+    if (pixelCount() == 0)
+        return;
     GrowArray<float> weights;
     fillKernel(weights, size, exponent, true);
     const BlurKernel kernel(weights);

@@ -69,6 +69,22 @@ TEST(FilterCatalogue, OnlyPrintsForNumbersWithoutAnEffect)
     }
 }
 
+TEST(FilterCatalogue, AppliesEveryLookToPicturesWithoutPixels)
+{
+    const GrowArray<int> looks = CharImage::getLooks();
+    for (int i = 0; i < looks.numThings; i++)
+        for (const auto& [width, height] : {std::pair(0, 0), {0, 5}, {5, 0}}) {
+            CharImage image;
+            image.width = width;
+            image.height = height;
+            testing::internal::CaptureStdout();
+            image.applyFilter(looks.theArray[i]);
+            testing::internal::GetCapturedStdout();
+            EXPECT_EQ(image.data, nullptr);
+            EXPECT_TRUE(image.width == width && image.height == height);
+        }
+}
+
 TEST_F(CustomLists, DoNothingWhenEmpty)
 {
     const Picture picture = randomPicture(9, 7, 4);

@@ -20,9 +20,14 @@ TEST(Colorcross, KeepsTheMiddleForEveryExponent)
         std::srand(seed);
         CharImage::renewRandomNumbers();
         const auto image = imageOf(flatPicture(1, 1, 128, 128, 128));
-        image->applyFilter(0);
-        for (int k = 0; k < 3; k++)
+        const auto black = imageOf(flatPicture(1, 1, 0, 0, 0)), white = imageOf(flatPicture(1, 1, 255, 255, 255));
+        for (CharImage* each : {image.get(), black.get(), white.get()})
+            each->applyFilter(0);
+        for (int k = 0; k < 3; k++) {
             EXPECT_NEAR(image->data[k], 128, 2);
+            EXPECT_EQ(black->data[k], 20);
+            EXPECT_EQ(white->data[k], 250);
+        }
     }
 }
 
@@ -31,6 +36,17 @@ TEST(Colorcross, PrintsItsPowers)
     testing::internal::CaptureStdout();
     underLook(0, {1, 2, 3});
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "powers 2.839540 2.758001 0.683486\n");
+}
+
+TEST(Colorcross, PrintsPowersThatItSetApart)
+{
+    // Three times 0.6, of which one is set apart: 0 modulo 3 is red.
+    CharImage::useRandom = 1;
+    std::fill(std::begin(CharImage::random), std::end(CharImage::random), 0.0f);
+    const auto image = imageOf(flatPicture(1, 1, 1, 2, 3));
+    testing::internal::CaptureStdout();
+    image->applyFilter(0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "powers 0.960000 0.600000 0.600000\n");
 }
 
 TEST(Colorcross, IsALookupPerChannel)

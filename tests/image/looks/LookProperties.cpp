@@ -1,6 +1,9 @@
 #include "tests/image/looks/LookProperties.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
+#include <string>
 
 namespace {
 
@@ -15,27 +18,40 @@ void setColour(Picture& picture, int i, ByteColour c)
         picture.at(i, 0)[k] = static_cast<unsigned char>(c[k]);
 }
 
+/// Under the variation as it is set.
+void expectLookMatchesTwinOn(
+    const NamedPicture& sample, int filter, void (*twin)(Picture&), const std::string& variation)
+{
+    constexpr unsigned seed = 100; // of what a look draws for itself
+    Picture expected = sample.picture;
+    std::srand(seed);
+    twin(expected);
+    const auto image = imageOf(sample.picture);
+    std::srand(seed);
+    testing::internal::CaptureStdout();
+    image->applyFilter(filter);
+    testing::internal::GetCapturedStdout();
+    expectSame(*image, expected, sample.name + ", " + variation);
+}
+
 } // namespace
 
 void expectLookMatchesTwin(int filter, void (*twin)(Picture&))
 {
-    for (const NamedPicture& sample : samplePictures())
+    for (const NamedPicture& sample : samplePictures()) {
         for (unsigned seed = 0; seed < 4; seed++) {
             CharImage::useRandom = seed > 0;
             std::srand(seed);
             CharImage::renewRandomNumbers();
-            Picture expected = sample.picture;
-            std::srand(seed + 100); // what a look draws for itself
-            twin(expected);
-            const auto image = imageOf(sample.picture);
-            std::srand(seed + 100);
-            testing::internal::CaptureStdout();
-            image->applyFilter(filter);
-            testing::internal::GetCapturedStdout();
-            expectSame(*image, expected, sample.name + ", seed " + std::to_string(seed));
-            if (testing::Test::HasFatalFailure())
-                return;
+            expectLookMatchesTwinOn(sample, filter, twin, "seed " + std::to_string(seed));
         }
+        for (const float value : {0.0f, 0.1f, 0.999999f}) {
+            std::fill(std::begin(CharImage::random), std::end(CharImage::random), value);
+            expectLookMatchesTwinOn(sample, filter, twin, "random numbers " + std::to_string(value));
+        }
+        if (testing::Test::HasFatalFailure())
+            return;
+    }
 }
 
 Picture sampledPicture(ByteColour dark, ByteColour bright)

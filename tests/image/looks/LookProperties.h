@@ -10,7 +10,8 @@
 
 using ByteColour = std::array<int, 3>;
 
-/// Holds a look to its literal twin on every sample picture, fixed and varied by several seeds.
+/// Holds a look to its literal twin on every sample picture, fixed, varied by several seeds, and with random
+/// numbers that are all the same: the least, the most, and exponents that are too alike.
 void expectLookMatchesTwin(int filter, void (*twin)(Picture&));
 
 /// A line of 400 pixels of which only every tenth is sampled by the levels: half of those are `dark`, half `bright`.
