@@ -126,6 +126,13 @@ class Lumora:
         self.fill_file_dialog(path)
         wait_for(f"the file {path}", lambda: os.path.exists(path))
 
+    def read_sheet(self, text):
+        """Reads the sheet that says so, and presses its OK."""
+        sheet = wait_for("a sheet", self.dialog)
+        wait_for(f'"{text}" on the sheet', lambda: find(sheet, text, (pyatspi.ROLE_LABEL,)))
+        click(wait_for("its OK", lambda: find(sheet, "OK", BUTTONS)))
+        wait_for("the sheet to go", lambda: self.dialog() is None)
+
     def quit(self):
         key("ctrl+q")
         self.process.wait(deadline)
