@@ -179,6 +179,13 @@ void MainWindowController::paintEvent(QPaintEvent* event)
 
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
 {
+    // Digits that are typed at a pop-up choose among its items, not among the looks.
+    if (event->type() == QEvent::ShortcutOverride && qobject_cast<QComboBox*>(watched)) {
+        const auto* press = static_cast<QKeyEvent*>(event);
+        event->setAccepted(
+            press->modifiers() == Qt::NoModifier && press->key() >= Qt::Key_0 && press->key() <= Qt::Key_9);
+        return event->isAccepted();
+    }
     if (event->type() != QEvent::FileOpen)
         return QMainWindow::eventFilter(watched, event);
     loadImageFromFile(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
