@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Without a press of it.
+/// Without acting on it as on a press.
 void showSwitch(QAbstractButton& button, bool on)
 {
     const QSignalBlocker shownOnly(button);
@@ -119,7 +119,7 @@ void MainWindowController::multiFilterToggled()
 {
     const Work work(*this);
     if (!work)
-        return showSwitch(*ui->chkMultiFilter, doMultiFiltering);
+        return showSwitch(*ui->chkMultiFilter, !ui->chkMultiFilter->isChecked());
     doMultiFiltering = ui->chkMultiFilter->isChecked();
     if (!doMultiFiltering) {
         // Only the look that was added last stays.
@@ -134,7 +134,7 @@ void MainWindowController::useRandomToggled()
 {
     const Work work(*this);
     if (!work)
-        return showSwitch(*ui->chkRandomness, CharImage::useRandom != 0);
+        return showSwitch(*ui->chkRandomness, !ui->chkRandomness->isChecked());
     CharImage::useRandom = ui->chkRandomness->isChecked() ? 1 : 0;
     settingChanged();
     updateThumbnailImages();

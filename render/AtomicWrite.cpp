@@ -79,7 +79,7 @@ public:
     /// its group cannot be kept, the new one may no more than everybody.
     void takePermissions(const struct stat& replaced)
     {
-        mode_t permissions = replaced.st_mode & 0777;
+        mode_t permissions = replaced.st_mode & 07777;
         if (fchown(m_descriptor, replaced.st_uid, replaced.st_gid) != 0
             && fchown(m_descriptor, uid_t(-1), replaced.st_gid) != 0)
             permissions = (permissions & 0707) | (permissions & 07) << 3;

@@ -143,7 +143,8 @@ public:
     Trial(const Trial&) = delete;
     Trial& operator=(const Trial&) = delete;
 
-    /// Works the recipe into the bytes of a block and closes it. Pixels of it may wait for finish().
+    /// Works the recipe into the bytes of a block, whose planes stay as they were, and closes it. Pixels of it may wait
+    /// for finish().
     void work(Block& block, const Weights& weights)
     {
         Planes trial;

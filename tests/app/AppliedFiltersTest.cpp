@@ -126,8 +126,11 @@ private slots:
     void withoutAPhotoOnlyTheListChanges()
     {
         Desk desk;
-        for (const char* button : {"btnHelga", "chkMultiFilter", "btnMono", "chkMultiFilter", "btnOriginal",
-                 "chkRandomness", "btnReExpose", "btnHelga"})
+        desk.click("btnHelga");
+        QCOMPARE(desk.looks(), (Looks{helga}));
+        QCOMPARE(desk.breadcrumb(), QString("Original"));
+        for (const char* button :
+            {"chkMultiFilter", "btnMono", "chkMultiFilter", "btnOriginal", "chkRandomness", "btnReExpose", "btnHelga"})
             desk.click(button);
         desk.choose("btnBorders", "Thin");
         desk.choose("btnCropping", "Square");

@@ -142,20 +142,26 @@ void Desk::saveAs(const QString& name)
     withPanel([&](QFileDialog& panel) { typeName(panel, name); }, [this] { click("btnSave"); });
 }
 
+QMessageBox* Desk::visibleSheet()
+{
+    for (auto* box : window.findChildren<QMessageBox*>())
+        if (box->isVisible())
+            return box;
+    return nullptr;
+}
+
 QStringList Desk::sheet()
 {
-    for (const auto* box : window.findChildren<QMessageBox*>())
-        if (box->isVisible())
-            return {box->text(), box->informativeText()};
-    return {};
+    const QMessageBox* box = visibleSheet();
+    return box ? QStringList({box->text(), box->informativeText()}) : QStringList();
 }
 
 bool Desk::closeSheet()
 {
-    for (auto* box : window.findChildren<QMessageBox*>())
-        if (box->isVisible())
-            return box->close();
-    return false;
+    QMessageBox* box = visibleSheet();
+    if (box)
+        QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+    return box;
 }
 
 void typeName(QFileDialog& panel, const QString& name)

@@ -11,6 +11,8 @@
 #include <functional>
 #include <vector>
 
+class QMessageBox;
+
 // What the tests of the window share: a desk with a home folder of its own, photos to work on, and hands.
 
 /// The folder that stands for the user's configuration; the program of a test has one of its own.
@@ -59,8 +61,11 @@ public:
     void saveAs(const QString& name);
     /// The texts of the sheet that is shown, title and message; empty without one.
     QStringList sheet();
-    /// False without one.
+    /// By its OK; false without one.
     bool closeSheet();
+
+private:
+    QMessageBox* visibleSheet();
 };
 
 /// Types a name into a panel and confirms it.

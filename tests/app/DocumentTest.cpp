@@ -141,9 +141,8 @@ private slots:
             desk.click(button);
             QCOMPARE(desk.sheet(),
                 QStringList({title, "There is not enough free memory for a picture of 10000 x 10000 pixels."}));
-            auto* sheet = desk.window.findChild<QMessageBox*>();
-            QVERIFY(sheet->isModal());
-            QTest::mouseClick(sheet->button(QMessageBox::Ok), Qt::LeftButton);
+            QVERIFY(desk.window.findChild<QMessageBox*>()->isModal());
+            QVERIFY(desk.closeSheet());
             QTRY_VERIFY(!desk.window.findChild<QMessageBox*>());
             QCOMPARE(desk.window.getoriginalImage().cacheKey(), photo);
             QCOMPARE(desk.looks(), (std::vector<int>{5}));
@@ -162,7 +161,7 @@ private slots:
             QCOMPARE(desk.sheet(),
                 QStringList({"The preview cannot be shown.",
                     "There is not enough free memory for a picture of 4000 x 4000 pixels."}));
-            QTest::mouseClick(desk.window.findChild<QMessageBox*>()->button(QMessageBox::Ok), Qt::LeftButton);
+            QVERIFY(desk.closeSheet());
         }
         desk.click("btnMono");
         QCOMPARE(desk.looks(), std::vector<int>());
@@ -189,6 +188,18 @@ private slots:
         QCOMPARE(desk.window.getoriginalImage().width(), 2600); // never turned
         QVERIFY(!desk.find<QCheckBox>("chkMultiFilter")->isChecked() && !desk.window.doMultiFiltering);
         QVERIFY(!desk.find<QCheckBox>("chkRandomness")->isChecked() && CharImage::useRandom == 0);
+    }
+
+    void aSwitchPressedDuringTheFirstWorkStaysAsItWasSaved()
+    {
+        setPreferences("[General]\nPrefsVersion=2\nUseMultiFilter=true\n");
+        Desk desk;
+        Watch watch(desk.window, *desk.find<QProgressBar>("progressBar"));
+        const QByteArray path = writePhoto(desk.folder, "long.png", makePhoto(60, 40));
+        QVERIFY(QFile::resize(QFile::decodeName(path), 3000000)); // of which only the beginning is the picture
+        QVERIFY(desk.window.loadImageFromFile(path));
+        QCOMPARE(watch.steps.first(), QString("Decode")); // before any option was read
+        QVERIFY(desk.find<QCheckBox>("chkMultiFilter")->isChecked() && desk.window.doMultiFiltering);
     }
 
     void aWindowThatIsClosedDuringWorkFinishesItFirst()

@@ -18,6 +18,17 @@ private slots:
         QCOMPARE(desk.window.getoriginalImage().cacheKey(), photo);
         QCOMPARE(desk.find<DragDropImageView>("mainImageView")->image().cacheKey(), preview);
     }
+
+    void aPictureThatCannotBeEnlargedIsNotSaved()
+    {
+        Desk desk(makePhoto(60, 60));
+        desk.choose("btnImgSize", "1600");
+        const ScarceMemory memory(6 << 20);
+        desk.click("btnSave");
+        QCOMPARE(desk.sheet(),
+            QStringList({"The photo cannot be saved.",
+                "There is not enough free memory for a picture of 1600 x 1600 pixels."}));
+    }
 };
 
 DESK_MAIN(OutOfMemoryTest)

@@ -138,7 +138,7 @@ private slots:
         QCOMPARE(desk.sheet(), QStringList());
 
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("gone/out.jpg: The folder does not exist"));
-        desk.saveAs(desk.folder.filePath("gone/out.jpg"));
+        QVERIFY(printedBy([&] { desk.saveAs(desk.folder.filePath("gone/out.jpg")); }).contains("\ndidn't work!\n"));
     }
 
     void theOpenPhotosOwnFileCanBeReplacedAndOpenedAgain()

@@ -101,8 +101,9 @@ private slots:
 
     void displayResFollowsTheFrame()
     {
-        // The frame comes round the window when it is shown.
         MainWindowController fresh;
+        QCOMPARE(fresh.displayRes, displayResAtLoad(qMax(fresh.width(), fresh.height())));
+        // The frame comes round the window when it is shown.
         fresh.resize(1000, 700);
         fresh.displayRes = 1000;
         fresh.show();

@@ -44,6 +44,15 @@ TEST(Border, GrowsTheCanvas)
     expectColour(*image, 4, 5, 9);
 }
 
+TEST(Border, MakesAPictureWhereThereWasNone)
+{
+    CharImage image;
+    image.addBorder(2, 3, 1, 2, 10, 20, 30);
+    EXPECT_TRUE(image.width == 5 && image.height == 3 && image.bytesPerPixel == 4);
+    for (int i = 0; i < 15; i++)
+        EXPECT_TRUE(image.data[4 * i] == 10 && image.data[4 * i + 1] == 20 && image.data[4 * i + 2] == 30);
+}
+
 TEST(Border, DrawsCinemaBarsWithoutAnOutline)
 {
     const auto image = imageOf(flatPicture(20, 400, 90, 90, 90));
