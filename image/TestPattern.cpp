@@ -1,5 +1,5 @@
 #include "image/CharImage.h"
-#include "image/toolkit/Arithmetic.h"
+#include "image/numbers/Arithmetic.h"
 
 #include <cstring>
 

@@ -1,7 +1,7 @@
 #include "image/CharImage.h"
-#include "image/toolkit/Arithmetic.h"
-#include "image/toolkit/Block.h"
-#include "image/toolkit/Disc.h"
+#include "image/numbers/Arithmetic.h"
+#include "image/numbers/Disc.h"
+#include "image/passes/Block.h"
 #include "image/toolkit/Vignette.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "image/CharImage.h"
-#include "image/toolkit/Arithmetic.h"
-#include "image/toolkit/Disc.h"
+#include "image/numbers/Arithmetic.h"
+#include "image/numbers/Disc.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "image/toolkit/PixelPass.h"
+#include "image/passes/PixelPass.h"
 
 namespace {
 

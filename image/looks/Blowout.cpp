@@ -1,5 +1,5 @@
-#include "image/toolkit/Hues.h"
-#include "image/toolkit/PixelPass.h"
+#include "image/numbers/Hues.h"
+#include "image/passes/PixelPass.h"
 
 /// Over-exposure: light parts are pushed towards white much harder than dark ones.
 void CharImage::applyBlowoutFilter()

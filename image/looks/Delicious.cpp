@@ -1,7 +1,7 @@
 #include "image/looks/Delicious.h"
 
+#include "image/passes/PixelPass.h"
 #include "image/toolkit/MapRows.h"
-#include "image/toolkit/PixelPass.h"
 
 #include <algorithm>
 

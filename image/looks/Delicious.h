@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/toolkit/Hues.h"
+#include "image/numbers/Hues.h"
 
 /// The squared S-curve, twice as steep in the middle, of a byte: 255 times what it becomes, which is a whole number.
 inline float steepened(float v)

@@ -1,6 +1,6 @@
-#include "image/toolkit/Block.h"
-#include "image/toolkit/DelayedRows.h"
-#include "image/toolkit/Disc.h"
+#include "image/numbers/Disc.h"
+#include "image/passes/Block.h"
+#include "image/passes/DelayedRows.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,9 +1,9 @@
 #include "image/looks/Helga.h"
 
-#include "image/toolkit/Disc.h"
-#include "image/toolkit/Hues.h"
-#include "image/toolkit/RadialPass.h"
-#include "image/toolkit/Variation.h"
+#include "image/looks/Variation.h"
+#include "image/numbers/Disc.h"
+#include "image/numbers/Hues.h"
+#include "image/passes/RadialPass.h"
 
 HelgaParameters HelgaParameters::fixed()
 {

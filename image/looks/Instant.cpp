@@ -1,8 +1,8 @@
 #include "image/looks/Instant.h"
 
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Power.h"
-#include "image/toolkit/Variation.h"
+#include "image/looks/Variation.h"
+#include "image/numbers/Power.h"
+#include "image/passes/PixelPass.h"
 
 InstantParameters InstantParameters::fixed()
 {

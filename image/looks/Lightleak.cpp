@@ -1,4 +1,4 @@
-#include "image/toolkit/RadialPass.h"
+#include "image/passes/RadialPass.h"
 
 #include <cstdlib>
 

@@ -1,7 +1,7 @@
 #include "image/looks/Lolo.h"
 
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Variation.h"
+#include "image/looks/Variation.h"
+#include "image/passes/PixelPass.h"
 
 LoloParameters LoloParameters::fixed()
 {

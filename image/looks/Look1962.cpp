@@ -1,7 +1,7 @@
 #include "image/looks/Look1962.h"
 
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Variation.h"
+#include "image/looks/Variation.h"
+#include "image/passes/PixelPass.h"
 
 Look1962Parameters Look1962Parameters::fixed()
 {

@@ -1,7 +1,7 @@
 #include "image/looks/Look1974.h"
 
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Variation.h"
+#include "image/looks/Variation.h"
+#include "image/passes/PixelPass.h"
 
 Look1974Parameters Look1974Parameters::fixed()
 {

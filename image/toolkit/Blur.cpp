@@ -1,5 +1,5 @@
 #include "image/CharImage.h"
-#include "image/toolkit/Arithmetic.h"
+#include "image/numbers/Arithmetic.h"
 #include "image/toolkit/BlurKernel.h"
 #include "image/toolkit/BlurRows.h"
 #include "image/toolkit/Kernel.h"

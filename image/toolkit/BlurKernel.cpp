@@ -1,6 +1,6 @@
 #include "image/toolkit/BlurKernel.h"
 
-#include "image/toolkit/Arithmetic.h"
+#include "image/numbers/Arithmetic.h"
 
 #include <algorithm>
 #include <cstdlib>

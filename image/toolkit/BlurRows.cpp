@@ -1,7 +1,7 @@
 #include "image/toolkit/BlurRows.h"
 
 #include "image/CharImage.h"
-#include "image/toolkit/Block.h"
+#include "image/passes/Block.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "image/toolkit/ColorSpace.h"
 
-#include "image/toolkit/Hues.h"
+#include "image/numbers/Hues.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/GrowArray.h"
-#include "image/toolkit/Block.h"
+#include "image/passes/Block.h"
 
 #include <algorithm>
 #include <vector>

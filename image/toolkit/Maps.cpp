@@ -1,6 +1,6 @@
 #include "image/CharImage.h"
+#include "image/passes/PixelPass.h"
 #include "image/toolkit/MapRows.h"
-#include "image/toolkit/PixelPass.h"
 
 #include <algorithm>
 

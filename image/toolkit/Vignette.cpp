@@ -1,8 +1,8 @@
 #include "image/toolkit/Vignette.h"
 
 #include "image/CharImage.h"
-#include "image/toolkit/Disc.h"
-#include "image/toolkit/RadialPass.h"
+#include "image/numbers/Disc.h"
+#include "image/passes/RadialPass.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/toolkit/ErrorBound.h"
+#include "image/numbers/ErrorBound.h"
 
 /// Raises `count` values, a multiple of 8 and at most a block of them, to `exponent`: each result is exactly what
 /// std::pow(value, exponent) gives.

@@ -1,6 +1,6 @@
-#include "image/toolkit/Power.h"
+#include "image/numbers/Power.h"
 
-#include "image/toolkit/Block.h"
+#include "image/passes/Block.h"
 
 #include <algorithm>
 #include <bit>

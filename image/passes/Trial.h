@@ -1,9 +1,9 @@
 #pragma once
 
-#include "image/toolkit/Block.h"
-#include "image/toolkit/ErrorBound.h"
-#include "image/toolkit/Recipe.h"
-#include "image/toolkit/Single.h"
+#include "image/numbers/ErrorBound.h"
+#include "image/numbers/Single.h"
+#include "image/passes/Block.h"
+#include "image/passes/Recipe.h"
 
 #include <algorithm>
 

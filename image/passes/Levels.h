@@ -1,7 +1,7 @@
 #pragma once
 
 #include "image/CharImage.h"
-#include "image/toolkit/Arithmetic.h"
+#include "image/numbers/Arithmetic.h"
 
 /// The levels stretch of fillHistogram for one picture: what a channel's whole value 0 .. 255 becomes, a whole value
 /// too. A pass that takes it on the way in saves a pass of its own over the picture.

@@ -1,4 +1,4 @@
-#include "image/toolkit/Levels.h"
+#include "image/passes/Levels.h"
 #include "image/CharImage.h"
 #include "tests/reference/Toolkit.h"
 

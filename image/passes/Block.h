@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/toolkit/Arithmetic.h"
+#include "image/numbers/Arithmetic.h"
 
 #include <bit>
 #include <cstddef>

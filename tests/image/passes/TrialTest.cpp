@@ -1,6 +1,6 @@
-#include "image/toolkit/Hues.h"
-#include "image/toolkit/Levels.h"
-#include "image/toolkit/RadialPass.h"
+#include "image/numbers/Hues.h"
+#include "image/passes/Levels.h"
+#include "image/passes/RadialPass.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,6 +1,6 @@
-#include "image/toolkit/Levels.h"
+#include "image/passes/Levels.h"
 
-#include "image/toolkit/PixelPass.h"
+#include "image/passes/PixelPass.h"
 
 #include <cstring>
 

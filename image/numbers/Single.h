@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/toolkit/Arithmetic.h"
+#include "image/numbers/Arithmetic.h"
 
 /// A channel or a share while a recipe is tried: every step is made in single precision, also those that the recipe
 /// itself makes in double. Vector code does twice as many of them at once.

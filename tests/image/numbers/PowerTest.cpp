@@ -1,5 +1,5 @@
-#include "image/toolkit/Power.h"
-#include "image/toolkit/Block.h"
+#include "image/numbers/Power.h"
+#include "image/passes/Block.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,4 +1,4 @@
-#include "image/toolkit/DelayedRows.h"
+#include "image/passes/DelayedRows.h"
 #include "tests/reference/Picture.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "image/toolkit/Block.h"
-#include "image/toolkit/ErrorBound.h"
+#include "image/numbers/ErrorBound.h"
+#include "image/passes/Block.h"
 
 #include <algorithm>
 #include <memory>

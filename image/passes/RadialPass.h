@@ -1,7 +1,7 @@
 #pragma once
 
-#include "image/toolkit/PixelPass.h"
-#include "image/toolkit/Power.h"
+#include "image/numbers/Power.h"
+#include "image/passes/PixelPass.h"
 
 #include <cstdlib>
 #include <numeric>

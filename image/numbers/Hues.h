@@ -1,7 +1,7 @@
 #pragma once
 
-#include "image/toolkit/ErrorBound.h"
-#include "image/toolkit/Single.h"
+#include "image/numbers/ErrorBound.h"
+#include "image/numbers/Single.h"
 
 // The colour-space conversions of ColorSpace.h for use inside a pixel function: values chosen, not branched on.
 // Quotients of zero are formed and then passed over.

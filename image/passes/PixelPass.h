@@ -1,11 +1,11 @@
 #pragma once
 
 #include "image/CharImage.h"
-#include "image/toolkit/Block.h"
-#include "image/toolkit/Levels.h"
-#include "image/toolkit/Recipe.h"
-#include "image/toolkit/ToneTable.h"
-#include "image/toolkit/Trial.h"
+#include "image/passes/Block.h"
+#include "image/passes/Levels.h"
+#include "image/passes/Recipe.h"
+#include "image/passes/ToneTable.h"
+#include "image/passes/Trial.h"
 
 #include <algorithm>
 #include <limits>

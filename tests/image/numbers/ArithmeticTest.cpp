@@ -1,6 +1,6 @@
-#include "image/toolkit/Arithmetic.h"
+#include "image/numbers/Arithmetic.h"
 
-#include "image/toolkit/ToneTable.h"
+#include "image/passes/ToneTable.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "image/CharImage.h"
-#include "image/toolkit/Block.h"
+#include "image/passes/Block.h"
 
 #include <vector>
 
