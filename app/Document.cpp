@@ -1,8 +1,8 @@
 #include "app/MainWindowController.h"
 #include "app/Rules.h"
-#include "render/FreeMemory.h"
-#include "render/PhotoLoader.h"
-#include "render/PhotoSaver.h"
+#include "photo/FreeMemory.h"
+#include "photo/PhotoLoader.h"
+#include "photo/PhotoSaver.h"
 #include "render/Scaled.h"
 #include "ui_MainWindow.h"
 

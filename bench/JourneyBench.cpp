@@ -8,8 +8,8 @@
 #include "bench/Photo.h"
 #include "bench/Start.h"
 #include "image/CharImage.h"
-#include "render/PhotoLoader.h"
-#include "render/PhotoSaver.h"
+#include "photo/PhotoLoader.h"
+#include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 // The loader on a file of any bytes: build/fuzz/fuzz/LoaderFuzz -max_total_time=600 FOLDER
 // build/fuzz/fuzz/seeds/LoaderFuzz
 
-#include "render/PhotoLoader.h"
-#include "render/PhotoSaver.h"
+#include "photo/PhotoLoader.h"
+#include "photo/PhotoSaver.h"
 
 #include <QCoreApplication>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // The PSD reader on any bytes: build/fuzz/fuzz/PsdFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/PsdFuzz
 
 #include "fuzz/ReaderFuzz.h"
-#include "render/formats/PsdHandler.h"
+#include "photo/formats/PsdHandler.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

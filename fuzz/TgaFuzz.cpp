@@ -1,7 +1,7 @@
 // The TGA reader on any bytes: build/fuzz/fuzz/TgaFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/TgaFuzz
 
 #include "fuzz/ReaderFuzz.h"
-#include "render/formats/TgaHandler.h"
+#include "photo/formats/TgaHandler.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

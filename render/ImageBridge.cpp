@@ -3,8 +3,8 @@
 #include "image/CharImage.h"
 #include "image/framing/BestFit.h"
 #include "image/framing/Resample.h"
+#include "photo/OnWhite.h"
 #include "render/LargePages.h"
-#include "render/OnWhite.h"
 
 #include <QTransform>
 #include <QtEndian>

@@ -1,9 +1,9 @@
 #include "render/RenderPipeline.h"
 
 #include "image/CharImage.h"
-#include "render/FreeMemory.h"
+#include "photo/FreeMemory.h"
+#include "photo/PhotoLoader.h"
 #include "render/ImageBridge.h"
-#include "render/PhotoLoader.h"
 
 #include <QColorSpace>
 #include <memory>

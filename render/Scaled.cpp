@@ -1,7 +1,7 @@
 #include "render/Scaled.h"
 
 #include "image/framing/Resample.h"
-#include "render/OnWhite.h"
+#include "photo/OnWhite.h"
 
 #include <QColorSpace>
 #include <utility>

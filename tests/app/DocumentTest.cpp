@@ -1,7 +1,7 @@
 #include "image/CharImage.h"
 #include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
-#include "tests/render/ScarceMemory.h"
+#include "tests/photo/ScarceMemory.h"
 
 #include <QCheckBox>
 #include <QColorSpace>

@@ -1,5 +1,5 @@
 #include "tests/app/Desk.h"
-#include "tests/render/ScarceMemory.h"
+#include "tests/photo/ScarceMemory.h"
 
 class OutOfMemoryTest : public QObject {
     Q_OBJECT

@@ -1,4 +1,4 @@
-#include "render/PhotoSaver.h"
+#include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
 

@@ -6,8 +6,8 @@
 // tells the file's width and height.
 
 #include "image/CharImage.h"
-#include "render/PhotoLoader.h"
-#include "render/PhotoSaver.h"
+#include "photo/PhotoLoader.h"
+#include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
 
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "render/ImageBridge.h"
 #include "image/CharImage.h"
-#include "tests/render/Samples.h"
+#include "tests/photo/Samples.h"
 
 #include <QTest>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "render/RenderPipeline.h"
-#include "tests/render/Samples.h"
-#include "tests/render/ScarceMemory.h"
+#include "tests/photo/Samples.h"
+#include "tests/photo/ScarceMemory.h"
 
 #include <QTest>
 #include <memory>

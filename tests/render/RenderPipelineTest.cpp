@@ -1,8 +1,8 @@
 #include "render/RenderPipeline.h"
 #include "image/CharImage.h"
 #include "render/ImageBridge.h"
-#include "tests/render/Samples.h"
-#include "tests/render/ScarceMemory.h"
+#include "tests/photo/Samples.h"
+#include "tests/photo/ScarceMemory.h"
 
 #include <QStringList>
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "render/Scaled.h"
-#include "tests/render/Samples.h"
+#include "tests/photo/Samples.h"
 
 #include <QColorSpace>
 #include <QTest>

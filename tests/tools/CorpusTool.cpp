@@ -4,7 +4,7 @@
 //
 // SECONDS (10) and MEBIBYTES (2048) limit each file. The exit status is 0 when no file crashed or passed a limit.
 
-#include "render/PhotoLoader.h"
+#include "photo/PhotoLoader.h"
 
 #include <QCoreApplication>
 #include <algorithm>

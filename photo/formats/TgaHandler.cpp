@@ -1,4 +1,4 @@
-#include "render/formats/TgaHandler.h"
+#include "photo/formats/TgaHandler.h"
 
 #include <QImage>
 #include <QVariant>

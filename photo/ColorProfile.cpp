@@ -1,6 +1,6 @@
-#include "render/ColorProfile.h"
+#include "photo/ColorProfile.h"
 
-#include "render/IccProfile.h"
+#include "photo/IccProfile.h"
 
 #include <QColorSpace>
 #include <cmath>

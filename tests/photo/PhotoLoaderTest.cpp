@@ -1,7 +1,7 @@
-#include "render/PhotoLoader.h"
-#include "render/FreeMemory.h"
-#include "tests/render/Samples.h"
-#include "tests/render/ScarceMemory.h"
+#include "photo/PhotoLoader.h"
+#include "photo/FreeMemory.h"
+#include "tests/photo/Samples.h"
+#include "tests/photo/ScarceMemory.h"
 
 #include <QColorSpace>
 #include <QTemporaryDir>

@@ -1,12 +1,12 @@
-#include "render/PhotoLoader.h"
+#include "photo/PhotoLoader.h"
 
-#include "render/ColorProfile.h"
-#include "render/FreeMemory.h"
-#include "render/JpegMarkers.h"
-#include "render/OnWhite.h"
-#include "render/formats/PngColourKey.h"
-#include "render/formats/PsdHandler.h"
-#include "render/formats/TgaHandler.h"
+#include "photo/ColorProfile.h"
+#include "photo/FreeMemory.h"
+#include "photo/JpegMarkers.h"
+#include "photo/OnWhite.h"
+#include "photo/formats/PngColourKey.h"
+#include "photo/formats/PsdHandler.h"
+#include "photo/formats/TgaHandler.h"
 
 #include <QFile>
 #include <QImageIOHandler>

@@ -1,6 +1,6 @@
-#include "render/formats/PsdHandler.h"
+#include "photo/formats/PsdHandler.h"
 
-#include "render/IccProfile.h"
+#include "photo/IccProfile.h"
 
 #include <QColorSpace>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "render/IccProfile.h"
+#include "photo/IccProfile.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "tests/render/Samples.h"
+#include "tests/photo/Samples.h"
 
 #include <QtTest>
 

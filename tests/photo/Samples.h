@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/PhotoLoader.h"
+#include "photo/PhotoLoader.h"
 
 #include <QByteArray>
 #include <QColor>

@@ -1,4 +1,4 @@
-#include "render/KeptExif.h"
+#include "photo/KeptExif.h"
 
 #include <cstdint>
 #include <exception>

@@ -1,6 +1,6 @@
-#include "render/PhotoSaver.h"
-#include "render/PhotoLoader.h"
-#include "tests/render/Samples.h"
+#include "photo/PhotoSaver.h"
+#include "photo/PhotoLoader.h"
+#include "tests/photo/Samples.h"
 
 #include <QBuffer>
 #include <QColorSpace>

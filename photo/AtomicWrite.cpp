@@ -1,4 +1,4 @@
-#include "render/PhotoSaver.h"
+#include "photo/PhotoSaver.h"
 
 #include <cerrno>
 #include <csignal>

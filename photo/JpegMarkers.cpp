@@ -1,4 +1,4 @@
-#include "render/JpegMarkers.h"
+#include "photo/JpegMarkers.h"
 
 #include <QIODevice>
 

@@ -1,4 +1,4 @@
-#include "render/formats/PngColourKey.h"
+#include "photo/formats/PngColourKey.h"
 
 #include <QRgba64>
 #include <QtEndian>

@@ -1,4 +1,4 @@
-#include "render/FreeMemory.h"
+#include "photo/FreeMemory.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "render/OnWhite.h"
+#include "photo/OnWhite.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
-#include "render/PhotoSaver.h"
+#include "photo/PhotoSaver.h"
 
-#include "render/KeptExif.h"
+#include "photo/KeptExif.h"
 
 #include <QBuffer>
 #include <QColorSpace>

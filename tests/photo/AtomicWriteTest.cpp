@@ -1,6 +1,6 @@
-#include "render/PhotoLoader.h"
-#include "render/PhotoSaver.h"
-#include "tests/render/Samples.h"
+#include "photo/PhotoLoader.h"
+#include "photo/PhotoSaver.h"
+#include "tests/photo/Samples.h"
 
 #include <QTemporaryDir>
 #include <QTest>
