@@ -6,6 +6,8 @@
 
 #include <QAction>
 
+using namespace lumora;
+
 namespace {
 
 /// Without acting on it as on a press.

@@ -37,7 +37,7 @@ public:
     void updateFromSettings();
 
     // ---- Applied looks ----
-    GrowArray<int> filterIDs; ///< distinct filter numbers in the order in which they were switched on
+    lumora::GrowArray<int> filterIDs; ///< distinct filter numbers in the order in which they were switched on
     void addAppliedFilter(int filter);
     void removeAppliedFilter(int filter);
     void toggleAppliedFilter(int filter);
@@ -72,7 +72,7 @@ public:
     static QImage rotateNSImage(const QImage& image, float degrees);
 
     // ---- Window ----
-    GrowArray<QToolButton*> filterButtons; ///< the ten look buttons in their order
+    lumora::GrowArray<QToolButton*> filterButtons; ///< the ten look buttons in their order
     void updateThumbnailImages();
     void windowDidResize();
     /// A sheet with a title, a text and "OK". Both are plain text.

@@ -6,6 +6,8 @@
 #include <QMenu>
 #include <algorithm>
 
+using namespace lumora;
+
 void MainWindowController::buildMenus()
 {
     using Self = MainWindowController;

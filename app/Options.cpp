@@ -3,6 +3,8 @@
 #include "image/CharImage.h"
 #include "ui_MainWindow.h"
 
+using namespace lumora;
+
 namespace {
 
 constexpr int prefsVersion = 2; ///< of the order of the items in the three pop-ups, which are stored by position

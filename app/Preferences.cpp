@@ -5,6 +5,8 @@
 #include <QVariant>
 #include <algorithm>
 
+using namespace lumora;
+
 namespace {
 
 QString text(const GrowString& string)

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace lumora;
+
 int displayResAtLoad(int frameSide)
 {
     int res = 800;

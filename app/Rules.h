@@ -29,7 +29,7 @@ QSizeF exportSize(const QSize& render, int maxSide);
 QSize bitmapSize(const QSizeF& size);
 
 /// "Original", one look's name, or the chain "Original > Helga > Mono" in multi mode.
-QString breadcrumb(const GrowArray<int>& filterIDs, bool multi);
+QString breadcrumb(const lumora::GrowArray<int>& filterIDs, bool multi);
 
 /// The last component of a path of any bytes, and that name for people: control characters become spaces.
 QByteArray fileNameOf(const QByteArray& path);

@@ -15,6 +15,8 @@
 #include <ctime>
 #include <utility>
 
+using namespace lumora;
+
 namespace {
 
 constexpr int settleTime = 150; ///< milliseconds without a change of size after which a resize has ended

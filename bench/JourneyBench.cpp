@@ -23,6 +23,8 @@
 #include <cmath>
 #include <cstdio>
 
+using namespace lumora;
+
 namespace {
 
 constexpr int width = 6000, height = 4000, previewSide = 1200;

@@ -12,6 +12,8 @@
 #include <cstring>
 #include <map>
 
+using namespace lumora;
+
 namespace {
 
 const std::map<int, void (*)(Picture&)> lookTwins = {{0, reference::colorcross}, {1, reference::helga},

@@ -15,12 +15,12 @@ struct Subject {
 
     const Picture photo;
     const QImage platform; ///< the photo again, over the same bytes
-    const std::unique_ptr<CharImage> image; ///< a copy, the photo anew before each measurement
+    const std::unique_ptr<lumora::CharImage> image; ///< a copy, the photo anew before each measurement
     std::vector<unsigned char> map;
     double copySeconds; ///< of a plain memcpy of the photo
 
     // What a row makes, gone before the next measurement.
-    std::unique_ptr<CharImage> made;
+    std::unique_ptr<lumora::CharImage> made;
     QImage rendered;
     unsigned char* block = nullptr;
 

@@ -1,7 +1,11 @@
 #include "core/GrowArray.h"
 
+namespace lumora {
+
 template <> void GrowArray<int>::addOnce(int x)
 {
     if (find(x) == -1)
         add(x);
 }
+
+} // namespace lumora

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 /// A growable sequence of plain values (numbers, characters, pointers that it does not own).
 ///
 /// The three fields are public and are read directly; `0 <= numThings <= maxThings` always holds, and `theArray` is
@@ -92,3 +94,5 @@ private:
 };
 
 template <> void GrowArray<int>::addOnce(int x);
+
+} // namespace lumora

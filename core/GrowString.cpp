@@ -7,6 +7,8 @@
 #include <string>
 #include <strings.h>
 
+namespace lumora {
+
 char const GrowString::staticEmptyString[1] = {0};
 
 GrowString::GrowString()
@@ -306,3 +308,5 @@ GrowString GrowString::peekWordRespectingQuotes() const
     GrowString copy(*this);
     return copy.takeWordRespectingQuotes();
 }
+
+} // namespace lumora

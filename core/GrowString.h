@@ -2,6 +2,8 @@
 
 #include "core/GrowArray.h"
 
+namespace lumora {
+
 /// A byte string that keeps exactly one terminating zero byte: a string of n characters has `numThings` = n + 1. Bytes
 /// have no encoding. Operations on indexes outside the string change nothing.
 class GrowString : public GrowArray<char> {
@@ -92,3 +94,5 @@ private:
 /// The path of one of the desktop's own folders by its four-character code: 'cusr' home, 'desk' desktop, 'docs'
 /// documents, 'pdoc' pictures, 'pref' preferences, 'temp' temporary files. Empty for every other code.
 GrowString getMacDirectory(unsigned long code);
+
+} // namespace lumora

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <sys/stat.h>
 
+namespace lumora {
+
 namespace {
 
 GrowString withSlashes(const GrowString& path)
@@ -85,3 +87,5 @@ GrowString GrowString::getShortFile(int most) const
     const int front = (room - 3) / 2;
     return subString(0, front) + "..." + lastChars(room - 3 - front);
 }
+
+} // namespace lumora

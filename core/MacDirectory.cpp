@@ -4,6 +4,8 @@
 #include <fstream>
 #include <string>
 
+namespace lumora {
+
 namespace {
 
 constexpr unsigned long fourCharacters(const char (&code)[5])
@@ -79,3 +81,5 @@ GrowString getMacDirectory(unsigned long code)
 {
     return directoryOf(code).c_str();
 }
+
+} // namespace lumora

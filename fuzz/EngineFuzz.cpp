@@ -9,6 +9,8 @@
 #include <cstring>
 #include <memory>
 
+using namespace lumora;
+
 namespace {
 
 /// Takes an input apart; zeros beyond its end.

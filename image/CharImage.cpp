@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <cstring>
 
+namespace lumora {
+
 float CharImage::random[100] = {};
 int CharImage::useRandom = 1;
 unsigned char* CharImage::samplePixels = new unsigned char[108];
@@ -52,3 +54,5 @@ void CharImage::renewRandomNumbers()
     for (float& value : random)
         value = float(std::rand() % 1000000 * 1e-6);
 }
+
+} // namespace lumora

@@ -4,6 +4,8 @@
 
 #include <cstddef>
 
+namespace lumora {
+
 /// A picture of 8-bit channels, and every operation of the engine on it.
 ///
 /// Pixels stand row by row, the top row first, without padding: the pixel at column x, row y starts at byte
@@ -134,3 +136,5 @@ public:
     /// Finishes a border style on a canvas whose margins were made from `maxSide`, the source's longer side in pixels.
     void applyFilterBorder(int border, int maxSide);
 };
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <cstring>
 
+namespace lumora {
+
 GrowArray<int> CharImage::customFilterFiltersA;
 GrowArray<int> CharImage::customFilterFiltersB;
 GrowArray<int> CharImage::customFilterFiltersC;
@@ -153,3 +155,5 @@ void CharImage::applyCustomFilterC()
 {
     applyAll(*this, customFilterFiltersC);
 }
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 
 #include <cstring>
 
+namespace lumora {
+
 void CharImage::drawTestPattern()
 {
     const std::size_t count = pixelCount();
@@ -16,3 +18,5 @@ void CharImage::drawTestPattern()
         std::memset(data + (std::size_t(row) * width + x) * bytesPerPixel, 0, 3);
     }
 }
+
+} // namespace lumora

@@ -14,6 +14,8 @@
 #include <cstring>
 #include <memory>
 
+using namespace lumora;
+
 namespace {
 
 constexpr int halfTurn = 1, turnRight = 0, turnLeft = 2; // 3 and every other code: upright

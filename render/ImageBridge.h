@@ -2,7 +2,9 @@
 
 #include <QImage>
 
+namespace lumora {
 class CharImage;
+}
 
 // Pictures of the platform to CharImage and back. A pixel exchange block is an array-new block of width x height x 4
 // bytes, rows top first without padding, red, green, blue and a spare byte per pixel. Points equal pixels.
@@ -13,8 +15,8 @@ QSize fittedSize(const QSize& image, float aspect, int boxWidth, int boxHeight, 
 /// Crops `image` round its centre to `aspect` (width / height; negative: no crop), scales it into the box (pixels;
 /// negative: the picture's own side; 0: the same, but a box of two zeros takes the picture's size as it is) and gives a
 /// new CharImage that the caller deletes. Margins, `fast` and `orientation` are those of getRGBACharImageArray.
-CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth, int boxHeight, int left, int right,
-    int top, int bottom, bool fast, int orientation);
+lumora::CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth, int boxHeight, int left,
+    int right, int top, int bottom, bool fast, int orientation);
 
 /// Draws `image` into a new exchange block of outWidth x outHeight pixels that the caller owns. The picture fills the
 /// area inside the margins (pixels) on its tighter side and overflows equally on both ends of the other. `orientation`:
@@ -32,4 +34,4 @@ QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height
 QImage opaqueImage(unsigned char* pixels, int width, int height);
 
 /// A picture of `image`, which is not changed and may be deleted afterwards.
-QImage NSImageFromCharImage(const CharImage* image);
+QImage NSImageFromCharImage(const lumora::CharImage* image);

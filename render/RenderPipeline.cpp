@@ -10,6 +10,8 @@
 #include <new>
 #include <utility>
 
+using namespace lumora;
+
 namespace {
 
 void report(const RenderProgress& progress, const char* step)

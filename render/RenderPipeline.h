@@ -9,7 +9,7 @@
 /// What one render applies to its source.
 struct RenderSettings {
     int filter = -1; ///< a filter number, or -1 for every entry of `filterIDs` in order
-    const GrowArray<int>* filterIDs = nullptr; ///< the applied list, read when `filter` is -1
+    const lumora::GrowArray<int>* filterIDs = nullptr; ///< the applied list, read when `filter` is -1
     int cropFilter = 14; ///< whose crop aspect is taken; 14: none
     int borderFilter = 14; ///< whose margins and border are drawn; 14: none
     bool asThumbnail = false; ///< square, without the border, though fitted inside its margins

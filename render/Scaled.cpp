@@ -6,6 +6,8 @@
 #include <QColorSpace>
 #include <utility>
 
+using namespace lumora;
+
 QImage scaledTo(const QImage& image, const QSize& size)
 {
     if (image.isNull())

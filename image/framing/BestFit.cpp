@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+namespace lumora {
+
 void findBestFit(float width, float height, float boxWidth, float boxHeight, float* outWidth, float* outHeight)
 {
     const float a = width / height;
@@ -14,3 +16,5 @@ void findBestFit(float width, float height, float boxWidth, float boxHeight, flo
         *outWidth = float(std::trunc(double(a * boxHeight) + 0.5));
     }
 }
+
+} // namespace lumora

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace lumora {
+
 namespace {
 
 /// Paints the pixels of columns `from` .. `to` - 1 in a row; their spare bytes stay.
@@ -89,3 +91,5 @@ void CharImage::applyFilterBorder(int border, int maxSide)
     if (border == 7 || border == 29)
         fillRoundedBorder(l, r, t, b, int(maxSide * 0.05), white);
 }
+
+} // namespace lumora

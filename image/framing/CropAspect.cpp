@@ -1,5 +1,7 @@
 #include "image/CharImage.h"
 
+namespace lumora {
+
 namespace {
 
 constexpr float noCrop = -1.0f;
@@ -89,3 +91,5 @@ void CharImage::getBorderReqsForFilter(int filter, float* left, float* right, fl
     *top = margins.top;
     *bottom = margins.bottom;
 }
+
+} // namespace lumora

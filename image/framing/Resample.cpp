@@ -8,6 +8,8 @@
 #include <type_traits>
 #include <vector>
 
+namespace lumora {
+
 namespace {
 
 /// The source pixels that make one output row or column: `count` from `first` on.
@@ -308,3 +310,5 @@ void drawScaled(
     else
         draw<std::uint32_t>(source, columns, rows, out, outWidth);
 }
+
+} // namespace lumora

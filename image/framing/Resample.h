@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+namespace lumora {
+
 /// A picture in memory that is only read: 4 bytes a pixel, rows top first, `bytesPerRow` apart.
 struct PixelRows {
     const unsigned char* data;
@@ -24,3 +26,5 @@ struct PlacedRect {
 /// alone.
 void drawScaled(
     const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth, int outHeight);
+
+} // namespace lumora

@@ -2,6 +2,8 @@
 #include "image/numbers/Arithmetic.h"
 #include "image/numbers/Disc.h"
 
+namespace lumora {
+
 namespace {
 
 /// The share of the colour at the distance `q` (1: on the circle) from a corner's centre; 0 or less inside.
@@ -44,3 +46,5 @@ void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int 
         }
     }
 }
+
+} // namespace lumora

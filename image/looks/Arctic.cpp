@@ -1,5 +1,7 @@
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 namespace {
 
 constexpr float pivot = 135.0f; ///< the luminance below which tones sink to black and above which they rise to white
@@ -21,3 +23,5 @@ void CharImage::applyArcticFilter()
     const auto coloured = [](auto c) { return withSaturation(c, 1.1f); };
     forEachPixel(*this, strengths, Steps(bleached, coloured), Stretch{0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }
+
+} // namespace lumora

@@ -1,6 +1,8 @@
 #include "image/numbers/Hues.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 /// Over-exposure: light parts are pushed towards white much harder than dark ones.
 void CharImage::applyBlowoutFilter()
 {
@@ -11,3 +13,5 @@ void CharImage::applyBlowoutFilter()
     };
     forEachPixel(*this, levels, blown);
 }
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 #include "image/looks/Variation.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 CinemaParameters CinemaParameters::fixed()
 {
     return {{30, 30, 40}, 0.7f};
@@ -42,3 +44,5 @@ void CharImage::applyCinemaFilter()
     };
     forEachPixel(*this, levels, Steps(highlit, muted, tinted, lifted));
 }
+
+} // namespace lumora

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct CinemaParameters {
     unsigned char tint[3]; ///< red, green, blue: dark and slightly blue
     float weight; ///< of the tint, 0 .. 1
@@ -7,3 +9,5 @@ struct CinemaParameters {
     static CinemaParameters fixed();
     static CinemaParameters varied(const float* random);
 };
+
+} // namespace lumora

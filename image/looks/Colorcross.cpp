@@ -5,6 +5,8 @@
 
 #include <cstdio>
 
+namespace lumora {
+
 ColorcrossParameters ColorcrossParameters::fixed()
 {
     return {{2.83954f, 2.758001f, 0.683486f}};
@@ -37,3 +39,5 @@ void CharImage::applyCrossProcessFilter()
     forEachPixel(
         *this, filmCurve(p.exponent[0]), filmCurve(p.exponent[1]), filmCurve(p.exponent[2]), [](Rgb c) { return c; });
 }
+
+} // namespace lumora

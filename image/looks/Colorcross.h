@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct ColorcrossParameters {
     float exponent[3]; ///< of the red, green and blue curve: above 1 steep, below 1 flat
 
@@ -9,3 +11,5 @@ struct ColorcrossParameters {
 
 /// Sets apart three exponents that lie within 0.3 of their mean, by changing the one that `choice` (0 .. 1) picks.
 void setApart(float (&exponent)[3], float choice);
+
+} // namespace lumora

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace lumora {
+
 namespace {
 
 constexpr float outlineGrey = 25.0f;
@@ -138,3 +140,5 @@ void CharImage::deliciousColorCore2()
     forEachDelayedRow(height, tones.delay(), measure,
         [&](int y) { recolourRow(*this, y, [&](int x) { return lookedUp(lightness, tones.block(x, y)); }); });
 }
+
+} // namespace lumora

@@ -2,6 +2,8 @@
 
 #include "image/numbers/Hues.h"
 
+namespace lumora {
+
 /// The squared S-curve, twice as steep in the middle, of a byte: 255 times what it becomes, which is a whole number.
 inline float steepened(float v)
 {
@@ -61,3 +63,5 @@ struct Recoloured {
     /// doubling the saturation triples it. All roundings of values below 1024, here and there, add less than 0.0003.
     static constexpr double error = 0.0035;
 };
+
+} // namespace lumora

@@ -7,6 +7,8 @@
 #include <cstring>
 #include <vector>
 
+namespace lumora {
+
 namespace {
 
 // The picture is made in tiles: neighbouring pixels read nearly the same ones, a tile's stay in the first-level cache.
@@ -197,3 +199,5 @@ void CharImage::applyFisheyeFilter()
 {
     makeFisheye();
 }
+
+} // namespace lumora

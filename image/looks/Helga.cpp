@@ -5,6 +5,8 @@
 #include "image/numbers/Hues.h"
 #include "image/passes/RadialPass.h"
 
+namespace lumora {
+
 HelgaParameters HelgaParameters::fixed()
 {
     return {{138.0f, 156.0f, 200.0f}, 5.0f, 1.54f, 7, 30};
@@ -73,3 +75,5 @@ void CharImage::applyHelgaFilter()
     forEachPixelAround(
         *this, width / 2, height / 2, nearSCurve(), fallOffAt, Steps(contrasted, lifted, darkened, floored));
 }
+
+} // namespace lumora

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct HelgaParameters {
     float tint[3]; ///< red, green, blue of the cool tint
     float edgeExponent; ///< shapes the fall-off towards the edges
@@ -10,3 +12,5 @@ struct HelgaParameters {
     static HelgaParameters fixed();
     static HelgaParameters varied(const float* random);
 };
+
+} // namespace lumora

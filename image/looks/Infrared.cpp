@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace lumora {
+
 namespace {
 
 /// float(distance * per255) for a whole distance of 0 .. 255, without doubles. 1/255 is split: the product with its
@@ -41,3 +43,5 @@ void CharImage::applyInfraredFilter()
     forEachPixel(*this, film, Stretch{0.01f, 0.01f, 0.0f, 255.0f, true, true});
     makeBlurry(int(std::max(width, height) * 0.01), 3.0f);
 }
+
+} // namespace lumora

@@ -4,6 +4,8 @@
 #include "image/numbers/Power.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 InstantParameters InstantParameters::fixed()
 {
     return {{1.513512f, 1.277254f, 0.773497f}, 0.01f, 1.0f};
@@ -48,3 +50,5 @@ void CharImage::applyInstantFilter()
     const float halfDiagonal = std::sqrt(halfWidth * halfWidth + halfHeight * halfHeight);
     vignette(float(halfDiagonal * 0.4), halfDiagonal, 1.2f, 0.6f, true, false);
 }
+
+} // namespace lumora

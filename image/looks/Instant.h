@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct InstantParameters {
     float exponent[3]; ///< of the red, green and blue curve
     float lowFraction; ///< what the levels step cuts off at the dark end
@@ -8,3 +10,5 @@ struct InstantParameters {
     static InstantParameters fixed();
     static InstantParameters varied(const float* random);
 };
+
+} // namespace lumora

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+namespace lumora {
+
 namespace {
 
 /// Where the light came in: a new place and reach on every call, whatever the variation switch says.
@@ -89,3 +91,5 @@ void CharImage::applyLightleakFilter()
     const float halfWidth = width * 0.5f, halfHeight = height * 0.5f;
     vignette(0.0f, std::sqrt(halfWidth * halfWidth + halfHeight * halfHeight), 1.2f, 0.2f, true, false);
 }
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 #include "image/looks/Variation.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 LoloParameters LoloParameters::fixed()
 {
     return {30.0f, 255.0f, 1.4f};
@@ -39,3 +41,5 @@ void CharImage::applyLoloFilter()
     };
     forEachPixel(*this, levels, Steps(saturated, warmed, muted));
 }
+
+} // namespace lumora

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct LoloParameters {
     float darkLevel, brightLevel; ///< where the levels step puts its cut-offs, 0 .. 255
     float saturation; ///< 1 leaves colours alone
@@ -7,3 +9,5 @@ struct LoloParameters {
     static LoloParameters fixed();
     static LoloParameters varied(const float* random);
 };
+
+} // namespace lumora

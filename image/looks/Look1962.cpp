@@ -3,6 +3,8 @@
 #include "image/looks/Variation.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 Look1962Parameters Look1962Parameters::fixed()
 {
     return {{1.0f, 1.0f, 1.5f}, 0.1f, 0.1f, 15.0f, 1.33f, 100.0f};
@@ -31,3 +33,5 @@ void CharImage::apply1962Filter()
         return p.contrast * (level - p.pivot) + p.pivot;
     });
 }
+
+} // namespace lumora

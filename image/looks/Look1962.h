@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct Look1962Parameters {
     float gain[3]; ///< of red, green and blue; the fixed ones favour blue
     float darkFraction, brightFraction; ///< what the levels step cuts off, 0 .. 1
@@ -10,3 +12,5 @@ struct Look1962Parameters {
     static Look1962Parameters fixed();
     static Look1962Parameters varied(const float* random);
 };
+
+} // namespace lumora

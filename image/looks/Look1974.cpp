@@ -3,6 +3,8 @@
 #include "image/looks/Variation.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 Look1974Parameters Look1974Parameters::fixed()
 {
     return {{151, 93, 17}, 0.43f};
@@ -34,3 +36,5 @@ void CharImage::apply1974Filter()
     const auto muted = [](auto c) { return withSaturation(c, 0.51f); };
     forEachPixel(*this, washes, Steps(printed, muted), Stretch{0.0f, 0.005f, 20.0f, 250.0f, true, true});
 }
+
+} // namespace lumora

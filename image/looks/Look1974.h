@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct Look1974Parameters {
     unsigned char tint[3]; ///< red, green, blue of the brown wash
     float amount; ///< its strength in the shadows
@@ -7,3 +9,5 @@ struct Look1974Parameters {
     static Look1974Parameters fixed();
     static Look1974Parameters varied(const float* random);
 };
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 #include "image/looks/Variation.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 MagazineParameters MagazineParameters::fixed()
 {
     return {135.0f, 1.0f, 0.8f};
@@ -33,3 +35,5 @@ void CharImage::applyMagazineFilter()
     const auto coloured = [](auto c) { return withSaturation(c, 1.23f); };
     forEachPixel(*this, strengths, Steps(warmed, coloured), Stretch{0.001f, 0.01f, 0.0f, 255.0f, true, false});
 }
+
+} // namespace lumora

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 struct MagazineParameters {
     float pivot; ///< the luminance at which the tones part, 0 .. 255
     float shadowExponent, highlightExponent;
@@ -7,3 +9,5 @@ struct MagazineParameters {
     static MagazineParameters fixed();
     static MagazineParameters varied(const float* random);
 };
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 #include "image/looks/Variation.h"
 #include "image/passes/PixelPass.h"
 
+namespace lumora {
+
 MonoParameters MonoParameters::fixed()
 {
     return {{255.0f, 255.0f, 128.0f}};
@@ -28,3 +30,5 @@ void CharImage::applyMonoFilter()
     };
     forEachPixel(*this, weighted, Stretch{0.01f, 0.01f, 0.0f, 255.0f, true, true});
 }
+
+} // namespace lumora

@@ -1,8 +1,12 @@
 #pragma once
 
+namespace lumora {
+
 struct MonoParameters {
     float gain[3]; ///< of red, green and blue, on 0 .. 255; a weak blue prints skies darker
 
     static MonoParameters fixed();
     static MonoParameters varied(const float* random);
 };
+
+} // namespace lumora

@@ -9,6 +9,8 @@
 #pragma GCC optimize("no-tree-slp-vectorize")
 #endif
 
+namespace lumora {
+
 // The arithmetic that every look shares. Channels are floats while they are worked on; decimal constants such as 0.3
 // are double, so that a product with one is formed in double and rounded once, when it is stored. Both are part of the
 // looks.
@@ -152,3 +154,5 @@ inline unsigned char truncateAndWrap(float value)
 {
     return static_cast<unsigned char>(truncateToInt(value));
 }
+
+} // namespace lumora

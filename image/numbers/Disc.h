@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace lumora {
+
 /// How far a pixel stands from a centre, so many columns across and rows down.
 inline float distance(float across, float down)
 {
@@ -21,3 +23,5 @@ inline int columnsWithin(float radius, int dy)
         columns--;
     return columns;
 }
+
+} // namespace lumora

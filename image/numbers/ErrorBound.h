@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+namespace lumora {
+
 /// What is known of a value of a recipe: its exact evaluation and the one in Single both lie on low .. high, and are at
 /// most `error` apart. A recipe that is evaluated with these, over all that it may be given, shows how far its
 /// evaluation in Single may be off: forward error analysis on intervals.
@@ -145,3 +147,5 @@ inline ErrorBound smaller(ErrorBound a, ErrorBound b)
 {
     return {std::min(a.low, b.low), std::min(a.high, b.high), std::max(a.error, b.error)};
 }
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 #include "image/numbers/ErrorBound.h"
 #include "image/numbers/Single.h"
 
+namespace lumora {
+
 // The colour-space conversions of ColorSpace.h for use inside a pixel function: values chosen, not branched on.
 // Quotients of zero are formed and then passed over.
 
@@ -163,3 +165,5 @@ inline Colour<ErrorBound> withSaturationAndValueTimes(Colour<ErrorBound> c, Erro
         return ErrorBound::afterSteps(darkened.low, darkened.high, apart, roundings);
     });
 }
+
+} // namespace lumora

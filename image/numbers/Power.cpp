@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <cstring>
 
+namespace lumora {
+
 // std::pow one value at a time would cost more than all the rest of a look. Here the power is formed in double for a
 // whole block, as 2 to the exponent times the binary logarithm, to better than 2^-33 of its value. The C library's
 // single-precision pow is formed in double as well and rounded last, so that both round to the same float unless the
@@ -229,3 +231,5 @@ ErrorBound nearSCurve()
 {
     return rounded(1.0 - 0.5 * nearPower());
 }
+
+} // namespace lumora

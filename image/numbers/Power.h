@@ -2,6 +2,8 @@
 
 #include "image/numbers/ErrorBound.h"
 
+namespace lumora {
+
 /// Raises `count` values, a multiple of 8 and at most a block of them, to `exponent`: each result is exactly what
 /// std::pow(value, exponent) gives.
 void raise(float* values, int count, float exponent);
@@ -23,3 +25,5 @@ void applySCurve(float* values, int count, float exponent, Raise toPower = raise
 
 /// What is known of them with raiseNearly, for values on 0 .. 1.
 ErrorBound nearSCurve();
+
+} // namespace lumora

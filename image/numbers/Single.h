@@ -2,6 +2,8 @@
 
 #include "image/numbers/Arithmetic.h"
 
+namespace lumora {
+
 /// A channel or a share while a recipe is tried: every step is made in single precision, also those that the recipe
 /// itself makes in double. Vector code does twice as many of them at once.
 struct Single {
@@ -60,3 +62,5 @@ inline Single sesquiPower(Single v)
 {
     return v.value * std::sqrt(v.value);
 }
+
+} // namespace lumora

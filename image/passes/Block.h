@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <cstring>
 
+namespace lumora {
+
 // The pixels of a pass are worked on in blocks: bytes become three planes of floats, a loop of fixed length works on
 // the planes, and the planes become bytes again. The fixed length lets the compiler turn each loop into vector code.
 
@@ -169,3 +171,5 @@ private:
     int m_count = 0;
     alignas(64) unsigned char m_part[blockPixels * 4] = {};
 };
+
+} // namespace lumora

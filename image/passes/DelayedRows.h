@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace lumora {
+
 /// New rows of a picture, for a look that reads around the pixel that it writes: each is made aside and replaces the
 /// former one when others were begun, so that the picture can be read as it was for as long. That spares the memory of
 /// a whole copy.
@@ -54,3 +56,5 @@ private:
     std::vector<Row> m_waiting;
     std::size_t m_next = 0;
 };
+
+} // namespace lumora

@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+namespace lumora {
+
 namespace {
 
 int sumOf(const GrowArray<int>& histogram)
@@ -121,3 +123,5 @@ void CharImage::fillHistogram(
         });
     });
 }
+
+} // namespace lumora

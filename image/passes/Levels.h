@@ -3,6 +3,8 @@
 #include "image/CharImage.h"
 #include "image/numbers/Arithmetic.h"
 
+namespace lumora {
+
 /// The levels stretch of fillHistogram for one picture: what a channel's whole value 0 .. 255 becomes, a whole value
 /// too. A pass that takes it on the way in saves a pass of its own over the picture.
 struct Levels {
@@ -60,3 +62,5 @@ Levels levelsOf(const CharImage& image, const Stretch& stretch);
 CharImage sampledPixels(const CharImage& image);
 /// The histogram of a picture that consists of samples only.
 void getHistogramOfSamples(const CharImage& samples, GrowArray<int>* histogram, int* minLum);
+
+} // namespace lumora

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace lumora {
+
 // Passes over the pixels of an image. A look gives what happens to one pixel; the loops and the byte conversions live
 // here. A pixel function should choose between values rather than branch, so that a whole block becomes vector code. It
 // gives an Rgb, or a float for a neutral colour; the result is truncated and clamped to bytes.
@@ -246,3 +248,5 @@ void forEachPixel(CharImage& image, const ToneTable& tones, Function function, F
     TonedColours source{tones};
     passOver(image, source, stepsOf(function), finish...);
 }
+
+} // namespace lumora

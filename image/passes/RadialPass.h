@@ -8,6 +8,8 @@
 #include <type_traits>
 #include <vector>
 
+namespace lumora {
+
 // Passes whose pixels are weighted by how far they stand from a centre.
 
 /// The weights of a block's pixels in forEachPixelAround. A trial has them nearly.
@@ -84,3 +86,5 @@ void forEachPixelAround(CharImage& image, int centreX, int centreY, ErrorBound r
     }
     work.finish();
 }
+
+} // namespace lumora

@@ -5,6 +5,8 @@
 #include <tuple>
 #include <type_traits>
 
+namespace lumora {
+
 // What a look does to one pixel is a function of its colour, or of its colour and a weight that the pass knows (a tone,
 // how far out it stands). A longer recipe is several of them, one after the other.
 
@@ -62,3 +64,5 @@ template <class Recipe> inline constexpr bool isNeutral = false;
 template <class Step>
 inline constexpr bool isNeutral<Steps<Step>> =
     std::is_same_v<decltype(applied(std::declval<const Step&>(), Rgb{}, std::declval<const float*>(), 0)), float>;
+
+} // namespace lumora

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <memory>
 
+namespace lumora {
+
 /// A function of the luminance of a byte pixel, evaluated once for each luminance that there is. Since 100 times the
 /// luminance is the whole number 30 R + 59 G + 11 B, there are 25501 of them.
 class ToneTable {
@@ -44,3 +46,5 @@ public:
 private:
     std::unique_ptr<float[]> values;
 };
+
+} // namespace lumora

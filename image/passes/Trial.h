@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace lumora {
+
 // A recipe that makes some steps in double costs vector code twice the time. Such a recipe is tried in single precision
 // throughout. Where the result stands so near to a whole number that the exact result might stand on the other side,
 // the exact recipe decides, so that the bytes are always the exact ones. How near that is follows from the recipe
@@ -218,3 +220,5 @@ private:
     float m_r[groupPixels] = {}, m_g[groupPixels] = {}, m_b[groupPixels] = {};
     typename Weights::Group m_weights;
 };
+
+} // namespace lumora

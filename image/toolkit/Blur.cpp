@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace lumora {
+
 namespace {
 
 /// One pass along lines of `length` pixels that stand `step` bytes apart; `lines` lines stand `lineStep` bytes apart.
@@ -172,3 +174,5 @@ void CharImage::makeBlurry(int size, float exponent)
     else
         blurInFloats(*this, weights);
 }
+
+} // namespace lumora

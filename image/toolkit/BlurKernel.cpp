@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace lumora {
+
 namespace {
 
 /// The least multiplier that gives the whole part of `product(byte)` for every byte; -1 when none of 16 bits does.
@@ -66,3 +68,5 @@ BlurKernel::BlurKernel(const GrowArray<float>& weights)
     for (const BlurTap& tap : taps)
         box = box && tap.carries.empty() && tap.multiplier == taps[0].multiplier;
 }
+
+} // namespace lumora

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace lumora {
+
 // The blur adds tap after tap to a sum that is cut to a whole byte, modulo 256, every time:
 //
 //     sum = truncateAndWrap(sum + byte * weight)
@@ -48,3 +50,5 @@ struct BlurKernel {
 
     explicit BlurKernel(const GrowArray<float>& weights);
 };
+
+} // namespace lumora

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace lumora {
+
 namespace {
 
 /// Bytes that are weighed together; their sums stay in the first-level cache.
@@ -135,3 +137,5 @@ void replaceRow(unsigned char* sums, const unsigned char* leaving, const unsigne
     for (std::size_t i = 0; i < count; i++)
         sums[i] += static_cast<unsigned char>(entering[i] - leaving[i]);
 }
+
+} // namespace lumora

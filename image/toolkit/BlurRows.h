@@ -2,6 +2,8 @@
 
 #include "image/toolkit/BlurKernel.h"
 
+namespace lumora {
+
 class CharImage;
 
 // What the blur does with whole rows. A row here is one channel, a byte per pixel, so that every loop becomes vector
@@ -35,3 +37,5 @@ void addRow(unsigned char* sums, const unsigned char* row, std::size_t count);
 
 /// Takes one row out of sums modulo 256 and adds another.
 void replaceRow(unsigned char* sums, const unsigned char* leaving, const unsigned char* entering, std::size_t count);
+
+} // namespace lumora

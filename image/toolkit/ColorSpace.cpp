@@ -2,6 +2,8 @@
 
 #include "image/numbers/Hues.h"
 
+namespace lumora {
+
 namespace {
 
 void store(Rgb c, float* rgb)
@@ -43,3 +45,5 @@ void hsvToRgb(float h, float s, float v, float* rgb)
 {
     store(rgbOf(Hsv{h, s, v}), rgb);
 }
+
+} // namespace lumora

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 // One pixel between RGB and two cylindrical models. RGB is on 0 .. 255 as floats, neither rounded nor clamped on the
 // way out. HSL hue is a fraction of a turn (0 .. 1), HSV hue is in degrees (0 .. 360). Each function reads all of its
 // inputs before it writes, so an output array may be the input array.
@@ -17,3 +19,5 @@ void rgbToHsv(float* rgb, float* h, float* s, float* v);
 
 /// Hue in degrees, saturation and value (0 .. 1) to RGB. A hue outside 0 .. 300 takes the last sextant: 360 is not red.
 void hsvToRgb(float h, float s, float v, float* rgb);
+
+} // namespace lumora

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+namespace lumora {
+
 void fillKernel(GrowArray<float>& weights, int size, float exponent, bool unitCentre)
 {
     const float half = float((size < 3 ? 3 : size) * 0.5);
@@ -22,3 +24,5 @@ void fillKernel(GrowArray<float>& weights, int size, float exponent, bool unitCe
     for (int i = 0; i < weights.numThings; i++)
         weights.theArray[i] *= reciprocal;
 }
+
+} // namespace lumora

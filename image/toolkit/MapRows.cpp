@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <limits>
 
+namespace lumora {
+
 namespace {
 
 /// The Sobel strengths of a block, from the luminances around it: each row starts with the column before the block.
@@ -117,3 +119,5 @@ Plane SmoothedRows::block(int x, int y)
     smooth(values.at, m_sources, m_weights.theArray, m_keptChange, x);
     return values;
 }
+
+} // namespace lumora

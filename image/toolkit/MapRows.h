@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace lumora {
+
 // Maps, of one value a pixel, row by row: each row is given once, from the top, and asked for a few rows later. So a
 // look carries them along in its one walk over the picture and never holds a whole one. Values are whole numbers of
 // 0 .. 255, as floats, in blocks; what stands beyond the last column of a row is never used.
@@ -118,3 +120,5 @@ template <class Give, class Take> void forEachDelayedRow(int height, int delay, 
             take(y - delay);
     }
 }
+
+} // namespace lumora

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace lumora {
+
 namespace {
 
 /// The bytes of one row of a map, in whole blocks.
@@ -77,3 +79,5 @@ void CharImage::smoothCharMap(unsigned char* map, int width, int height, int siz
             MapRow(map, width, y).setBlock(x, rows.block(x, y));
     });
 }
+
+} // namespace lumora

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace lumora {
+
 void CharImage::addNoise(int count, int spotSize, int amplitude)
 {
     if (pixelCount() == 0)
@@ -24,3 +26,5 @@ void CharImage::addNoise(int count, int spotSize, int amplitude)
             }
     }
 }
+
+} // namespace lumora

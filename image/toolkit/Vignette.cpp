@@ -8,6 +8,8 @@
 #include <limits>
 #include <numeric>
 
+namespace lumora {
+
 namespace {
 
 /// The kernel size of the edge softening for a longer side of `side` pixels, 7 at most.
@@ -188,3 +190,5 @@ void CharImage::vignette(
     for (int y = 0; y < height; y++)
         forEachBlockOfRow(*this, y, [&](Block& block, int x) { softenAndDarken(block, x, y); });
 }
+
+} // namespace lumora

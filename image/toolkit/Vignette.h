@@ -1,5 +1,7 @@
 #pragma once
 
+namespace lumora {
+
 class CharImage;
 
 /// CharImage::vignette without softened edges, but only for the pixels that stand nearer than `radius`, the outer one,
@@ -10,3 +12,5 @@ void vignetteDisc(
 /// The same by visiting only the pixels between the two radii: for a ring of a few.
 void vignetteRing(
     CharImage& image, float innerRadius, float radius, float exponent, float strength, bool boostSaturation);
+
+} // namespace lumora

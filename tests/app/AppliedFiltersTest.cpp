@@ -6,6 +6,8 @@
 #include <QMenuBar>
 #include <cstring>
 
+using namespace lumora;
+
 using Looks = std::vector<int>;
 
 namespace {

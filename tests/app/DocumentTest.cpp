@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QProgressBar>
 
+using namespace lumora;
+
 class DocumentTest : public QObject {
     Q_OBJECT
 

@@ -4,6 +4,8 @@
 
 #include <QCheckBox>
 
+using namespace lumora;
+
 namespace {
 
 QStringList itemsOf(const QComboBox* popUp)

@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+using namespace lumora;
+
 class RulesTest : public QObject {
     Q_OBJECT
 

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QUrl>
 
+using namespace lumora;
+
 class WindowTest : public QObject {
     Q_OBJECT
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <initializer_list>
 
+using namespace lumora;
+
 namespace {
 
 void fill(GrowArray<int>& array, std::initializer_list<int> values)

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <fstream>
 
+using namespace lumora;
+
 TEST(GrowStringPaths, TakesAPathApart)
 {
     const GrowString path("/home/a.b/pictures/sea.tar.jpg");

@@ -5,6 +5,8 @@
 #include <climits>
 #include <limits>
 
+using namespace lumora;
+
 TEST(GrowString, TerminatesTheEmptyString)
 {
     const GrowString none;

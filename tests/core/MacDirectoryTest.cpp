@@ -6,6 +6,8 @@
 #include <fstream>
 #include <optional>
 
+using namespace lumora;
+
 namespace {
 
 constexpr unsigned long home = 0x63757372, desktop = 0x6465736b, documents = 0x646f6373, pictures = 0x70646f63,

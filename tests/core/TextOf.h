@@ -6,7 +6,7 @@
 #include <string>
 
 /// The characters of a string; fails the running test unless exactly one zero byte ends them.
-inline std::string textOf(const GrowString& s)
+inline std::string textOf(const lumora::GrowString& s)
 {
     const std::string text = s.cString();
     EXPECT_EQ(s.numThings, int(text.size()) + 1);

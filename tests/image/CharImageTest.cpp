@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+using namespace lumora;
+
 TEST(CharImage, IsEmptyByDefault)
 {
     const CharImage image;

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+using namespace lumora;
+
 namespace {
 
 const char* const names[] = {"Colorcross", "Helga", "Lolo", "Magazine", "Instant", "Mono", "1962", "1974", "Cinema",

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace lumora;
+
 namespace reference {
 
 void rgbToHsl(float red, float green, float blue, float* h, float* s, float* l)

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+using namespace lumora;
+
 Picture::Picture(int columns, int rows)
     : width(columns)
     , height(rows)

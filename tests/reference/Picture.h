@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+namespace lumora {
 class CharImage;
+}
 
 /// A picture of the tests: width x height x 4 bytes, rows top first.
 struct Picture {
@@ -33,8 +35,8 @@ struct NamedPicture {
 const std::vector<NamedPicture>& samplePictures();
 
 /// An image of the engine with a copy of the picture's pixels.
-std::unique_ptr<CharImage> imageOf(const Picture& picture);
+std::unique_ptr<lumora::CharImage> imageOf(const Picture& picture);
 
 /// Fails the running test with the first differing byte when image and picture differ; `spareToo` compares byte 3 as
 /// well.
-void expectSame(const CharImage& image, const Picture& picture, const std::string& what, bool spareToo = true);
+void expectSame(const lumora::CharImage& image, const Picture& picture, const std::string& what, bool spareToo = true);

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <memory>
 
+using namespace lumora;
+
 namespace {
 
 constexpr int upright = 3;

@@ -8,6 +8,8 @@
 #include <QTest>
 #include <memory>
 
+using namespace lumora;
+
 namespace {
 
 constexpr int none = 14, mono = 5, square = 21, cinema = 8, thick = 28, instant = 4, thin = 26;

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <gtest/gtest.h>
 
+using namespace lumora;
+
 namespace {
 
 const unsigned char* at(const CharImage& image, int x, int y)

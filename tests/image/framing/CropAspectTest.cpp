@@ -4,6 +4,8 @@
 #include <array>
 #include <gtest/gtest.h>
 
+using namespace lumora;
+
 namespace {
 
 std::array<float, 4> margins(int filter)

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <utility>
 
+using namespace lumora;
+
 namespace {
 
 /// How much the source pixel `from` counts in the output pixel `to` of one side, taken from the definition: the overlap

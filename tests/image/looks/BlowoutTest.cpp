@@ -1,5 +1,7 @@
 #include "tests/image/looks/LookProperties.h"
 
+using namespace lumora;
+
 namespace {
 
 void blowoutLevels(CharImage& image)

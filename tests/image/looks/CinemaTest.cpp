@@ -2,6 +2,8 @@
 
 #include "image/looks/Cinema.h"
 
+using namespace lumora;
+
 namespace {
 
 void cinemaLevels(CharImage& image)

@@ -2,6 +2,8 @@
 
 #include "image/looks/Colorcross.h"
 
+using namespace lumora;
+
 TEST(Colorcross, MatchesItsTwin)
 {
     expectLookMatchesTwin(0, reference::colorcross);

@@ -7,6 +7,8 @@
 #include <random>
 #include <utility>
 
+using namespace lumora;
+
 TEST(Delicious, MatchesItsTwin)
 {
     expectLookMatchesTwin(18, reference::delicious);

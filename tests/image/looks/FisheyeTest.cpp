@@ -1,5 +1,7 @@
 #include "tests/image/looks/LookProperties.h"
 
+using namespace lumora;
+
 TEST(Fisheye, MatchesItsTwin)
 {
     expectLookMatchesTwin(10, reference::fisheye);

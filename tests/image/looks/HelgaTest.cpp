@@ -2,6 +2,8 @@
 
 #include "image/looks/Helga.h"
 
+using namespace lumora;
+
 TEST(Helga, MatchesItsTwin)
 {
     expectLookMatchesTwin(1, reference::helga);

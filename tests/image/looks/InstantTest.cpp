@@ -2,6 +2,8 @@
 
 #include "image/looks/Instant.h"
 
+using namespace lumora;
+
 TEST(Instant, MatchesItsTwin)
 {
     expectLookMatchesTwin(4, reference::instant);

@@ -1,5 +1,7 @@
 #include "tests/image/looks/LookProperties.h"
 
+using namespace lumora;
+
 TEST(Lightleak, MatchesItsTwin)
 {
     expectLookMatchesTwin(17, reference::lightleak);

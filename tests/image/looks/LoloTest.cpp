@@ -2,6 +2,8 @@
 
 #include "image/looks/Lolo.h"
 
+using namespace lumora;
+
 namespace {
 
 void loloLevels(CharImage& image)

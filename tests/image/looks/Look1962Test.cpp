@@ -2,6 +2,8 @@
 
 #include "image/looks/Look1962.h"
 
+using namespace lumora;
+
 namespace {
 
 void levels1962(CharImage& image)

@@ -2,6 +2,8 @@
 
 #include "image/looks/Look1974.h"
 
+using namespace lumora;
+
 namespace {
 
 void levels1974(Picture& picture)

@@ -5,6 +5,8 @@
 #include <iterator>
 #include <string>
 
+using namespace lumora;
+
 namespace {
 
 ByteColour colourAt(const CharImage& image, int i)

@@ -26,7 +26,7 @@ void expectBeforeLevels(int filter, ByteColour colour, ByteColour expected, Byte
 
 /// What a look that begins with the levels step makes of a pixel that is `colour` after it. `levels` is the step on the
 /// engine; the sampled greys are chosen so that `colour` can come out of it.
-ByteColour afterLevels(int filter, ByteColour colour, const std::function<void(CharImage&)>& levels);
+ByteColour afterLevels(int filter, ByteColour colour, const std::function<void(lumora::CharImage&)>& levels);
 
 /// The picture's one pixel under a look without a levels step.
 ByteColour underLook(int filter, ByteColour colour);

@@ -2,6 +2,8 @@
 
 #include "image/looks/Magazine.h"
 
+using namespace lumora;
+
 namespace {
 
 void magazineLevels(Picture& picture)

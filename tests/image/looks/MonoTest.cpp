@@ -2,6 +2,8 @@
 
 #include "image/looks/Mono.h"
 
+using namespace lumora;
+
 namespace {
 
 void monoLevels(Picture& picture)

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+using namespace lumora;
+
 TEST(Arithmetic, TruncatesAsTheProcessorDoes)
 {
     const float infinity = std::numeric_limits<float>::infinity(), nan = std::numeric_limits<float>::quiet_NaN();

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+using namespace lumora;
+
 namespace {
 
 /// Holds raise() to std::pow on floats from `first` on, `step` floats apart, up to `last`.

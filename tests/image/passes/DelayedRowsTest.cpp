@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+using namespace lumora;
+
 TEST(DelayedRows, ReplaceTheFormerOnesWhenOthersWereBegun)
 {
     constexpr int width = blockPixels + 7, height = 12, delay = 3;

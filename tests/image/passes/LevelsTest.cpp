@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+using namespace lumora;
+
 namespace {
 
 /// `count` pixels in a row of which every tenth is `sampled` in turn; the others are `rest`.

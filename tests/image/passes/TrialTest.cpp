@@ -7,6 +7,8 @@
 #include <random>
 #include <vector>
 
+using namespace lumora;
+
 namespace {
 
 constexpr double infinite = std::numeric_limits<double>::infinity();

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+using namespace lumora;
+
 namespace {
 
 Picture blurred(const Picture& picture, int size, float exponent)

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+using namespace lumora;
+
 namespace {
 
 struct Three {

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+using namespace lumora;
+
 namespace {
 
 using Map = std::vector<unsigned char>;

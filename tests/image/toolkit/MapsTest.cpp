@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+using namespace lumora;
+
 namespace {
 
 using Map = std::vector<unsigned char>;

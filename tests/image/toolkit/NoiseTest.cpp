@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
+using namespace lumora;
+
 namespace {
 
 struct Speck {

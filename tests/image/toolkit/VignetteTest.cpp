@@ -6,6 +6,8 @@
 #include <limits>
 #include <utility>
 
+using namespace lumora;
+
 TEST(Vignette, LeavesThePixelAtTheInnerRadius)
 {
     const Picture picture = randomPicture(41, 41, 4);

@@ -1,6 +1,8 @@
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 
+using namespace lumora;
+
 namespace reference {
 
 void blowout(Picture& picture)

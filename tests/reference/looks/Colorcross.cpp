@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+using namespace lumora;
+
 namespace reference {
 
 void colorcross(Picture& picture)

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace lumora;
+
 namespace reference {
 
 static void colourCore(Picture& picture)

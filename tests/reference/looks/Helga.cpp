@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace lumora;
+
 namespace reference {
 
 void helga(Picture& picture)

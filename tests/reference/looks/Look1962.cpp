@@ -2,6 +2,8 @@
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 
+using namespace lumora;
+
 namespace reference {
 
 void look1962(Picture& picture)

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+using namespace lumora;
+
 namespace reference {
 
 void look1974(Picture& picture)
