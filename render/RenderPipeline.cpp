@@ -2,7 +2,7 @@
 
 #include "image/CharImage.h"
 #include "photo/FreeMemory.h"
-#include "photo/PhotoLoader.h"
+#include "photo/PhotoDecoder.h"
 #include "render/ImageBridge.h"
 
 #include <QColorSpace>

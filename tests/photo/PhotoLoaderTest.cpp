@@ -1,5 +1,6 @@
 #include "photo/PhotoLoader.h"
 #include "photo/FreeMemory.h"
+#include "photo/PhotoDecoder.h"
 #include "tests/photo/Samples.h"
 #include "tests/photo/ScarceMemory.h"
 

@@ -1,0 +1,13 @@
+#include "photo/LoadedPhoto.h"
+
+LoadedPhoto refusedPhoto(const QString& reason)
+{
+    LoadedPhoto refused;
+    refused.reason = reason;
+    return refused;
+}
+
+QString noMemoryForPhoto()
+{
+    return QStringLiteral("There is not enough free memory for the picture.");
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+/// A photo from a file, or why there is none.
+struct LoadedPhoto {
+    QImage image; ///< upright, sRGB, Format_RGBX8888 or Format_RGB32, laid on white; null when refused
+    QByteArray exif; ///< what the camera wrote: the raw EXIF block of a JPEG, empty where there is none
+    QString reason; ///< for people, set when `image` is null
+};
+
+/// No photo, but the reason.
+LoadedPhoto refusedPhoto(const QString& reason);
+
+/// The reason where the memory ran out.
+QString noMemoryForPhoto();

@@ -1,0 +1,126 @@
+#include "photo/PhotoDecoder.h"
+
+#include "photo/ColorProfile.h"
+#include "photo/FreeMemory.h"
+#include "photo/JpegMarkers.h"
+#include "photo/OnWhite.h"
+#include "photo/formats/PngColourKey.h"
+#include "photo/formats/PsdHandler.h"
+#include "photo/formats/TgaHandler.h"
+
+#include <QImageIOHandler>
+#include <QImageReader>
+#include <algorithm>
+#include <memory>
+#include <new>
+
+namespace {
+
+/// The reader of this project that takes the file, to be asked before the platform's; null when none does.
+std::unique_ptr<QImageIOHandler> ownHandler(QIODevice& file)
+{
+    if (PsdHandler::canRead(file))
+        return std::make_unique<PsdHandler>();
+    if (TgaHandler::canRead(file))
+        return std::make_unique<TgaHandler>();
+    return nullptr;
+}
+
+int bytesPerPixel(QImage::Format format)
+{
+    return std::max(QImage::toPixelFormat(format).bitsPerPixel() / 8, 4);
+}
+
+/// Why a picture of that size is not decoded; empty when it is. `bytesPerPixel` is what its decoder makes of it,
+/// `memory` what there is.
+QString sizeRefusal(const QSize& size, int bytesPerPixel, qint64 memory)
+{
+    const qint64 pixels = qint64(size.width()) * size.height();
+    if (pixels > maxPhotoPixels)
+        return QStringLiteral("The picture is too large: %1 x %2 pixels. At most %3 megapixels can be opened.")
+            .arg(size.width())
+            .arg(size.height())
+            .arg(maxPhotoPixels / 1000000);
+    return pixels * bytesPerPixel > memory / blocksPerPhoto ? memoryRefusal(size) : QString();
+}
+
+/// Formats of the platform that hold drawings and icons rather than photos. The icons' decoder allocates whatever a
+/// file claims, and a drawing may take any time to be rendered.
+bool isForPhotos(const QByteArray& format)
+{
+    return format != "icns" && format != "svg" && format != "svgz" && format != "pdf";
+}
+
+QString decodeByOwn(QImageIOHandler& handler, qint64 memory, QImage& image)
+{
+    const QString refusal = sizeRefusal(handler.option(QImageIOHandler::Size).toSize(),
+        bytesPerPixel(QImage::Format(handler.option(QImageIOHandler::ImageFormat).toInt())), memory);
+    if (!refusal.isEmpty())
+        return refusal;
+    return handler.read(&image) ? QString()
+                                : QStringLiteral("The picture is damaged or of a kind that cannot be read.");
+}
+
+QString decodeByPlatform(QIODevice& file, qint64 memory, QImage& image)
+{
+    // For decoders that do not tell the size first.
+    const qint64 limit = std::min(maxPhotoPixels * 8, memory / blocksPerPhoto);
+    QImageReader::setAllocationLimit(std::max(int(limit >> 20), 1));
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (!reader.canRead() || !isForPhotos(reader.format()))
+        return QStringLiteral("The file is not a picture of a kind that can be read.");
+    const QSize size = reader.size();
+    if (size.isValid()) {
+        const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()), memory);
+        if (!refusal.isEmpty())
+            return refusal;
+    }
+    return reader.read(&image) ? QString() : QStringLiteral("The picture is damaged and cannot be read.");
+}
+
+/// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
+QString decode(QIODevice& file, qint64 memory, QImage& image)
+{
+    if (const auto handler = ownHandler(file)) {
+        handler->setDevice(&file);
+        return decodeByOwn(*handler, memory, image);
+    }
+    if (const auto key = findPngColourKey(file)) {
+        PngWithoutKey png(file, *key);
+        const QString reason = decodeByPlatform(png, memory, image);
+        if (!reason.isEmpty() || applyColourKey(image, *key))
+            return reason;
+        return QStringLiteral("The picture is damaged or of a kind that cannot be read.");
+    }
+    file.seek(0);
+    return decodeByPlatform(file, memory, image);
+}
+
+LoadedPhoto load(QIODevice& file, qint64 memory)
+{
+    LoadedPhoto photo;
+    const JpegMarkers markers = readJpegMarkers(file);
+    if (markers.scans > maxJpegScans)
+        return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
+    photo.exif = markers.exif;
+    file.seek(0);
+    QImage image;
+    const QString reason = decode(file, memory, image);
+    if (!reason.isEmpty())
+        return refusedPhoto(reason);
+    photo.image = onWhiteInEitherOrder(inSRgb(std::move(image)));
+    return photo.image.isNull() ? refusedPhoto(noMemoryForPhoto()) : photo;
+}
+
+} // namespace
+
+LoadedPhoto decodePhoto(QIODevice& file, qint64 memory)
+{
+    try {
+        return load(file, memory);
+    } catch (const std::bad_alloc&) {
+        return refusedPhoto(noMemoryForPhoto());
+    }
+}

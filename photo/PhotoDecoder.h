@@ -1,0 +1,21 @@
+#pragma once
+
+#include "photo/LoadedPhoto.h"
+
+class QIODevice;
+
+/// The most pixels that a photo may have, told from its header before anything is decoded: 16384 x 16384, which takes
+/// 1 GiB as a picture.
+inline constexpr qint64 maxPhotoPixels = qint64(1) << 28;
+
+/// Blocks of the decoded size that the free memory must hold: the photo, the turned or rendered one, and one to spare.
+inline constexpr int blocksPerPhoto = 3;
+
+/// The most scans of a JPEG. Encoders write about ten; each one costs a walk over the whole picture, so that a small
+/// file with thousands would take hours.
+inline constexpr int maxJpegScans = 100;
+
+/// Decodes the photo that stands in `file`, a device that is open and can be sought in. The content decides the format;
+/// of several frames the first is taken. `memory`: the bytes that there are for it; a picture that is too large for a
+/// part of them (see blocksPerPhoto) is refused before it is decoded. Opens no file.
+LoadedPhoto decodePhoto(QIODevice& file, qint64 memory);
