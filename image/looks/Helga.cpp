@@ -3,6 +3,7 @@
 #include "image/looks/Variation.h"
 #include "image/numbers/Disc.h"
 #include "image/numbers/Hues.h"
+#include "image/passes/PixelPass.h"
 #include "image/passes/RadialPass.h"
 
 namespace lumora {

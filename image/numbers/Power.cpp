@@ -1,6 +1,6 @@
 #include "image/numbers/Power.h"
 
-#include "image/passes/Block.h"
+#include "image/numbers/Plane.h"
 
 #include <algorithm>
 #include <bit>

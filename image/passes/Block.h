@@ -1,6 +1,7 @@
 #pragma once
 
-#include "image/numbers/Arithmetic.h"
+#include "image/numbers/Plane.h"
+#include "image/passes/ChannelCurve.h"
 
 #include <bit>
 #include <cstddef>
@@ -9,57 +10,10 @@
 
 namespace lumora {
 
-// The pixels of a pass are worked on in blocks: bytes become three planes of floats, a loop of fixed length works on
-// the planes, and the planes become bytes again. The fixed length lets the compiler turn each loop into vector code.
-
-/// Pixels of one block; its planes stay in the first-level cache.
-inline constexpr int blockPixels = 256;
-
-/// So many pixels filled up to whole blocks.
-inline std::size_t inWholeBlocks(int pixels)
+/// The colour of a pixel that lies in memory.
+inline Rgb pixelAt(const unsigned char* pixel)
 {
-    return (std::size_t(pixels) + blockPixels - 1) / blockPixels * blockPixels;
-}
-
-/// A float per pixel of a block.
-struct alignas(64) Plane {
-    float at[blockPixels];
-};
-
-/// The channels of a block's pixels.
-struct Planes {
-    Plane r, g, b;
-
-    Rgb colour(int i) const { return {r.at[i], g.at[i], b.at[i]}; }
-    void setColour(int i, Rgb c)
-    {
-        r.at[i] = c.r;
-        g.at[i] = c.g;
-        b.at[i] = c.b;
-    }
-};
-
-/// What each value of a channel becomes as a float: a per-channel curve needs no more than 256 evaluations.
-struct ChannelCurve {
-    float at[256];
-};
-
-template <class Function> ChannelCurve channelCurve(Function f)
-{
-    ChannelCurve curve;
-    for (int v = 0; v < 256; v++)
-        curve.at[v] = f(v);
-    return curve;
-}
-
-/// The curve of one channel of a film: the S-curve on the byte's share of 255, held off pure black and pure white at
-/// 20 .. 250.
-inline ChannelCurve filmCurve(float exponent)
-{
-    return channelCurve([=](int v) {
-        const float z = sCurve(float(v * per255), exponent) * 255.0f;
-        return z < 20.0f ? 20.0f : z > 250.0f ? 250.0f : z;
-    });
+    return {float(pixel[0]), float(pixel[1]), float(pixel[2])};
 }
 
 /// The pixels of a block in the image, and their channels. They are worked on where they lie; only a block that is part

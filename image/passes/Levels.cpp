@@ -1,6 +1,6 @@
 #include "image/passes/Levels.h"
 
-#include "image/passes/PixelPass.h"
+#include "image/passes/EachBlock.h"
 
 #include <cstring>
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "image/numbers/Power.h"
-#include "image/passes/PixelPass.h"
+#include "image/passes/BlockWork.h"
+#include "image/passes/EachBlock.h"
 
 #include <cstdlib>
 #include <numeric>

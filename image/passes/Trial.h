@@ -1,9 +1,10 @@
 #pragma once
 
-#include "image/numbers/ErrorBound.h"
 #include "image/numbers/Single.h"
 #include "image/passes/Block.h"
+#include "image/passes/Marked.h"
 #include "image/passes/Recipe.h"
+#include "image/passes/TrialError.h"
 
 #include <algorithm>
 
@@ -15,98 +16,12 @@ namespace lumora {
 // itself. The technique is that of the static floating-point filters of computational geometry (Fortune and Van Wyk,
 // 1993).
 
-/// What a picture may hold in a channel, in a few ranges: the narrower they are, the closer are the bounds.
-inline constexpr int rangesPerChannel = 4;
-struct ChannelRanges {
-    ErrorBound at[rangesPerChannel];
-
-    /// Bytes as they are.
-    static ChannelRanges ofBytes()
-    {
-        ChannelRanges ranges;
-        for (int k = 0; k < rangesPerChannel; k++)
-            ranges.at[k] = {k * 256.0 / rangesPerChannel, (k + 1) * 256.0 / rangesPerChannel - 1.0};
-        return ranges;
-    }
-
-    /// Bytes that a curve has changed.
-    static ChannelRanges of(const ChannelCurve& curve)
-    {
-        constexpr int length = 256 / rangesPerChannel;
-        ChannelRanges ranges;
-        for (int k = 0; k < rangesPerChannel; k++) {
-            const auto [lowest, highest] = std::minmax_element(curve.at + k * length, curve.at + (k + 1) * length);
-            ranges.at[k] = {*lowest, *highest};
-        }
-        return ranges;
-    }
-};
-
-/// All that a recipe may be given.
-struct Inputs {
-    ChannelRanges red, green, blue;
-    ErrorBound weight;
-
-    static Inputs ofBytes(ErrorBound weight)
-    {
-        return {ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), ChannelRanges::ofBytes(), weight};
-    }
-};
-
-/// The results of a trial are compared with whole numbers in such parts of 1.
-inline constexpr int partBits = 14, partsOfOne = 1 << partBits;
-inline constexpr double largestResult = 2147483647.0 / partsOfOne;
-
-/// Errors up to which a trial saves time.
-inline constexpr double tolerableError = 0.05;
-
-/// How far the trial of a recipe may be off in a channel; infinite where it is not worth while.
-template <class... Step> double errorOf(const Steps<Step...>& steps, const Inputs& inputs)
-{
-    double error = 0.0;
-    for (const ErrorBound r : inputs.red.at)
-        for (const ErrorBound g : inputs.green.at)
-            for (const ErrorBound b : inputs.blue.at) {
-                const Colour<ErrorBound> c = applied(steps, Colour{r, g, b}, &inputs.weight, 0);
-                for (const ErrorBound v : {c.r, c.g, c.b}) {
-                    if (!(v.magnitude() < largestResult && v.error < tolerableError))
-                        return std::numeric_limits<double>::infinity();
-                    error = std::max(error, v.error);
-                }
-            }
-    return error;
-}
-
 /// A result in parts, held at 0.5 and 255.5: beyond them the byte is certain.
 inline constexpr auto inParts = [](float v) {
     const int parts = int(v * float(partsOfOne));
     const int notBelow = parts > partsOfOne / 2 ? parts : partsOfOne / 2;
     return notBelow < 255 * partsOfOne + partsOfOne / 2 ? notBelow : 255 * partsOfOne + partsOfOne / 2;
 };
-
-/// `function(i)` for each pixel of a block, of the first `pixels`, where `marked` is 1.
-template <class Function>
-inline void forEachMarked(const unsigned char (&marked)[blockPixels], int pixels, Function function)
-{
-    // Eight bytes of 0 or 1 as the bits of a byte, the first one as the lowest: the product brings them together in its
-    // top byte.
-    const auto bitsOf = [](const unsigned char* bytes) {
-        std::uint64_t eight;
-        std::memcpy(&eight, bytes, 8);
-        if constexpr (std::endian::native == std::endian::big)
-            eight = __builtin_bswap64(eight);
-        return eight * 0x0102040810204080u >> 56;
-    };
-    for (int first = 0; first < pixels; first += 64) {
-        std::uint64_t bits = 0;
-        for (int i = 0; i < 64; i += 8)
-            bits |= bitsOf(marked + first + i) << i;
-        if (pixels - first < 64)
-            bits &= (std::uint64_t(1) << (pixels - first)) - 1;
-        for (; bits != 0; bits &= bits - 1)
-            function(first + std::countr_zero(bits));
-    }
-}
 
 /// Pixels on which a trial does not decide are evaluated so many at a time.
 inline constexpr int groupPixels = 8;

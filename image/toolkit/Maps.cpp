@@ -1,5 +1,5 @@
 #include "image/CharImage.h"
-#include "image/passes/PixelPass.h"
+#include "image/passes/EachBlock.h"
 #include "image/toolkit/MapRows.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 #include "image/numbers/Power.h"
-#include "image/passes/Block.h"
+#include "image/numbers/Plane.h"
 
 #include <algorithm>
 #include <bit>

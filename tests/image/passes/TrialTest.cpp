@@ -1,5 +1,6 @@
 #include "image/numbers/Hues.h"
 #include "image/passes/Levels.h"
+#include "image/passes/PixelPass.h"
 #include "image/passes/RadialPass.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "image/numbers/Arithmetic.h"
+
+#include <cstddef>
+
+namespace lumora {
+
+// The pixels of a pass are worked on in blocks: bytes become three planes of floats, a loop of fixed length works on
+// the planes, and the planes become bytes again. The fixed length lets the compiler turn each loop into vector code.
+
+/// Pixels of one block; its planes stay in the first-level cache.
+inline constexpr int blockPixels = 256;
+
+/// So many pixels filled up to whole blocks.
+inline std::size_t inWholeBlocks(int pixels)
+{
+    return (std::size_t(pixels) + blockPixels - 1) / blockPixels * blockPixels;
+}
+
+/// A float per pixel of a block.
+struct alignas(64) Plane {
+    float at[blockPixels];
+};
+
+/// The channels of a block's pixels.
+struct Planes {
+    Plane r, g, b;
+
+    Rgb colour(int i) const { return {r.at[i], g.at[i], b.at[i]}; }
+    void setColour(int i, Rgb c)
+    {
+        r.at[i] = c.r;
+        g.at[i] = c.g;
+        b.at[i] = c.b;
+    }
+};
+
+} // namespace lumora
