@@ -41,7 +41,7 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
         openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), photo.reason);
         return false;
     }
-    originalExif = photo.exif;
+    originalMetadata = photo.metadata;
     setoriginalImage(photo.image);
     updateThumbnailImages();
     setCurrentFile(path);
@@ -130,7 +130,7 @@ void MainWindowController::saveFilteredImage()
         return openModalSheetWithText(tr("The photo cannot be saved."), memoryRefusal(bitmapSize(size)));
     std::printf("downsizing image to %i, ended with %f %f\n", imgOutputSize, size.width(), size.height());
     showStep(tr("Encode"));
-    const QByteArray jpeg = encodeJpeg(render, originalExif);
+    const QByteArray jpeg = encodeJpeg(render, originalMetadata);
     if (jpeg.isEmpty())
         return openModalSheetWithText(tr("The photo cannot be saved."),
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));

@@ -2,6 +2,7 @@
 
 #include "app/DragDropImageView.h"
 #include "core/GrowArray.h"
+#include "photo/PhotoMetadata.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -156,7 +157,7 @@ private:
     QImage originalDisplay; ///< its display copy
     QImage originalThumb; ///< its thumbnail copy
     QImage filtersAppliedImage; ///< the latest render
-    QByteArray originalExif; ///< what the camera wrote into the photo's file
+    PhotoMetadata originalMetadata; ///< what the camera wrote into the photo's file
     QByteArray currentFileName; ///< of the last loaded file, the name offered when saving
     QByteArray fileWhenShown;
     bool wasPainted = false;

@@ -132,7 +132,7 @@ void measureSaving(const QByteArray& photo)
             [&] { picture = renderPhoto(loaded.image, {.filter = CharImage::getFilterFromName("Helga")}); });
         const double encoding = processorSecondsOf([&] {
             QString reason;
-            if (!writeFileAtomically(saved, encodeJpeg(picture, loaded.exif), &reason))
+            if (!writeFileAtomically(saved, encodeJpeg(picture, loaded.metadata), &reason))
                 qFatal("%s", qPrintable(reason));
         });
         decode = std::min(decode, decoding);

@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!photo.image.isNull() && format != QImage::Format_RGBX8888 && format != QImage::Format_RGB32)
         __builtin_trap();
     // What the camera wrote is as hostile as the rest.
-    if (!photo.exif.isEmpty())
-        encodeJpeg(photo.image.scaled(8, 8), photo.exif);
+    if (!photo.metadata.exif.isEmpty())
+        encodeJpeg(photo.image.scaled(8, 8), photo.metadata);
     return 0;
 }

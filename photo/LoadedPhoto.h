@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QByteArray>
+#include "photo/PhotoMetadata.h"
+
 #include <QImage>
 #include <QString>
 
 /// A photo from a file, or why there is none.
 struct LoadedPhoto {
     QImage image; ///< upright, sRGB, Format_RGBX8888 or Format_RGB32, laid on white; null when refused
-    QByteArray exif; ///< what the camera wrote: the raw EXIF block of a JPEG, empty where there is none
+    PhotoMetadata metadata; ///< what the camera wrote; nothing where it is no JPEG
     QString reason; ///< for people, set when `image` is null
 };
 

@@ -104,7 +104,7 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
     const JpegMarkers markers = readJpegMarkers(file);
     if (markers.scans > maxJpegScans)
         return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
-    photo.exif = markers.exif;
+    photo.metadata.exif = markers.exif;
     file.seek(0);
     QImage image;
     const QString reason = decode(file, memory, image);

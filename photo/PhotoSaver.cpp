@@ -6,7 +6,7 @@
 #include <QColorSpace>
 #include <QImageWriter>
 
-QByteArray encodeJpeg(const QImage& image, const QByteArray& exif)
+QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata)
 {
     QImage marked = image;
     if (marked.colorSpace() != QColorSpace(QColorSpace::SRgb))
@@ -15,5 +15,5 @@ QByteArray encodeJpeg(const QImage& image, const QByteArray& exif)
     buffer.open(QIODevice::WriteOnly);
     if (!QImageWriter(&buffer, "jpeg").write(marked))
         return {};
-    return exif.isEmpty() ? buffer.data() : withExif(buffer.data(), exif, image.size());
+    return metadata.exif.isEmpty() ? buffer.data() : withExif(buffer.data(), metadata.exif, image.size());
 }

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "photo/PhotoMetadata.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QString>
 
-/// JPEG data of a picture at the encoder's default quality, marked as sRGB. `exif` is the source's raw EXIF block (see
-/// LoadedPhoto): it is kept with orientation 1, the picture's size and no thumbnail; an empty or a broken one writes
-/// none. Empty data when the picture cannot be encoded, as with a side beyond 65500 pixels.
-QByteArray encodeJpeg(const QImage& image, const QByteArray& exif);
+/// JPEG data of a picture at the encoder's default quality, marked as sRGB. `metadata` is what the source carried: its
+/// EXIF is kept with orientation 1, the picture's size and no thumbnail; an empty or a broken one writes none. Empty
+/// data when the picture cannot be encoded, as with a side beyond 65500 pixels.
+QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata);
 
 /// Writes `data` to `path` (any bytes) so that a file that stands there is replaced whole or left as it was, whatever
 /// fails. A replaced file's permissions stay; through a symbolic link its target is written. False and a `reason` for

@@ -63,7 +63,7 @@ int main(int argc, char** argv)
     const QImage render = renderPhoto(
         photo.image, {.filterIDs = &looks, .cropFilter = std::atoi(argv[4]), .borderFilter = std::atoi(argv[5])});
 
-    const QImage expected = decoded(encodeJpeg(render, photo.exif));
+    const QImage expected = decoded(encodeJpeg(render, photo.metadata));
     if (saved.isNull() || saved != expected) {
         std::fprintf(stderr, "%s: %d x %d pixels, not the %d x %d pixels of the render\n", argv[1], saved.width(),
             saved.height(), expected.width(), expected.height());

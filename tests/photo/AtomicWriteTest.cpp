@@ -205,7 +205,7 @@ private slots:
     {
         samples::writeFile(pathOf("photo.png"), samples::encoded(samples::quarters(64, 48), "png"));
         const LoadedPhoto photo = loadPhoto(pathOf("photo.png"));
-        QVERIFY(write(pathOf("photo.png"), encodeJpeg(photo.image, photo.exif)));
+        QVERIFY(write(pathOf("photo.png"), encodeJpeg(photo.image, photo.metadata)));
         QVERIFY(samples::showsQuarters(loadPhoto(pathOf("photo.png")).image, QSize(64, 48)));
     }
 

@@ -60,7 +60,7 @@ private slots:
         QVERIFY(samples::showsQuarters(photo.image, upright.size()));
 
         // What is saved stands upright too, for a viewer that turns by the orientation and for one that does not.
-        samples::writeFile(path, encodeJpeg(photo.image, photo.exif));
+        samples::writeFile(path, encodeJpeg(photo.image, photo.metadata));
         QVERIFY(samples::showsQuarters(loadPhoto(path).image, upright.size()));
         QVERIFY(samples::showsQuarters(QImage(QString::fromLocal8Bit(path)), upright.size()));
     }

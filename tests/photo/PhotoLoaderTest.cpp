@@ -127,7 +127,7 @@ private slots:
         QVERIFY(photo.image.format() == QImage::Format_RGBX8888 || photo.image.format() == QImage::Format_RGB32);
         QCOMPARE(photo.image.colorSpace(), QColorSpace(QColorSpace::SRgb));
         QVERIFY(samples::showsQuarters(photo.image, QSize(64, 48)));
-        QVERIFY(photo.exif.isEmpty());
+        QVERIFY(photo.metadata.exif.isEmpty());
     }
 
     void firstFrameOfAnAnimation()

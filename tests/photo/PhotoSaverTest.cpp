@@ -52,8 +52,8 @@ private slots:
     void jpegIsMarkedAsSRgb()
     {
         const QImage picture = samples::quarters(64, 48);
-        for (const QByteArray& exif : {QByteArray(), cameraPhoto().exif}) {
-            const QByteArray file = encodeJpeg(picture, exif);
+        for (const PhotoMetadata& metadata : {PhotoMetadata(), cameraPhoto().metadata}) {
+            const QByteArray file = encodeJpeg(picture, metadata);
             QVERIFY(file.startsWith("\xFF\xD8\xFF"));
             QVERIFY(file.contains("ICC_PROFILE"));
             QCOMPARE(decoded(file).colorSpace(), QColorSpace(QColorSpace::SRgb));
@@ -96,8 +96,8 @@ private slots:
     {
         QFETCH(bool, bigEndian);
         const LoadedPhoto photo = cameraPhoto(6, bigEndian);
-        QVERIFY(!photo.exif.isEmpty());
-        const QByteArray file = encodeJpeg(samples::noise(30, 20), photo.exif);
+        QVERIFY(!photo.metadata.exif.isEmpty());
+        const QByteArray file = encodeJpeg(samples::noise(30, 20), photo.metadata);
         const Exiv2::ExifData exif = exifOf(file);
         QCOMPARE(value(exif, "Exif.Image.Make"), QStringLiteral("Prism"));
         QCOMPARE(value(exif, "Exif.Image.Model"), QStringLiteral("Model 7"));
@@ -111,14 +111,14 @@ private slots:
     void whatNoLongerHoldsIsChanged()
     {
         const LoadedPhoto photo = cameraPhoto();
-        const Exiv2::ExifData exif = exifOf(encodeJpeg(samples::noise(30, 20), photo.exif));
+        const Exiv2::ExifData exif = exifOf(encodeJpeg(samples::noise(30, 20), photo.metadata));
         QCOMPARE(value(exif, "Exif.Image.Orientation"), QStringLiteral("1"));
         QCOMPARE(value(exif, "Exif.Photo.PixelXDimension"), QStringLiteral("30"));
         QCOMPARE(value(exif, "Exif.Photo.PixelYDimension"), QStringLiteral("20"));
         QCOMPARE(value(exif, "Exif.Image.ImageWidth"), QStringLiteral("30"));
         QCOMPARE(value(exif, "Exif.Image.ImageLength"), QStringLiteral("none")); // as in the source
         QCOMPARE(value(exif, "Exif.Photo.ColorSpace"), QStringLiteral("1"));
-        QVERIFY(QByteArray(photo.exif).contains("\xFF\xD8\xFF")); // the source's thumbnail
+        QVERIFY(QByteArray(photo.metadata.exif).contains("\xFF\xD8\xFF")); // the source's thumbnail
         QCOMPARE(Exiv2::ExifThumbC(exif).copy().size_, 0);
         for (const auto& entry : exif)
             QVERIFY2(entry.groupName() != "Thumbnail", entry.key().c_str());
@@ -126,12 +126,12 @@ private slots:
 
     void savedAgainAndAgain()
     {
-        QByteArray exif = cameraPhoto().exif;
+        PhotoMetadata metadata = cameraPhoto().metadata;
         QTemporaryDir folder;
         const QByteArray path = folder.path().toLocal8Bit() + "/photo.jpg";
         for (int round = 0; round < 3; round++) {
-            samples::writeFile(path, encodeJpeg(samples::noise(30, 20), exif));
-            exif = loadPhoto(path).exif;
+            samples::writeFile(path, encodeJpeg(samples::noise(30, 20), metadata));
+            metadata = loadPhoto(path).metadata;
         }
         QCOMPARE(value(exifOf(samples::readFile(path)), "Exif.Image.Make"), QStringLiteral("Prism"));
     }
@@ -146,17 +146,17 @@ private slots:
     void brokenExifNeverPreventsSaving()
     {
         const QImage picture = samples::quarters(64, 48);
-        const QByteArray whole = cameraPhoto().exif;
-        QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, QByteArray(100, 'x'))), QSize(64, 48)));
-        QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, QByteArray(1, 'I'))), QSize(64, 48)));
+        const QByteArray whole = cameraPhoto().metadata.exif;
+        QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, {QByteArray(100, 'x')})), QSize(64, 48)));
+        QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, {QByteArray(1, 'I')})), QSize(64, 48)));
         for (qsizetype length = 0; length < whole.size(); length += 13)
-            QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, whole.left(length))), QSize(64, 48)));
+            QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, {whole.left(length)})), QSize(64, 48)));
         std::mt19937 random(3);
         for (int round = 0; round < 300; round++) {
             QByteArray broken = whole;
             for (int i = 0; i < 8; i++)
                 broken[qsizetype(random() % 300)] = char(random());
-            QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, broken)), QSize(64, 48)));
+            QVERIFY(samples::showsQuarters(decoded(encodeJpeg(picture, {broken})), QSize(64, 48)));
         }
     }
 
@@ -170,7 +170,7 @@ private slots:
         samples::writeFile(path, file);
         const LoadedPhoto photo = loadPhoto(path);
         QVERIFY(samples::showsQuarters(photo.image, QSize(64, 48)));
-        QVERIFY(!encodeJpeg(photo.image, photo.exif).isEmpty());
+        QVERIFY(!encodeJpeg(photo.image, photo.metadata).isEmpty());
     }
 };
 
