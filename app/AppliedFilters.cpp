@@ -27,18 +27,14 @@ void MainWindowController::addAppliedFilter(int filter)
 
 void MainWindowController::removeAppliedFilter(int filter)
 {
-    const int index = filterIDs.find(filter);
-    if (index >= 0)
-        filterIDs.removeAt(index);
+    filterIDs.remove(filter);
     showAppliedFilters();
 }
 
 void MainWindowController::toggleAppliedFilter(int filter)
 {
-    if (filterIDs.find(filter) >= 0)
-        removeAppliedFilter(filter);
-    else
-        addAppliedFilter(filter);
+    filterIDs.toggle(filter);
+    showAppliedFilters();
 }
 
 void MainWindowController::removeAllFilters()
@@ -49,26 +45,23 @@ void MainWindowController::removeAllFilters()
 
 void MainWindowController::removeOtherFilters(int filter)
 {
-    const bool applied = filterIDs.find(filter) >= 0;
-    removeAllFilters();
-    if (applied)
-        addAppliedFilter(filter);
+    filterIDs.keepOnly(filter);
+    showAppliedFilters();
 }
 
 void MainWindowController::pressFilterButton(int filter)
 {
-    const Work work(*this, stepsOfRender() + 1, takesLong(originalDisplay));
+    const Work work(m_work, stepsOfRender() + 1, takesLong(m_photo.display()));
     if (!work)
         return showAppliedFilters();
-    if (!doMultiFiltering)
-        removeOtherFilters(filter);
-    toggleAppliedFilter(filter);
+    filterIDs.press(filter, doMultiFiltering);
+    showAppliedFilters();
     applyMultipleFilters();
 }
 
 void MainWindowController::applyOriginalFilter()
 {
-    const Work work(*this);
+    const Work work = renderOfPreview();
     if (!work)
         return showAppliedFilters();
     removeAllFilters();
@@ -77,8 +70,8 @@ void MainWindowController::applyOriginalFilter()
 
 void MainWindowController::applyMultipleFilters()
 {
-    const Work work(*this);
-    if (!work || originalImage.isNull())
+    const Work work = renderOfPreview();
+    if (!work || m_photo.isNull())
         return;
     QString reason;
     ui->mainImageView->setImage(saveMultipleFilters(true, &reason));
@@ -89,7 +82,7 @@ void MainWindowController::applyMultipleFilters()
 QImage MainWindowController::saveMultipleFilters(bool preview, QString* reason)
 {
     // The render before is let go first: it may be as large as the photo.
-    filtersAppliedImage = preview ? originalDisplay : originalImage;
+    filtersAppliedImage = preview ? m_photo.display() : m_photo.original();
     const QImage render = filterNSImage(filtersAppliedImage, -1, false, reason);
     filtersAppliedImage = render.isNull() ? ui->mainImageView->image() : render;
     return render;
@@ -106,7 +99,7 @@ QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter,
     settings.asThumbnail = asThumbnail;
     RenderProgress progress;
     if (!asThumbnail) // painting the bar takes longer than a thumbnail
-        progress = [this](const char* step) { showStep(QString::fromUtf8(step)); };
+        progress = [this](const char* step) { m_work.beginStep(QString::fromUtf8(step)); };
     return renderPhoto(image, settings, progress, reason);
 }
 
@@ -119,14 +112,13 @@ void MainWindowController::updateBreadcrumb()
 
 void MainWindowController::multiFilterToggled()
 {
-    const Work work(*this);
+    const Work work = renderOfPreview();
     if (!work)
         return showSwitch(*ui->chkMultiFilter, !ui->chkMultiFilter->isChecked());
     doMultiFiltering = ui->chkMultiFilter->isChecked();
     if (!doMultiFiltering) {
         // Only the look that was added last stays.
-        if (filterIDs.numThings > 0)
-            removeOtherFilters(filterIDs.theArray[filterIDs.numThings - 1]);
+        removeOtherFilters(filterIDs.last());
         applyMultipleFilters();
     }
     updateBreadcrumb();
@@ -134,7 +126,7 @@ void MainWindowController::multiFilterToggled()
 
 void MainWindowController::useRandomToggled()
 {
-    const Work work(*this);
+    const Work work = renderOfPreview();
     if (!work)
         return showSwitch(*ui->chkRandomness, !ui->chkRandomness->isChecked());
     CharImage::useRandom = ui->chkRandomness->isChecked() ? 1 : 0;
@@ -144,7 +136,7 @@ void MainWindowController::useRandomToggled()
 
 void MainWindowController::reExpose()
 {
-    const Work work(*this);
+    const Work work = renderOfPreview();
     if (!work)
         return;
     CharImage::renewRandomNumbers();
@@ -157,10 +149,8 @@ void MainWindowController::reExpose()
 /// Buttons and menu entries show which looks are in the list; "Original" stands for an empty one.
 void MainWindowController::showAppliedFilters()
 {
-    for (QAction* action : lookActions) {
-        const int filter = action->data().toInt();
-        action->setChecked(filter == 14 ? filterIDs.numThings == 0 : filterIDs.find(filter) >= 0);
-    }
+    for (QAction* action : lookActions)
+        action->setChecked(filterIDs.isShownAsApplied(action->data().toInt()));
     for (int i = 0; i < filterButtons.numThings; i++)
         showSwitch(*filterButtons.theArray[i], lookActions[i]->isChecked());
 }

@@ -9,40 +9,28 @@
 #include <QColorSpace>
 #include <QFileInfo>
 #include <QTransform>
-#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 constexpr qint64 largeFile = 2'000'000; ///< bytes; a smaller one is decoded in a moment
-constexpr int longestStrip = 10; ///< how many times as long as broad a thumbnail copy may be
-
-/// The middle of a long strip, all of any other picture. A thumbnail shows no more than the middle, in a square as
-/// large as its copy is long: those of whole strips would take gigabytes.
-QImage middleOf(const QImage& image)
-{
-    const int longest = std::min(image.width(), image.height()) * longestStrip;
-    QRect middle(QPoint(), image.size().boundedTo({longest, longest}));
-    middle.moveCenter(image.rect().center());
-    return middle == image.rect() ? image : image.copy(middle);
-}
 
 } // namespace
 
 bool MainWindowController::loadImageFromFile(const QByteArray& path)
 {
-    const Work work(*this, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
+    const Work work(m_work, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
     if (!work)
         return false;
     qInfo("%s", path.constData());
-    showStep(tr("Decode"));
-    LoadedPhoto photo = loadPhoto(path);
-    if (photo.image.isNull()) {
-        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), photo.reason);
+    m_work.beginStep(tr("Decode"));
+    const LoadedPhoto loaded = loadPhoto(path);
+    if (loaded.image.isNull()) {
+        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), loaded.reason);
         return false;
     }
-    originalMetadata = photo.metadata;
-    setoriginalImage(photo.image);
+    m_photo.metadata = loaded.metadata;
+    setoriginalImage(loaded.image);
     updateThumbnailImages();
     setCurrentFile(path);
     applyMultipleFilters();
@@ -51,24 +39,16 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
 
 void MainWindowController::setCurrentFile(const QByteArray& path)
 {
-    currentFileName = fileNameOf(path);
+    m_photo.fileName = fileNameOf(path);
     // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
-    const QString name = shownName(currentFileName).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    const QString name = shownName(m_photo.fileName).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(QStringLiteral("Lumora - ") + name);
 }
 
 void MainWindowController::setoriginalImage(const QImage& image)
 {
-    originalImage = image;
-    const QSize size = image.size();
-    originalDisplay = scaledTo(image, bitmapSize(displaySize(size, displayRes)));
-    // Points of a sharp screen are several pixels.
-    const QImage middle = middleOf(image);
-    const QSize thumb = bitmapSize(thumbnailSize(middle.size()) * devicePixelRatioF());
-    // The display copy shows the same, and a large photo takes a while to read once more.
-    const bool isAmple = middle.size() == size && (2 * thumb).boundedTo(originalDisplay.size()) == 2 * thumb;
-    originalThumb = scaledTo(isAmple ? originalDisplay : middle, thumb);
-    ui->mainImageView->setComparedImage(originalDisplay);
+    m_photo.setOriginal(image, displayRes, devicePixelRatioF());
+    ui->mainImageView->setComparedImage(m_photo.display());
 }
 
 QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
@@ -88,13 +68,13 @@ QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
 
 void MainWindowController::rotateImage(float degrees)
 {
-    const Work work(*this);
-    if (!work || originalImage.isNull())
+    const Work work = renderOfPreview();
+    if (!work || m_photo.isNull())
         return;
-    const QImage turned = rotateNSImage(originalImage, degrees);
+    const QImage turned = rotateNSImage(m_photo.original(), degrees);
     if (turned.isNull())
         return openModalSheetWithText(
-            tr("The photo cannot be turned."), memoryRefusal(originalImage.size().transposed()));
+            tr("The photo cannot be turned."), memoryRefusal(m_photo.original().size().transposed()));
     setoriginalImage(turned);
     applyMultipleFilters();
     updateThumbnailImages();
@@ -102,8 +82,8 @@ void MainWindowController::rotateImage(float degrees)
 
 void MainWindowController::flattenImage()
 {
-    const Work work(*this, stepsOfRender() + 2, takesLong(originalImage));
-    if (!work || originalImage.isNull())
+    const Work work(m_work, stepsOfRender() + 2, takesLong(m_photo.original()));
+    if (!work || m_photo.isNull())
         return;
     QString reason;
     const QImage render = saveMultipleFilters(false, &reason);
@@ -116,8 +96,8 @@ void MainWindowController::flattenImage()
 
 void MainWindowController::saveFilteredImage()
 {
-    const Work work(*this, stepsOfRender() + 1, takesLong(originalImage));
-    if (!work || originalImage.isNull())
+    const Work work(m_work, stepsOfRender() + 1, takesLong(m_photo.original()));
+    if (!work || m_photo.isNull())
         return;
     QString reason;
     QImage render = saveMultipleFilters(false, &reason);
@@ -129,8 +109,8 @@ void MainWindowController::saveFilteredImage()
     if (render.isNull())
         return openModalSheetWithText(tr("The photo cannot be saved."), memoryRefusal(bitmapSize(size)));
     std::printf("downsizing image to %i, ended with %f %f\n", imgOutputSize, size.width(), size.height());
-    showStep(tr("Encode"));
-    const QByteArray jpeg = encodeJpeg(render, originalMetadata);
+    m_work.beginStep(tr("Encode"));
+    const QByteArray jpeg = encodeJpeg(render, m_photo.metadata);
     if (jpeg.isEmpty())
         return openModalSheetWithText(tr("The photo cannot be saved."),
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));

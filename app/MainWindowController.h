@@ -1,10 +1,11 @@
 #pragma once
 
 #include "app/DragDropImageView.h"
+#include "app/LookList.h"
+#include "app/Photo.h"
+#include "app/WorkInProgress.h"
 #include "core/GrowArray.h"
-#include "photo/PhotoMetadata.h"
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <memory>
@@ -17,10 +18,11 @@ namespace Ui {
 class MainWindow;
 }
 
-/// The one controller: owns the window and everything of the document. Its definitions are grouped by concern:
-/// Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp, Document.cpp, Panels.cpp and Work.cpp. The rules that need
-/// no window are in Rules.h.
-class MainWindowController : public QMainWindow, public DropDelegate {
+/// The one controller: owns the window, the photo, the list of looks and the work in progress, and brings them
+/// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
+/// Document.cpp, Panels.cpp and Work.cpp. What needs no window stands elsewhere: the state in Photo.h, LookList.h and
+/// WorkInProgress.h, the rules in Rules.h.
+class MainWindowController : public QMainWindow, public DropDelegate, private WorkDisplay {
     Q_OBJECT
 
 public:
@@ -38,7 +40,7 @@ public:
     void updateFromSettings();
 
     // ---- Applied looks ----
-    lumora::GrowArray<int> filterIDs; ///< distinct filter numbers in the order in which they were switched on
+    LookList filterIDs;
     void addAppliedFilter(int filter);
     void removeAppliedFilter(int filter);
     void toggleAppliedFilter(int filter);
@@ -56,9 +58,9 @@ public:
 
     // ---- Document ----
     int displayRes = 800; ///< longest side of the display copy, in pixels of the screen
-    const QImage& getoriginalImage() const { return originalImage; }
-    const QImage& getoriginalDisplay() const { return originalDisplay; }
-    const QImage& getoriginalThumb() const { return originalThumb; }
+    const QImage& getoriginalImage() const { return m_photo.original(); }
+    const QImage& getoriginalDisplay() const { return m_photo.display(); }
+    const QImage& getoriginalThumb() const { return m_photo.thumb(); }
     const QImage& getFiltersAppliedImage() const { return filtersAppliedImage; }
     void setFiltersAppliedImage(const QImage& image) { filtersAppliedImage = image; }
     void setoriginalImage(const QImage& image);
@@ -115,24 +117,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// Work on the photo. It shows its steps when it takes long, and while it lets the window paint no other work may
-    /// begin: that one's guard is false, and it must do nothing. Work inside work, called by it, is part of it.
-    class Work {
-    public:
-        /// `steps`: how many it has; `isLong`: known to take more than a moment.
-        Work(MainWindowController& controller, int steps, bool isLong);
-        /// One render of the preview.
-        explicit Work(MainWindowController& controller);
-        ~Work();
-        Work(const Work&) = delete;
-        Work& operator=(const Work&) = delete;
-        explicit operator bool() const { return allowed; }
-
-    private:
-        MainWindowController& controller;
-        bool allowed;
-    };
-
     void awakeFromNib();
     void completeNibLoading();
     void windowDidLoad();
@@ -141,7 +125,9 @@ private:
     /// The photo's own work, or the display copy's: small pictures are done before a progress bar could be read.
     static bool takesLong(const QImage& image);
     int stepsOfRender() const;
-    void showStep(const QString& name);
+    Work renderOfPreview(); ///< of the applied list
+    void showStep(const QString& name, int done, int steps) override;
+    void workEnded(bool closeAsked) override;
     void showAppliedFilters();
     void setCurrentFile(const QByteArray& path);
     void rotateImage(float degrees);
@@ -153,20 +139,10 @@ private:
     QList<QAction*> lookActions; ///< the Looks menu; each carries its filter number
     QTimer resizeSettles; ///< runs while the window is being resized beyond the display copy
 
-    QImage originalImage; ///< the photo at full size
-    QImage originalDisplay; ///< its display copy
-    QImage originalThumb; ///< its thumbnail copy
+    WorkInProgress m_work{*this};
+    Photo m_photo;
     QImage filtersAppliedImage; ///< the latest render
-    PhotoMetadata originalMetadata; ///< what the camera wrote into the photo's file
-    QByteArray currentFileName; ///< of the last loaded file, the name offered when saving
     QByteArray fileWhenShown;
     bool wasPainted = false;
     QString panelFolder; ///< where a panel was left; empty before the first
-
-    int workDepth = 0;
-    int stepsDone = 0;
-    bool workIsLong = false;
-    bool mayBeEntered = true; ///< false while work lets the window paint or waits for a panel
-    bool closeAfterWork = false;
-    QElapsedTimer workTime;
 };

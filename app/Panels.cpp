@@ -40,9 +40,8 @@ void prepare(QFileDialog& panel, const QString& folder)
 bool MainWindowController::runPanel(QFileDialog& panel)
 {
     ui->progressBar->hide(); // nothing is worked on while the panel waits
-    mayBeEntered = workDepth == 0;
+    const WorkWaits waits(m_work);
     const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
-    mayBeEntered = true;
     if (confirmed)
         panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
     return confirmed;
@@ -50,7 +49,7 @@ bool MainWindowController::runPanel(QFileDialog& panel)
 
 void MainWindowController::loadImageButtonPressed()
 {
-    if (!mayBeEntered)
+    if (!m_work.mayBegin())
         return;
     QStringList chosen;
     {
@@ -76,7 +75,7 @@ QByteArray MainWindowController::askWhereToSave()
     prepare(panel, panelFolder);
     // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
     // is what it asks about: a name that cannot be shown is not taken back.
-    const QString proposed = shownName(currentFileName).replace(u'"', u'\'');
+    const QString proposed = shownName(m_photo.fileName).replace(u'"', u'\'');
     panel.selectFile(proposed); // after the types, which would change the name's extension to theirs
     if (!runPanel(panel))
         return {};

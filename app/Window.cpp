@@ -130,10 +130,10 @@ void MainWindowController::connectControls()
 
 void MainWindowController::updateThumbnailImages()
 {
-    if (originalImage.isNull() || originalThumb.isNull())
+    if (m_photo.isNull() || m_photo.thumb().isNull())
         return;
     for (int i = 0; i < filterButtons.numThings; i++) {
-        const QImage thumbnail = filterNSImage(originalThumb, buttonFilters[i], true);
+        const QImage thumbnail = filterNSImage(m_photo.thumb(), buttonFilters[i], true);
         filterButtons.theArray[i]->setIcon(QPixmap::fromImage(thumbnail));
     }
 }
@@ -157,13 +157,13 @@ void MainWindowController::windowDidResize()
 {
     if (largerFrameSide() <= displayRes)
         return;
-    const Work work(*this);
+    const Work work = renderOfPreview();
     if (!work)
         return resizeSettles.start();
     displayRes = displayResAfterResize(displayRes, largerFrameSide());
-    if (originalImage.isNull())
+    if (m_photo.isNull())
         return;
-    setoriginalImage(originalImage);
+    setoriginalImage(m_photo.original());
     applyMultipleFilters();
 }
 

@@ -4,40 +4,11 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 
-// Everything runs on the one thread: between two steps of long work the window paints itself, and nothing else begins.
-
 namespace {
 
-constexpr qint64 moment = 300; ///< milliseconds that nobody needs to be told about
 constexpr qint64 largePhoto = 4'000'000; ///< pixels
 
 } // namespace
-
-MainWindowController::Work::Work(MainWindowController& owner, int steps, bool isLong)
-    : controller(owner)
-    , allowed(owner.mayBeEntered)
-{
-    if (!allowed || controller.workDepth++ > 0)
-        return;
-    controller.workTime.start();
-    controller.workIsLong = isLong;
-    controller.stepsDone = 0;
-    controller.ui->progressBar->setMaximum(steps);
-}
-
-MainWindowController::Work::Work(MainWindowController& owner)
-    : Work(owner, owner.stepsOfRender(), takesLong(owner.originalDisplay))
-{
-}
-
-MainWindowController::Work::~Work()
-{
-    if (!allowed || --controller.workDepth > 0)
-        return;
-    controller.ui->progressBar->hide();
-    if (std::exchange(controller.closeAfterWork, false))
-        QMetaObject::invokeMethod(&controller, &QWidget::close, Qt::QueuedConnection);
-}
 
 bool MainWindowController::takesLong(const QImage& image)
 {
@@ -49,24 +20,32 @@ int MainWindowController::stepsOfRender() const
     return filterIDs.numThings + 2; // fit, the looks, border
 }
 
-void MainWindowController::showStep(const QString& name)
+Work MainWindowController::renderOfPreview()
 {
-    stepsDone++;
-    if (workDepth == 0 || !isVisible() || (!workIsLong && workTime.elapsed() < moment))
+    return Work(m_work, stepsOfRender(), takesLong(m_photo.display()));
+}
+
+void MainWindowController::showStep(const QString& name, int done, int steps)
+{
+    if (!isVisible())
         return;
-    mayBeEntered = false; // the bar may paint at once
     ui->progressBar->setFormat(name);
-    ui->progressBar->setMaximum(qMax(ui->progressBar->maximum(), stepsDone));
-    ui->progressBar->setValue(stepsDone - 1);
+    ui->progressBar->setMaximum(steps);
+    ui->progressBar->setValue(done);
     ui->progressBar->show();
     ui->progressBar->repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    mayBeEntered = true;
+}
+
+void MainWindowController::workEnded(bool closeAsked)
+{
+    ui->progressBar->hide();
+    if (closeAsked)
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 void MainWindowController::closeEvent(QCloseEvent* event)
 {
     // Closed in the middle of work: it is finished first.
-    closeAfterWork = workDepth > 0;
-    event->setAccepted(!closeAfterWork);
+    event->setAccepted(m_work.mayClose());
 }

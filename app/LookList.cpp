@@ -1,0 +1,47 @@
+#include "app/LookList.h"
+
+namespace {
+
+constexpr int original = 14; ///< the filter number of "Original"
+
+} // namespace
+
+bool LookList::isShownAsApplied(int filter) const
+{
+    return filter == original ? numThings == 0 : contains(filter);
+}
+
+int LookList::last() const
+{
+    return numThings > 0 ? theArray[numThings - 1] : original;
+}
+
+void LookList::remove(int filter)
+{
+    const int index = find(filter);
+    if (index >= 0)
+        removeAt(index);
+}
+
+void LookList::toggle(int filter)
+{
+    if (contains(filter))
+        remove(filter);
+    else
+        add(filter);
+}
+
+void LookList::keepOnly(int filter)
+{
+    const bool applied = contains(filter);
+    clear();
+    if (applied)
+        add(filter);
+}
+
+void LookList::press(int filter, bool multi)
+{
+    if (!multi)
+        keepOnly(filter);
+    toggle(filter);
+}
