@@ -74,7 +74,7 @@ void MainWindowController::applyMultipleFilters()
     if (!work || m_photo.isNull())
         return;
     QString reason;
-    ui->mainImageView->setImage(saveMultipleFilters(true, &reason));
+    m_ui->mainImageView->setImage(saveMultipleFilters(true, &reason));
     if (!reason.isEmpty())
         openModalSheetWithText(tr("The preview cannot be shown."), reason);
 }
@@ -82,9 +82,9 @@ void MainWindowController::applyMultipleFilters()
 QImage MainWindowController::saveMultipleFilters(bool preview, QString* reason)
 {
     // The render before is let go first: it may be as large as the photo.
-    filtersAppliedImage = preview ? m_photo.display() : m_photo.original();
-    const QImage render = filterNSImage(filtersAppliedImage, -1, false, reason);
-    filtersAppliedImage = render.isNull() ? ui->mainImageView->image() : render;
+    m_filtersAppliedImage = preview ? m_photo.display() : m_photo.original();
+    const QImage render = filterNSImage(m_filtersAppliedImage, -1, false, reason);
+    m_filtersAppliedImage = render.isNull() ? m_ui->mainImageView->image() : render;
     return render;
 }
 
@@ -106,16 +106,16 @@ QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter,
 void MainWindowController::updateBreadcrumb()
 {
     const QString text = breadcrumb(filterIDs, doMultiFiltering);
-    ui->filtersText->setText(text);
-    ui->filtersText->setToolTip(text);
+    m_ui->filtersText->setText(text);
+    m_ui->filtersText->setToolTip(text);
 }
 
 void MainWindowController::multiFilterToggled()
 {
     const Work work = renderOfPreview();
     if (!work)
-        return showSwitch(*ui->chkMultiFilter, !ui->chkMultiFilter->isChecked());
-    doMultiFiltering = ui->chkMultiFilter->isChecked();
+        return showSwitch(*m_ui->chkMultiFilter, !m_ui->chkMultiFilter->isChecked());
+    doMultiFiltering = m_ui->chkMultiFilter->isChecked();
     if (!doMultiFiltering) {
         // Only the look that was added last stays.
         removeOtherFilters(filterIDs.last());
@@ -128,8 +128,8 @@ void MainWindowController::useRandomToggled()
 {
     const Work work = renderOfPreview();
     if (!work)
-        return showSwitch(*ui->chkRandomness, !ui->chkRandomness->isChecked());
-    CharImage::useRandom = ui->chkRandomness->isChecked() ? 1 : 0;
+        return showSwitch(*m_ui->chkRandomness, !m_ui->chkRandomness->isChecked());
+    CharImage::useRandom = m_ui->chkRandomness->isChecked() ? 1 : 0;
     settingChanged();
     updateThumbnailImages();
 }
@@ -140,7 +140,7 @@ void MainWindowController::reExpose()
     if (!work)
         return;
     CharImage::renewRandomNumbers();
-    showSwitch(*ui->chkRandomness, true);
+    showSwitch(*m_ui->chkRandomness, true);
     CharImage::useRandom = 1;
     settingChanged();
     updateThumbnailImages();
@@ -149,8 +149,8 @@ void MainWindowController::reExpose()
 /// Buttons and menu entries show which looks are in the list; "Original" stands for an empty one.
 void MainWindowController::showAppliedFilters()
 {
-    for (QAction* action : lookActions)
+    for (QAction* action : m_lookActions)
         action->setChecked(filterIDs.isShownAsApplied(action->data().toInt()));
     for (int i = 0; i < filterButtons.numThings; i++)
-        showSwitch(*filterButtons.theArray[i], lookActions[i]->isChecked());
+        showSwitch(*filterButtons.theArray[i], m_lookActions[i]->isChecked());
 }

@@ -48,7 +48,7 @@ void MainWindowController::setCurrentFile(const QByteArray& path)
 void MainWindowController::setoriginalImage(const QImage& image)
 {
     m_photo.setOriginal(image, displayRes, devicePixelRatioF());
-    ui->mainImageView->setComparedImage(m_photo.display());
+    m_ui->mainImageView->setComparedImage(m_photo.display());
 }
 
 QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)

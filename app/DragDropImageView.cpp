@@ -32,28 +32,28 @@ DragDropImageView::DragDropImageView(QWidget* parent)
 void DragDropImageView::setImage(const QImage& image)
 {
     const QRect before = shownArea();
-    rendered = image;
+    m_rendered = image;
     update(before | shownArea());
 }
 
 void DragDropImageView::setComparedImage(const QImage& image)
 {
-    compared = image;
-    if (comparing)
+    m_compared = image;
+    if (m_comparing)
         update();
 }
 
 void DragDropImageView::setComparing(bool on)
 {
-    if (comparing == on)
+    if (m_comparing == on)
         return;
-    comparing = on;
+    m_comparing = on;
     update();
 }
 
 const QImage& DragDropImageView::shownImage() const
 {
-    return comparing && !compared.isNull() ? compared : rendered;
+    return m_comparing && !m_compared.isNull() ? m_compared : m_rendered;
 }
 
 QSize DragDropImageView::shownPixels() const
@@ -82,7 +82,7 @@ QRect DragDropImageView::shownArea() const
 const QImage& DragDropImageView::fitted()
 {
     const QImage& shown = shownImage();
-    Fitted& fit = fittedImages[comparing];
+    Fitted& fit = m_fittedImages[m_comparing];
     if (fit.of != shown.cacheKey() || fit.image.size() != shownPixels()) {
         fit.of = shown.cacheKey();
         fit.image = scaledTo(shown, shownPixels());
@@ -100,7 +100,7 @@ Qt::DropAction DragDropImageView::draggingEntered(const QMimeData* content, Qt::
 bool DragDropImageView::performDragOperation(const QMimeData* content)
 {
     const QByteArrayList paths = filePaths(content);
-    return !paths.isEmpty() && dropDelegate && dropDelegate->loadImageFromFile(paths.first());
+    return !paths.isEmpty() && m_dropDelegate && m_dropDelegate->loadImageFromFile(paths.first());
 }
 
 QSize DragDropImageView::sizeHint() const
@@ -117,7 +117,7 @@ void DragDropImageView::paintEvent(QPaintEvent*)
     } else {
         painter.drawImage(imageRect(), fitted());
     }
-    if (hasFocus() && focusByKey) {
+    if (hasFocus() && m_focusByKey) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
@@ -158,5 +158,5 @@ void DragDropImageView::mouseReleaseEvent(QMouseEvent* event)
 void DragDropImageView::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);
-    focusByKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    m_focusByKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
 }

@@ -23,7 +23,7 @@ class DragDropImageView : public QWidget {
 public:
     explicit DragDropImageView(QWidget* parent = nullptr);
 
-    QImage image() const { return rendered; }
+    QImage image() const { return m_rendered; }
     void setImage(const QImage& image);
     /// What is shown while comparing.
     void setComparedImage(const QImage& image);
@@ -33,8 +33,8 @@ public:
     /// Where the picture stands, in the coordinates of the widget.
     QRectF imageRect() const;
 
-    DropDelegate* delegate() const { return dropDelegate; }
-    void setDelegate(DropDelegate* delegate) { dropDelegate = delegate; } ///< not owned
+    DropDelegate* delegate() const { return m_dropDelegate; }
+    void setDelegate(DropDelegate* delegate) { m_dropDelegate = delegate; } ///< not owned
 
     bool isEditable() const { return false; }
     bool allowsCutCopyPaste() const { return false; }
@@ -65,9 +65,9 @@ private:
     QRect shownArea() const;
     const QImage& fitted();
 
-    QImage rendered, compared;
-    Fitted fittedImages[2]; ///< of the render and of the compared picture
-    bool comparing = false;
-    bool focusByKey = false; ///< a frame would only disturb whoever points at the photo
-    DropDelegate* dropDelegate = nullptr;
+    QImage m_rendered, m_compared;
+    Fitted m_fittedImages[2]; ///< of the render and of the compared picture
+    bool m_comparing = false;
+    bool m_focusByKey = false; ///< a frame would only disturb whoever points at the photo
+    DropDelegate* m_dropDelegate = nullptr;
 };

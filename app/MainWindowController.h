@@ -61,14 +61,14 @@ public:
     const QImage& getoriginalImage() const { return m_photo.original(); }
     const QImage& getoriginalDisplay() const { return m_photo.display(); }
     const QImage& getoriginalThumb() const { return m_photo.thumb(); }
-    const QImage& getFiltersAppliedImage() const { return filtersAppliedImage; }
-    void setFiltersAppliedImage(const QImage& image) { filtersAppliedImage = image; }
+    const QImage& getFiltersAppliedImage() const { return m_filtersAppliedImage; }
+    void setFiltersAppliedImage(const QImage& image) { m_filtersAppliedImage = image; }
     void setoriginalImage(const QImage& image);
     /// True when the file of that path (any bytes) was taken as the new photo. Otherwise nothing changes, and a sheet
     /// says why.
     bool loadImageFromFile(const QByteArray& path) override;
     /// The same as soon as the window has been painted.
-    void openFileWhenShown(const QByteArray& path) { fileWhenShown = path; }
+    void openFileWhenShown(const QByteArray& path) { m_fileWhenShown = path; }
     /// Scales to the longer side `maxSide`, also upwards; gives the exact size before it was rounded to pixels.
     static QSizeF downsizeNSImage(QImage& image, int maxSide);
     /// A copy turned by quarter turns; positive degrees turn counter-clockwise.
@@ -135,14 +135,14 @@ private:
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave();
 
-    std::unique_ptr<Ui::MainWindow> ui;
-    QList<QAction*> lookActions; ///< the Looks menu; each carries its filter number
-    QTimer resizeSettles; ///< runs while the window is being resized beyond the display copy
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
+    QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 
     WorkInProgress m_work{*this};
     Photo m_photo;
-    QImage filtersAppliedImage; ///< the latest render
-    QByteArray fileWhenShown;
-    bool wasPainted = false;
-    QString panelFolder; ///< where a panel was left; empty before the first
+    QImage m_filtersAppliedImage; ///< the latest render
+    QByteArray m_fileWhenShown;
+    bool m_wasPainted = false;
+    QString m_panelFolder; ///< where a panel was left; empty before the first
 };

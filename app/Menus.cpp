@@ -12,14 +12,14 @@ void MainWindowController::buildMenus()
 {
     using Self = MainWindowController;
 
-    QMenu* file = ui->menubar->addMenu(tr("&File"));
+    QMenu* file = m_ui->menubar->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
     file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
     file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);
 
-    QMenu* photo = ui->menubar->addMenu(tr("&Photo"));
+    QMenu* photo = m_ui->menubar->addMenu(tr("&Photo"));
     photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
     photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);
     photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
@@ -27,17 +27,17 @@ void MainWindowController::buildMenus()
     photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
 
     // The ten looks of the buttons with their digits, then the ones that have no button.
-    QMenu* looks = ui->menubar->addMenu(tr("&Looks"));
+    QMenu* looks = m_ui->menubar->addMenu(tr("&Looks"));
     const auto addLook = [&](int filter) {
         QAction* action = looks->addAction(QString::fromUtf8(CharImage::getFilterName(filter)));
         action->setCheckable(true);
         action->setData(filter);
-        lookActions << action;
+        m_lookActions << action;
         return action;
     };
     for (int filter : buttonFilters) {
         QAction* action = addLook(filter);
-        action->setShortcut(QKeySequence(Qt::Key_0 + lookActions.size() % 10));
+        action->setShortcut(QKeySequence(Qt::Key_0 + m_lookActions.size() % 10));
         if (filter == 14) {
             connect(action, &QAction::triggered, this, &Self::applyOriginalFilter);
             looks->addSeparator();
@@ -48,10 +48,10 @@ void MainWindowController::buildMenus()
     for (int i = 0; i < all.numThings; i++)
         if (std::ranges::count(buttonFilters, all.theArray[i]) == 0)
             addLook(all.theArray[i]);
-    for (QAction* action : lookActions.sliced(1))
+    for (QAction* action : m_lookActions.sliced(1))
         connect(action, &QAction::triggered, this, [this, action] { pressFilterButton(action->data().toInt()); });
 
-    QMenu* help = ui->menubar->addMenu(tr("&Help"));
+    QMenu* help = m_ui->menubar->addMenu(tr("&Help"));
     help->addAction(tr("Lumora &Help"), QKeySequence::HelpContents, this, &Self::openHelp);
     help->addAction(tr("&About Lumora"), this, &Self::openAbout)->setMenuRole(QAction::AboutRole);
 }

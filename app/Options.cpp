@@ -28,31 +28,31 @@ void select(QComboBox& popUp, int index)
 void MainWindowController::loadOptions()
 {
     const bool saved = getPreferenceInt("PrefsVersion") == prefsVersion;
-    ui->chkMultiFilter->setChecked(saved && getPreferenceBool("UseMultiFilter"));
-    select(*ui->btnBorders, saved ? getPreferenceInt("BorderStyle") : 0);
-    select(*ui->btnCropping, saved ? getPreferenceInt("CroppingStyle") : 0);
-    select(*ui->btnImgSize, saved ? getPreferenceInt("OutputSize") : 0);
+    m_ui->chkMultiFilter->setChecked(saved && getPreferenceBool("UseMultiFilter"));
+    select(*m_ui->btnBorders, saved ? getPreferenceInt("BorderStyle") : 0);
+    select(*m_ui->btnCropping, saved ? getPreferenceInt("CroppingStyle") : 0);
+    select(*m_ui->btnImgSize, saved ? getPreferenceInt("OutputSize") : 0);
     // Variation is a mood of the moment: it is saved, and never restored.
-    ui->chkRandomness->setChecked(false);
+    m_ui->chkRandomness->setChecked(false);
     CharImage::useRandom = 0;
 }
 
 void MainWindowController::saveOptions() const
 {
-    setPreferenceBool("UseMultiFilter", ui->chkMultiFilter->isChecked());
-    setPreferenceBool("UseRandomness", ui->chkRandomness->isChecked());
-    setPreferenceInt("BorderStyle", ui->btnBorders->currentIndex());
-    setPreferenceInt("CroppingStyle", ui->btnCropping->currentIndex());
-    setPreferenceInt("OutputSize", ui->btnImgSize->currentIndex());
+    setPreferenceBool("UseMultiFilter", m_ui->chkMultiFilter->isChecked());
+    setPreferenceBool("UseRandomness", m_ui->chkRandomness->isChecked());
+    setPreferenceInt("BorderStyle", m_ui->btnBorders->currentIndex());
+    setPreferenceInt("CroppingStyle", m_ui->btnCropping->currentIndex());
+    setPreferenceInt("OutputSize", m_ui->btnImgSize->currentIndex());
     setPreferenceInt("PrefsVersion", prefsVersion);
 }
 
 void MainWindowController::updateFromSettings()
 {
-    doMultiFiltering = ui->chkMultiFilter->isChecked();
-    cropFilter = chosenFilter(*ui->btnCropping, filterIDs);
-    borderFilter = chosenFilter(*ui->btnBorders, filterIDs);
-    const QString size = ui->btnImgSize->currentText();
+    doMultiFiltering = m_ui->chkMultiFilter->isChecked();
+    cropFilter = chosenFilter(*m_ui->btnCropping, filterIDs);
+    borderFilter = chosenFilter(*m_ui->btnBorders, filterIDs);
+    const QString size = m_ui->btnImgSize->currentText();
     imgOutputSize = size == QLatin1String("Original") ? -1 : size.toInt();
     updateBreadcrumb();
 }

@@ -39,11 +39,11 @@ void prepare(QFileDialog& panel, const QString& folder)
 /// Runs a file panel; true when it was confirmed.
 bool MainWindowController::runPanel(QFileDialog& panel)
 {
-    ui->progressBar->hide(); // nothing is worked on while the panel waits
+    m_ui->progressBar->hide(); // nothing is worked on while the panel waits
     const WorkWaits waits(m_work);
     const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
     if (confirmed)
-        panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
+        m_panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
     return confirmed;
 }
 
@@ -57,7 +57,7 @@ void MainWindowController::loadImageButtonPressed()
         QFileDialog panel(this, tr("Select a file to open"));
         panel.setFileMode(QFileDialog::ExistingFile);
         panel.setWindowOpacity(0.95);
-        prepare(panel, panelFolder);
+        prepare(panel, m_panelFolder);
         if (runPanel(panel))
             chosen = panel.selectedFiles();
     }
@@ -72,7 +72,7 @@ QByteArray MainWindowController::askWhereToSave()
     QFileDialog panel(this, tr("Save as JPEG"));
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setDefaultSuffix(QStringLiteral("jpg"));
-    prepare(panel, panelFolder);
+    prepare(panel, m_panelFolder);
     // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
     // is what it asks about: a name that cannot be shown is not taken back.
     const QString proposed = shownName(m_photo.fileName).replace(u'"', u'\'');

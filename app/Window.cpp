@@ -36,7 +36,7 @@ QString helpDocument()
 } // namespace
 
 MainWindowController::MainWindowController()
-    : ui(std::make_unique<Ui::MainWindow>())
+    : m_ui(std::make_unique<Ui::MainWindow>())
 {
     awakeFromNib();
 }
@@ -56,28 +56,28 @@ void MainWindowController::completeNibLoading()
     std::srand(unsigned(std::time(nullptr)));
     CharImage::renewRandomNumbers();
 
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     windowDidLoad();
     setWindowTitle(QStringLiteral("Lumora by Dovrel"));
-    ui->filtersText->setText(QStringLiteral("Original"));
+    m_ui->filtersText->setText(QStringLiteral("Original"));
 
     QPalette colours = palette();
     colours.setColor(QPalette::Window, QColor::fromRgbF(0.2f, 0.2f, 0.2f, 1.0f));
     setPalette(colours);
 
-    for (QToolButton* button : {ui->btnOriginal, ui->btnHelga, ui->btnLolo, ui->btnCinema, ui->btn1962, ui->btn1974,
-             ui->btnMono, ui->btnFishEye, ui->btnInstant, ui->btnMagazine})
+    for (QToolButton* button : {m_ui->btnOriginal, m_ui->btnHelga, m_ui->btnLolo, m_ui->btnCinema, m_ui->btn1962,
+             m_ui->btn1974, m_ui->btnMono, m_ui->btnFishEye, m_ui->btnInstant, m_ui->btnMagazine})
         filterButtons.add(button);
 
-    fill(*ui->btnBorders, {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"});
-    fill(*ui->btnCropping, {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"});
-    fill(*ui->btnImgSize, {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
+    fill(*m_ui->btnBorders, {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"});
+    fill(*m_ui->btnCropping, {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"});
+    fill(*m_ui->btnImgSize, {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
 
-    ui->mainImageView->setDelegate(this);
+    m_ui->mainImageView->setDelegate(this);
     qApp->installEventFilter(this);
     buildMenus();
     showAppliedFilters();
-    ui->mainImageView->setFocus();
+    m_ui->mainImageView->setFocus();
 }
 
 void MainWindowController::windowDidLoad()
@@ -86,12 +86,12 @@ void MainWindowController::windowDidLoad()
     resize(size().boundedTo(room));
     displayRes = displayResAtLoad(largerFrameSide());
 
-    QSizePolicy policy = ui->progressBar->sizePolicy();
+    QSizePolicy policy = m_ui->progressBar->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
-    ui->progressBar->setSizePolicy(policy);
-    ui->progressBar->hide();
-    resizeSettles.setSingleShot(true);
-    resizeSettles.setInterval(settleTime);
+    m_ui->progressBar->setSizePolicy(policy);
+    m_ui->progressBar->hide();
+    m_resizeSettles.setSingleShot(true);
+    m_resizeSettles.setInterval(settleTime);
 }
 
 void MainWindowController::connectControls()
@@ -100,31 +100,31 @@ void MainWindowController::connectControls()
     const auto press = [this](QAbstractButton* button, void (Self::*action)()) {
         connect(button, &QAbstractButton::clicked, this, action);
     };
-    press(ui->btnLoad, &Self::loadImageButtonPressed);
-    press(ui->btnSave, &Self::saveFilteredImage);
-    press(ui->btnLeft, &Self::rotateImageLeft);
-    press(ui->btnRight, &Self::rotateImageRight);
-    press(ui->btnFlatten, &Self::flattenImage);
-    press(ui->btnReExpose, &Self::reExpose);
+    press(m_ui->btnLoad, &Self::loadImageButtonPressed);
+    press(m_ui->btnSave, &Self::saveFilteredImage);
+    press(m_ui->btnLeft, &Self::rotateImageLeft);
+    press(m_ui->btnRight, &Self::rotateImageRight);
+    press(m_ui->btnFlatten, &Self::flattenImage);
+    press(m_ui->btnReExpose, &Self::reExpose);
     // A screen reader toggles what can be checked without clicking it.
     const auto toggle = [this](QAbstractButton* button, void (Self::*action)()) {
         connect(button, &QAbstractButton::toggled, this, action);
     };
-    toggle(ui->btnOriginal, &Self::applyOriginalFilter);
-    toggle(ui->btnHelga, &Self::applyHelgaFilter);
-    toggle(ui->btnLolo, &Self::applyLoloFilter);
-    toggle(ui->btnCinema, &Self::applyCinemaFilter);
-    toggle(ui->btn1962, &Self::apply1962Filter);
-    toggle(ui->btn1974, &Self::apply1974Filter);
-    toggle(ui->btnMono, &Self::applyMonoFilter);
-    toggle(ui->btnFishEye, &Self::applyFishEyeFilter);
-    toggle(ui->btnInstant, &Self::applyInstantFilter);
-    toggle(ui->btnMagazine, &Self::applyMagazineFilter);
-    toggle(ui->chkMultiFilter, &Self::multiFilterToggled);
-    toggle(ui->chkRandomness, &Self::useRandomToggled);
-    for (QComboBox* popUp : {ui->btnBorders, ui->btnCropping, ui->btnImgSize})
+    toggle(m_ui->btnOriginal, &Self::applyOriginalFilter);
+    toggle(m_ui->btnHelga, &Self::applyHelgaFilter);
+    toggle(m_ui->btnLolo, &Self::applyLoloFilter);
+    toggle(m_ui->btnCinema, &Self::applyCinemaFilter);
+    toggle(m_ui->btn1962, &Self::apply1962Filter);
+    toggle(m_ui->btn1974, &Self::apply1974Filter);
+    toggle(m_ui->btnMono, &Self::applyMonoFilter);
+    toggle(m_ui->btnFishEye, &Self::applyFishEyeFilter);
+    toggle(m_ui->btnInstant, &Self::applyInstantFilter);
+    toggle(m_ui->btnMagazine, &Self::applyMagazineFilter);
+    toggle(m_ui->chkMultiFilter, &Self::multiFilterToggled);
+    toggle(m_ui->chkRandomness, &Self::useRandomToggled);
+    for (QComboBox* popUp : {m_ui->btnBorders, m_ui->btnCropping, m_ui->btnImgSize})
         connect(popUp, &QComboBox::currentIndexChanged, this, &Self::settingChanged);
-    connect(&resizeSettles, &QTimer::timeout, this, &Self::windowDidResize);
+    connect(&m_resizeSettles, &QTimer::timeout, this, &Self::windowDidResize);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Self::applicationWillTerminate);
 }
 
@@ -150,7 +150,7 @@ void MainWindowController::resizeEvent(QResizeEvent* event)
     QMainWindow::resizeEvent(event);
     // The photo is copied anew when the size has settled, so that a drag at the window's edge stays fluid.
     if (largerFrameSide() > displayRes)
-        resizeSettles.start();
+        m_resizeSettles.start();
 }
 
 void MainWindowController::windowDidResize()
@@ -159,7 +159,7 @@ void MainWindowController::windowDidResize()
         return;
     const Work work = renderOfPreview();
     if (!work)
-        return resizeSettles.start();
+        return m_resizeSettles.start();
     displayRes = displayResAfterResize(displayRes, largerFrameSide());
     if (m_photo.isNull())
         return;
@@ -171,11 +171,11 @@ void MainWindowController::paintEvent(QPaintEvent* event)
 {
     QMainWindow::paintEvent(event);
     // Until now the desktop had not yet put its frame round the window.
-    if (!std::exchange(wasPainted, true))
+    if (!std::exchange(m_wasPainted, true))
         displayRes = qMax(displayRes, displayResAtLoad(largerFrameSide()));
-    if (fileWhenShown.isEmpty())
+    if (m_fileWhenShown.isEmpty())
         return;
-    const QByteArray path = std::exchange(fileWhenShown, {});
+    const QByteArray path = std::exchange(m_fileWhenShown, {});
     QTimer::singleShot(0, this, [this, path] { loadImageFromFile(path); });
 }
 
@@ -200,7 +200,7 @@ void MainWindowController::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Space)
         return QMainWindow::keyPressEvent(event);
-    ui->mainImageView->setComparing(true);
+    m_ui->mainImageView->setComparing(true);
 }
 
 void MainWindowController::keyReleaseEvent(QKeyEvent* event)
@@ -208,14 +208,14 @@ void MainWindowController::keyReleaseEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Space)
         return QMainWindow::keyReleaseEvent(event);
     if (!event->isAutoRepeat())
-        ui->mainImageView->setComparing(false);
+        m_ui->mainImageView->setComparing(false);
 }
 
 void MainWindowController::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && !isActiveWindow())
-        ui->mainImageView->setComparing(false);
+        m_ui->mainImageView->setComparing(false);
 }
 
 void MainWindowController::openHelp()

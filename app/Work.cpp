@@ -29,17 +29,17 @@ void MainWindowController::showStep(const QString& name, int done, int steps)
 {
     if (!isVisible())
         return;
-    ui->progressBar->setFormat(name);
-    ui->progressBar->setMaximum(steps);
-    ui->progressBar->setValue(done);
-    ui->progressBar->show();
-    ui->progressBar->repaint();
+    m_ui->progressBar->setFormat(name);
+    m_ui->progressBar->setMaximum(steps);
+    m_ui->progressBar->setValue(done);
+    m_ui->progressBar->show();
+    m_ui->progressBar->repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void MainWindowController::workEnded(bool closeAsked)
 {
-    ui->progressBar->hide();
+    m_ui->progressBar->hide();
     if (closeAsked)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }

@@ -223,10 +223,10 @@ private:
     class Watch : public QObject {
     public:
         Watch(MainWindowController& controller, QProgressBar& progress)
-            : window(controller)
-            , bar(progress)
+            : m_window(controller)
+            , m_bar(progress)
         {
-            bar.installEventFilter(this);
+            m_bar.installEventFilter(this);
         }
 
         QStringList steps;
@@ -237,25 +237,25 @@ private:
         {
             if (event->type() != QEvent::Paint)
                 return false;
-            if (steps.isEmpty() || steps.last() != bar.format())
-                steps << bar.format();
+            if (steps.isEmpty() || steps.last() != m_bar.format())
+                steps << m_bar.format();
             entered++;
             if (closes)
-                window.close();
-            window.pressFilterButton(1);
-            window.rotateImageRight();
-            window.flattenImage();
-            window.saveFilteredImage();
-            window.loadImageButtonPressed();
-            window.reExpose();
-            for (auto* box : window.findChildren<QCheckBox*>())
+                m_window.close();
+            m_window.pressFilterButton(1);
+            m_window.rotateImageRight();
+            m_window.flattenImage();
+            m_window.saveFilteredImage();
+            m_window.loadImageButtonPressed();
+            m_window.reExpose();
+            for (auto* box : m_window.findChildren<QCheckBox*>())
                 box->toggle(); // as a screen reader does
             return false;
         }
 
     private:
-        MainWindowController& window;
-        QProgressBar& bar;
+        MainWindowController& m_window;
+        QProgressBar& m_bar;
     };
 };
 

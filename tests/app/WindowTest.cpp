@@ -17,10 +17,10 @@ class WindowTest : public QObject {
     Q_OBJECT
 
 public slots:
-    void noteOpened(const QUrl& url) { opened << url; }
+    void noteOpened(const QUrl& url) { m_opened << url; }
 
 private:
-    QList<QUrl> opened;
+    QList<QUrl> m_opened;
 
 private slots:
     void init() { setPreferences({}); }
@@ -204,7 +204,7 @@ private slots:
         QFile::remove(document);
         QTest::keyClick(&desk.window, Qt::Key_F1);
         QVERIFY(desk.sheet().size() == 2 && desk.sheet()[1].contains("help.pdf"));
-        QVERIFY(opened.isEmpty());
+        QVERIFY(m_opened.isEmpty());
         QApplication::activeModalWidget()->close();
 
         QDir().mkpath(QFileInfo(document).path());
@@ -212,7 +212,7 @@ private slots:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
         QTest::keyClick(&desk.window, Qt::Key_F1);
-        QCOMPARE(opened, QList<QUrl>({QUrl::fromLocalFile(QFileInfo(document).canonicalFilePath())}));
+        QCOMPARE(m_opened, QList<QUrl>({QUrl::fromLocalFile(QFileInfo(document).canonicalFilePath())}));
         QDesktopServices::unsetUrlHandler("file");
     }
 
