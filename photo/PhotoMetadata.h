@@ -6,4 +6,6 @@
 /// to the encoder as it is. Nothing in it: nothing is written.
 struct PhotoMetadata {
     QByteArray exif; ///< the raw EXIF block, without its "Exif" heading
+
+    bool operator==(const PhotoMetadata&) const = default;
 };

@@ -1,0 +1,125 @@
+#include "photo/reader/SharedPhoto.h"
+
+#include <QColorSpace>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int seals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
+
+/// What the photo carries beside its picture, as blocks and back.
+QList<QByteArray> blocksOf(const LoadedPhoto& photo)
+{
+    return {photo.metadata.exif};
+}
+
+void setBlocks(LoadedPhoto& photo, const QList<QByteArray>& blocks)
+{
+    photo.metadata.exif = blocks.value(0);
+}
+
+bool writeAll(int file, const void* data, qint64 size)
+{
+    const char* bytes = static_cast<const char*>(data);
+    while (size > 0) {
+        const ssize_t count = write(file, bytes, std::size_t(size));
+        if (count < 0 && errno != EINTR)
+            return false;
+        if (count > 0) {
+            bytes += count;
+            size -= count;
+        }
+    }
+    return true;
+}
+
+bool writePicture(int file, const QImage& image)
+{
+    const qsizetype row = qsizetype(image.width()) * 4;
+    if (image.bytesPerLine() == row)
+        return writeAll(file, image.constBits(), row * image.height());
+    for (int y = 0; y < image.height(); y++)
+        if (!writeAll(file, image.constScanLine(y), row))
+            return false;
+    return true;
+}
+
+SharedPhoto refusal(const QString& reason)
+{
+    SharedPhoto refused;
+    refused.answer.reason = reason;
+    return refused;
+}
+
+/// The memory that a picture stands in, given back with its last copy.
+struct Mapping {
+    void* address;
+    std::size_t size;
+};
+
+void unmap(void* mapping)
+{
+    const auto* mapped = static_cast<Mapping*>(mapping);
+    munmap(mapped->address, mapped->size);
+    delete mapped;
+}
+
+} // namespace
+
+SharedPhoto share(const LoadedPhoto& photo)
+{
+    if (photo.image.isNull())
+        return refusal(photo.reason);
+    SharedPhoto shared;
+    shared.answer.size = photo.image.size();
+    shared.answer.format = photo.image.format();
+    shared.memory = Descriptor(memfd_create("photo", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    bool written = bool(shared.memory) && writePicture(shared.memory.number(), photo.image);
+    qint64 bytes = 0;
+    for (const QByteArray& block : blocksOf(photo)) {
+        // More than there may be is left behind; the photo itself matters more.
+        const bool kept = bytes + block.size() <= maxBlockBytes;
+        shared.answer.blocks << (kept ? block.size() : 0);
+        bytes += shared.answer.blocks.last();
+        written = written && writeAll(shared.memory.number(), block.constData(), shared.answer.blocks.last());
+    }
+    if (!written || fcntl(shared.memory.number(), F_ADD_SEALS, seals) != 0)
+        return refusal(noMemoryForPhoto());
+    return shared;
+}
+
+qint64 sealedBytes(const Descriptor& memory)
+{
+    if (!memory || fcntl(memory.number(), F_GET_SEALS) != seals)
+        return 0;
+    struct stat status = {};
+    return fstat(memory.number(), &status) == 0 ? qint64(status.st_size) : 0;
+}
+
+LoadedPhoto receivedPhoto(const SharedPhoto& shared)
+{
+    const ReaderAnswer& answer = shared.answer;
+    if (!answer.reason.isEmpty())
+        return refusedPhoto(answer.reason);
+    const auto size = std::size_t(sealedBytes(shared.memory));
+    // Private, so that whoever changes the picture changes no page but his own.
+    void* address = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE, shared.memory.number(), 0);
+    if (address == MAP_FAILED)
+        return refusedPhoto(noMemoryForPhoto());
+    LoadedPhoto photo;
+    auto* pixels = static_cast<uchar*>(address);
+    photo.image = QImage(pixels, answer.size.width(), answer.size.height(), qsizetype(answer.size.width()) * 4,
+        answer.format, unmap, new Mapping{address, size});
+    photo.image.setColorSpace(QColorSpace::SRgb);
+    const char* at = reinterpret_cast<const char*>(pixels) + answer.pictureBytes();
+    QList<QByteArray> blocks;
+    for (const qint64 block : answer.blocks) {
+        blocks << QByteArray(at, block);
+        at += block;
+    }
+    setBlocks(photo, blocks);
+    return photo;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "photo/LoadedPhoto.h"
+#include "photo/reader/Descriptor.h"
+#include "photo/reader/Message.h"
+
+/// A photo on its way to the window.
+struct SharedPhoto {
+    ReaderAnswer answer;
+    Descriptor memory; ///< none beside a refusal
+};
+
+/// The photo or its reason, to be sent. The memory is sealed: nobody can change it or its size any more. A photo that
+/// finds no room is refused.
+SharedPhoto share(const LoadedPhoto& photo);
+
+/// The bytes of the memory where it is sealed, so that reading it cannot fail; 0 otherwise.
+qint64 sealedBytes(const Descriptor& memory);
+
+/// The photo or the reason of an answer that was unpacked with these sealedBytes. The picture stands in the shared
+/// memory, and is not copied.
+LoadedPhoto receivedPhoto(const SharedPhoto& shared);

@@ -1,0 +1,113 @@
+// The reader with decoders that do harm, each to files that begin with its name: what hostile files would make of
+// others.
+
+#include "photo/reader/Reader.h"
+
+#include <QImageIOPlugin>
+#include <fcntl.h>
+#include <memory>
+#include <sys/socket.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+/// A picture that nobody gets: the harm comes first.
+bool readPlainly(QImage* image)
+{
+    *image = QImage(2, 2, QImage::Format_RGB32);
+    image->fill(Qt::red);
+    return true;
+}
+
+bool breakDown(QImage*)
+{
+    volatile int* nowhere = nullptr;
+    *nowhere = 1; // NOLINT
+    return false;
+}
+
+bool loop(QImage*)
+{
+    for (volatile bool always = true; always;)
+        ;
+    return false;
+}
+
+bool eatMemory(QImage* image)
+{
+    constexpr std::size_t portion = 1 << 26;
+    static std::vector<std::unique_ptr<char[]>> eaten;
+    while (eaten.size() < 1'000'000)
+        eaten.push_back(std::unique_ptr<char[]>(new char[portion])); // not even looked at
+    return readPlainly(image);
+}
+
+bool openFile(QImage* image)
+{
+    open("/etc/hostname", O_RDONLY | O_CLOEXEC); // NOLINT
+    return readPlainly(image);
+}
+
+bool openSocket(QImage* image)
+{
+    socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0); // NOLINT
+    return readPlainly(image);
+}
+
+struct Harm {
+    QByteArray name;
+    bool (*read)(QImage*);
+};
+
+const Harm harms[] = {
+    {"HARM break", breakDown},
+    {"HARM loop", loop},
+    {"HARM memory", eatMemory},
+    {"HARM file", openFile},
+    {"HARM socket", openSocket},
+    {"HARM none", readPlainly},
+};
+
+const Harm* harmOf(QIODevice* device)
+{
+    for (const Harm& harm : harms)
+        if (device && device->peek(harm.name.size()) == harm.name)
+            return &harm;
+    return nullptr;
+}
+
+class HarmfulHandler : public QImageIOHandler {
+public:
+    bool canRead() const override { return harmOf(device()); }
+    bool read(QImage* image) override { return harmOf(device())->read(image); }
+};
+
+} // namespace
+
+class HarmfulDecoders : public QImageIOPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QImageIOHandlerFactoryInterface_iid FILE "HarmfulReader.json")
+
+public:
+    Capabilities capabilities(QIODevice* device, const QByteArray&) const override
+    {
+        return harmOf(device) ? CanRead : Capabilities();
+    }
+    QImageIOHandler* create(QIODevice* device, const QByteArray& format) const override
+    {
+        auto* handler = new HarmfulHandler;
+        handler->setDevice(device);
+        handler->setFormat(format);
+        return handler;
+    }
+};
+
+Q_IMPORT_PLUGIN(HarmfulDecoders)
+
+int main()
+{
+    return runReader(STDIN_FILENO);
+}
+
+#include "HarmfulReader.moc"
