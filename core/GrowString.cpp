@@ -25,8 +25,7 @@ GrowString::GrowString(char const* text)
 GrowString::GrowString(const GrowString& other)
     : GrowArray<char>(other)
 {
-    if (numThings < 1 || theArray[numThings - 1] != 0)
-        ensureTermination();
+    ensureTermination();
 }
 
 GrowString& GrowString::operator=(char const* text)
@@ -46,11 +45,7 @@ GrowString& GrowString::operator=(char const* text)
 
 GrowString& GrowString::operator=(const GrowString& other)
 {
-    GrowString copy(other);
-    std::swap(theArray, copy.theArray);
-    std::swap(numThings, copy.numThings);
-    std::swap(maxThings, copy.maxThings);
-    return *this;
+    return *this = other.cString();
 }
 
 GrowString& GrowString::operator=(float number)

@@ -4,7 +4,8 @@
 //
 // SECONDS (10) and MEBIBYTES (2048) limit each file. The exit status is 0 when no file crashed or passed a limit.
 
-#include "photo/PhotoLoader.h"
+#include "photo/EscapedText.h"
+#include "photo/PhotoReader.h"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -33,6 +34,29 @@ struct Outcome {
     long mebibytes = 0;
 };
 
+/// The most that this process, or one that it waited for, has taken.
+long peakMebibytes()
+{
+    rusage own = {}, reader = {};
+    getrusage(RUSAGE_SELF, &own);
+    getrusage(RUSAGE_CHILDREN, &reader);
+    return std::max(own.ru_maxrss, reader.ru_maxrss) / 1024;
+}
+
+std::string kindOf(PhotoReader::End end, bool isPhoto)
+{
+    switch (end) {
+    case PhotoReader::End::Answered:
+        return isPhoto ? "opened" : "refused";
+    case PhotoReader::End::TookTooLong:
+        return "timed out";
+    case PhotoReader::End::TookTooMuchMemory:
+        return "over memory";
+    default:
+        return "crashed";
+    }
+}
+
 [[noreturn]] void openAndTell(const std::string& file, int pipe, [[maybe_unused]] const Limits& limits)
 {
 #ifndef __SANITIZE_ADDRESS__
@@ -41,9 +65,27 @@ struct Outcome {
     const rlimit space = {most, most};
     setrlimit(RLIMIT_AS, &space);
 #endif
-    const LoadedPhoto photo = loadPhoto(QByteArray::fromStdString(file));
-    const std::string told = photo.image.isNull() ? "refused " + photo.reason.toStdString() : "opened ";
+    LoadedPhoto photo;
+    std::string kind;
+    {
+        PhotoReader reader;
+        reader.begin(QByteArray::fromStdString(file));
+        photo = reader.take();
+        kind = kindOf(reader.end(), !photo.image.isNull());
+    }
+    while (wait(nullptr) > 0) // for what the readers took
+        ;
+    const std::string told = kind + '\n' + std::to_string(peakMebibytes()) + '\n' + photo.reason.toStdString();
     _exit(write(pipe, told.data(), told.size()) == ssize_t(told.size()) ? 0 : 1);
+}
+
+/// Takes the part of `text` up to the next line's end.
+std::string takeLine(std::string& text)
+{
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::string line = text.substr(0, end);
+    text.erase(0, end + 1);
+    return line;
 }
 
 Outcome open(const std::string& file, const Limits& limits)
@@ -63,27 +105,25 @@ Outcome open(const std::string& file, const Limits& limits)
     const bool inTime = poll(&waited, 1, limits.seconds * 1000) > 0;
     if (!inTime)
         kill(child, SIGKILL);
-    char text[512];
+    char text[4096];
     const ssize_t length = read(ends[0], text, sizeof text);
     close(ends[0]);
     int status = 0;
-    rusage usage = {};
-    wait4(child, &status, 0, &usage);
+    waitpid(child, &status, 0);
     const std::chrono::duration<double, std::milli> elapsed = std::chrono::steady_clock::now() - start;
     outcome.milliseconds = elapsed.count();
-    outcome.mebibytes = usage.ru_maxrss / 1024;
 
-    const std::string told(text, length > 0 ? std::size_t(length) : 0);
-    const std::size_t space = std::min(told.find(' '), told.size());
+    std::string told(text, length > 0 ? std::size_t(length) : 0);
     if (!inTime)
         outcome.kind = "timed out";
     else if (!WIFEXITED(status) || WEXITSTATUS(status) != 0 || told.empty())
         outcome.kind = "crashed";
-    else if (outcome.mebibytes > limits.mebibytes)
-        outcome.kind = "over memory";
     else {
-        outcome.kind = told.substr(0, space);
-        outcome.reason = told.substr(std::min(space + 1, told.size()));
+        outcome.kind = takeLine(told);
+        outcome.mebibytes = std::atol(takeLine(told).c_str());
+        outcome.reason = told;
+        if (outcome.mebibytes > limits.mebibytes)
+            outcome.kind = "over memory";
     }
     return outcome;
 }
@@ -91,7 +131,8 @@ Outcome open(const std::string& file, const Limits& limits)
 void print(const Outcome& outcome)
 {
     std::printf("%-12s %8.0f ms %6ld MiB  %s%s%s\n", outcome.kind.c_str(), outcome.milliseconds, outcome.mebibytes,
-        outcome.file.c_str(), outcome.reason.empty() ? "" : ": ", outcome.reason.c_str());
+        escaped(QByteArray::fromStdString(outcome.file)).constData(), outcome.reason.empty() ? "" : ": ",
+        outcome.reason.c_str());
 }
 
 } // namespace
@@ -103,6 +144,7 @@ int main(int argc, char** argv)
         return 2;
     }
     const QCoreApplication application(argc, argv);
+    PhotoReader::setProgram(READER);
     Limits limits;
     if (argc > 2)
         limits.seconds = std::atoi(argv[2]);
