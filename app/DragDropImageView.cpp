@@ -32,6 +32,7 @@ DragDropImageView::DragDropImageView(QWidget* parent)
 void DragDropImageView::setImage(const QImage& image)
 {
     const QRect before = shownArea();
+    m_comparing = false;
     m_rendered = image;
     update(before | shownArea());
 }
@@ -147,12 +148,13 @@ void DragDropImageView::dropEvent(QDropEvent* event)
 
 void DragDropImageView::mousePressEvent(QMouseEvent* event)
 {
-    setComparing(event->buttons() & Qt::LeftButton);
+    if (event->button() == Qt::LeftButton)
+        setComparing(true);
 }
 
-void DragDropImageView::mouseReleaseEvent(QMouseEvent* event)
+void DragDropImageView::mouseReleaseEvent(QMouseEvent*)
 {
-    setComparing(event->buttons() & Qt::LeftButton);
+    setComparing(false);
 }
 
 void DragDropImageView::focusInEvent(QFocusEvent* event)

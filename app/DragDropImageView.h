@@ -24,6 +24,7 @@ public:
     explicit DragDropImageView(QWidget* parent = nullptr);
 
     QImage image() const { return m_rendered; }
+    /// Also ends comparing: what is new must be seen.
     void setImage(const QImage& image);
     /// What is shown while comparing.
     void setComparedImage(const QImage& image);

@@ -12,6 +12,7 @@
 
 class QAction;
 class QFileDialog;
+class QKeyEvent;
 class QToolButton;
 
 namespace Ui {
@@ -20,8 +21,8 @@ class MainWindow;
 
 /// The one controller: owns the window, the photo, the list of looks and the work in progress, and brings them
 /// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
-/// Document.cpp, Panels.cpp and Work.cpp. What needs no window stands elsewhere: the state in Photo.h, LookList.h and
-/// WorkInProgress.h, the rules in Rules.h.
+/// Document.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands elsewhere: the state in Photo.h,
+/// LookList.h and WorkInProgress.h, the rules in Rules.h.
 class MainWindowController : public QMainWindow, public DropDelegate, private WorkDisplay {
     Q_OBJECT
 
@@ -109,10 +110,7 @@ public slots:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -128,6 +126,8 @@ private:
     Work renderOfPreview(); ///< of the applied list
     void showStep(const QString& name, int done, int steps) override;
     void workEnded(bool closeAsked) override;
+    bool takesKeyPress(QWidget* widget, const QKeyEvent& press); ///< true: `widget` must not see it
+    bool takesKeyRelease(const QKeyEvent& release);
     void showAppliedFilters();
     void setCurrentFile(const QByteArray& path);
     void rotateImage(float degrees);

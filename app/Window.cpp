@@ -4,11 +4,9 @@
 #include "render/FreedBlocks.h"
 #include "ui_MainWindow.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QFileOpenEvent>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QUrl>
 #include <cstdlib>
@@ -124,6 +122,10 @@ void MainWindowController::connectControls()
     toggle(m_ui->chkRandomness, &Self::useRandomToggled);
     for (QComboBox* popUp : {m_ui->btnBorders, m_ui->btnCropping, m_ui->btnImgSize})
         connect(popUp, &QComboBox::currentIndexChanged, this, &Self::settingChanged);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* lost) {
+        if (lost)
+            m_ui->mainImageView->setComparing(false);
+    });
     connect(&m_resizeSettles, &QTimer::timeout, this, &Self::windowDidResize);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Self::applicationWillTerminate);
 }
@@ -177,45 +179,6 @@ void MainWindowController::paintEvent(QPaintEvent* event)
         return;
     const QByteArray path = std::exchange(m_fileWhenShown, {});
     QTimer::singleShot(0, this, [this, path] { loadImageFromFile(path); });
-}
-
-bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
-{
-    // Digits that are typed at a pop-up choose among its items, not among the looks.
-    if (event->type() == QEvent::ShortcutOverride && qobject_cast<QComboBox*>(watched)) {
-        const auto* press = static_cast<QKeyEvent*>(event);
-        event->setAccepted(
-            press->modifiers() == Qt::NoModifier && press->key() >= Qt::Key_0 && press->key() <= Qt::Key_9);
-        return event->isAccepted();
-    }
-    if (event->type() != QEvent::FileOpen)
-        return QMainWindow::eventFilter(watched, event);
-    loadImageFromFile(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
-    return true;
-}
-
-// The space bar that no control has taken shows the photo as it came for as long as it is held.
-
-void MainWindowController::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() != Qt::Key_Space)
-        return QMainWindow::keyPressEvent(event);
-    m_ui->mainImageView->setComparing(true);
-}
-
-void MainWindowController::keyReleaseEvent(QKeyEvent* event)
-{
-    if (event->key() != Qt::Key_Space)
-        return QMainWindow::keyReleaseEvent(event);
-    if (!event->isAutoRepeat())
-        m_ui->mainImageView->setComparing(false);
-}
-
-void MainWindowController::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
-        m_ui->mainImageView->setComparing(false);
 }
 
 void MainWindowController::openHelp()

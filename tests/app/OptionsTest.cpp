@@ -158,20 +158,6 @@ private slots:
             kept.contains("SomebodysKey=theirs") && kept.contains("[Other]\nToo=1") && kept.contains("PrefsVersion=2"));
     }
 
-    void digitsAtAPopUpChooseItsItems()
-    {
-        Desk desk(makePhoto(60, 40));
-        auto* sizes = desk.find<QComboBox>("btnImgSize");
-        sizes->setFocus();
-        QTest::keyClick(sizes, Qt::Key_8);
-        QCOMPARE(sizes->currentText(), QString("800"));
-        QCOMPARE(desk.looks(), std::vector<int>());
-        QTest::keyClick(sizes, Qt::Key_E, Qt::ControlModifier);
-        QVERIFY(desk.find<QCheckBox>("chkRandomness")->isChecked()); // other shortcuts stay
-        QTest::keyClick(desk.find<QToolButton>("btnHelga"), Qt::Key_2);
-        QCOMPARE(desk.looks(), std::vector<int>({1}));
-    }
-
     void preferencesKeepTextNumbersAndTruth()
     {
         QCOMPARE(getPreferenceInt("Nothing"), 0);

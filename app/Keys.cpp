@@ -1,0 +1,97 @@
+#include "app/MainWindowController.h"
+#include "ui_MainWindow.h"
+
+#include <QFile>
+#include <QFileOpenEvent>
+#include <QKeyEvent>
+
+// What a key, a click and the wheel mean in the window does not depend on the control that was used last: a click
+// leaves the focus on the photo, and the space bar compares wherever the focus is. Lists, menus, sheets and panels are
+// windows of their own and are left alone.
+
+namespace {
+
+/// Keys that walk through a pop-up's items or from control to control: the only ones that may repeat when held.
+bool walks(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Return does what a click on the control would do; false for what cannot be clicked.
+bool pressByKey(QWidget* control)
+{
+    if (auto* button = qobject_cast<QAbstractButton*>(control))
+        button->click();
+    else if (auto* popUp = qobject_cast<QComboBox*>(control))
+        popUp->showPopup();
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
+bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FileOpen) {
+        loadImageFromFile(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
+        return true;
+    }
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || widget->window() != this)
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        m_ui->mainImageView->setFocus(Qt::MouseFocusReason);
+        return false;
+    case QEvent::Wheel: // would change a pop-up that the pointer merely passes
+        event->setAccepted(!qobject_cast<QComboBox*>(widget));
+        return !event->isAccepted();
+    case QEvent::ShortcutOverride: // which, accepted, presses no shortcut
+        event->setAccepted(static_cast<QKeyEvent*>(event)->isAutoRepeat());
+        return event->isAccepted();
+    case QEvent::KeyPress:
+        return takesKeyPress(widget, *static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+        return takesKeyRelease(*static_cast<QKeyEvent*>(event));
+    default:
+        return false;
+    }
+}
+
+bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press)
+{
+    if (press.isAutoRepeat())
+        return !walks(press.key());
+    if (press.modifiers() & ~Qt::KeypadModifier)
+        return false;
+    switch (press.key()) {
+    case Qt::Key_Space:
+        m_ui->mainImageView->setComparing(true);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return pressByKey(widget);
+    default:
+        return false;
+    }
+}
+
+bool MainWindowController::takesKeyRelease(const QKeyEvent& release)
+{
+    if (!release.isAutoRepeat())
+        m_ui->mainImageView->setComparing(false);
+    return release.key() == Qt::Key_Space;
+}
