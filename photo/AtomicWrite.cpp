@@ -1,8 +1,9 @@
+#include "photo/FileRights.h"
 #include "photo/PhotoSaver.h"
+#include "photo/UnfinishedFile.h"
 
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <string>
@@ -49,68 +50,11 @@ std::string linkTarget(const std::string& path)
     return target.native();
 }
 
-/// A file that gets its name only when it is complete; it is removed otherwise.
-class UnfinishedFile {
-public:
-    explicit UnfinishedFile(const std::string& folder)
-    {
-        for (int number = 0; number < 10000; number++) {
-            m_name = folder + ".lumora-" + std::to_string(getpid()) + "-" + std::to_string(number);
-            m_descriptor = open(m_name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-            if (m_descriptor >= 0 || errno != EEXIST)
-                return;
-        }
-    }
-
-    UnfinishedFile(const UnfinishedFile&) = delete;
-    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
-
-    ~UnfinishedFile()
-    {
-        if (m_descriptor < 0)
-            return;
-        close(m_descriptor);
-        unlink(m_name.c_str());
-    }
-
-    bool isOpen() const { return m_descriptor >= 0; }
-
-    /// Owner, group and permissions of the file that is to be replaced. Another user's file becomes one's own; where
-    /// its group cannot be kept, the new one may no more than everybody.
-    void takePermissions(const struct stat& replaced)
-    {
-        mode_t permissions = replaced.st_mode & 07777;
-        if (fchown(m_descriptor, replaced.st_uid, replaced.st_gid) != 0
-            && fchown(m_descriptor, uid_t(-1), replaced.st_gid) != 0)
-            permissions = (permissions & 0707) | (permissions & 07) << 3;
-        fchmod(m_descriptor, permissions);
-    }
-
-    bool write(const QByteArray& data)
-    {
-        for (qsizetype written = 0; written < data.size();) {
-            const ssize_t count = ::write(m_descriptor, data.constData() + written, std::size_t(data.size() - written));
-            if (count < 0 && errno != EINTR)
-                return false;
-            if (count > 0)
-                written += count;
-        }
-        return fsync(m_descriptor) == 0;
-    }
-
-    bool rename(const std::string& target)
-    {
-        if (std::rename(m_name.c_str(), target.c_str()) != 0)
-            return false;
-        close(m_descriptor);
-        m_descriptor = -1;
-        return true;
-    }
-
-private:
-    std::string m_name;
-    int m_descriptor = -1;
-};
+/// The part before a name: empty, or with its slash.
+std::string folderOf(const std::string& path)
+{
+    return path.substr(0, path.rfind('/') + 1);
+}
 
 /// Lets a write beyond the size limit of this process fail instead of ending it.
 class SizeLimitFails {
@@ -128,26 +72,39 @@ private:
     void (*m_before)(int);
 };
 
+/// Replaces `target`, which has that status where one stands there, or makes it; the error number when it could not be
+/// done, 0 otherwise.
+int replace(const std::string& target, const struct stat* replaced, const QByteArray& data, UnfinishedFile::Kind kind)
+{
+    // A new file gets the rights that the folder and the umask give at once.
+    UnfinishedFile file(folderOf(target), kind, replaced ? 0600 : 0666);
+    if (!file.isOpen() || !file.write(data))
+        return errno;
+    if (replaced)
+        takeRights(file.descriptor(), target, *replaced);
+    return file.synchronise() && file.place(target) ? 0 : errno;
+}
+
 /// Writes the file; the error number when it could not be done, 0 otherwise.
 int write(const std::string& target, const QByteArray& data)
 {
-    const std::string folder = target.substr(0, target.rfind('/') + 1);
-    struct stat replaced;
-    const bool replaces = stat(target.c_str(), &replaced) == 0;
+    const std::string folder = folderOf(target);
+    struct stat status;
+    const bool replaces = stat(target.c_str(), &status) == 0;
     if (!replaces && errno == ELOOP)
         return ELOOP;
-    if (replaces && S_ISDIR(replaced.st_mode))
+    if (replaces && S_ISDIR(status.st_mode))
         return EISDIR;
-    if (replaces && (!S_ISREG(replaced.st_mode) || access(target.c_str(), W_OK) != 0))
+    if (replaces && (!S_ISREG(status.st_mode) || access(target.c_str(), W_OK) != 0))
         return EACCES;
     const SizeLimitFails sizeLimitFails;
-    UnfinishedFile file(folder);
-    if (!file.isOpen())
-        return errno;
-    if (replaces)
-        file.takePermissions(replaced);
-    if (!file.write(data) || !file.rename(target))
-        return errno;
+    removeLeftovers(folder);
+    // Whatever keeps a file without a name from being made or named, one with a hidden name may do.
+    int error = replace(target, replaces ? &status : nullptr, data, UnfinishedFile::Unnamed);
+    if (error != 0)
+        error = replace(target, replaces ? &status : nullptr, data, UnfinishedFile::Hidden);
+    if (error != 0)
+        return error;
     // The new name is on the disk when its folder is.
     const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor >= 0) {

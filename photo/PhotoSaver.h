@@ -12,6 +12,7 @@
 QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata);
 
 /// Writes `data` to `path` (any bytes) so that a file that stands there is replaced whole or left as it was, whatever
-/// fails. A replaced file's permissions stay; through a symbolic link its target is written. False and a `reason` for
-/// people when it could not be written; only a killed process leaves its unfinished ".lumora-" file in the folder.
+/// fails. A replaced file's owner, permissions, access control list and `user.*` attributes stay, or its rights become
+/// narrower; through a symbolic link its target is written. False and a `reason` for people when it could not be
+/// written. Only a killed process can leave a hidden ".lumora-" file in the folder, which the next save there removes.
 bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason);
