@@ -1,27 +1,32 @@
-# The engine twice from the same sources, as shared libraries of one name: for every x86-64 processor, and for those of
-# the level x86-64-v3 (AVX2). The dynamic loader looks into glibc-hwcaps/ first and takes what the processor can run.
+# The engine once for each level of x86-64 processors, from the same sources: shared libraries of one name. The dynamic
+# loader looks into glibc-hwcaps/ first and takes the highest level that the processor can run.
+set(engine_levels x86-64 x86-64-v3)
+set(flags_x86-64-v3 -march=x86-64-v3 -mtune=generic) # AVX2
+
 set(engine_libraries ${CMAKE_BINARY_DIR}/lib)
-set(engine_v3 glibc-hwcaps/x86-64-v3)
+set(engine_exports ${CMAKE_SOURCE_DIR}/cmake/engine-exports.map)
+set(LUMORA_PRIVATE_LIBDIR ${CMAKE_INSTALL_LIBDIR}/lumora)
 
-add_engine(lumora_engine SHARED)
-add_engine(lumora_engine_v3 SHARED)
-target_compile_options(lumora_engine_v3 PRIVATE -march=x86-64-v3 -mtune=generic)
-set_target_properties(lumora_engine PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${engine_libraries})
-set_target_properties(lumora_engine_v3 PROPERTIES
-    OUTPUT_NAME lumora_engine LIBRARY_OUTPUT_DIRECTORY ${engine_libraries}/${engine_v3})
+foreach(level IN LISTS engine_levels)
+    if(level STREQUAL x86-64)
+        set(library lumora_engine)
+        set(folder .)
+    else()
+        set(library lumora_engine_${level})
+        set(folder glibc-hwcaps/${level})
+    endif()
+    # The objects stand alone for the tests of what the library does not export.
+    add_engine(engine_objects_${level} OBJECT)
+    target_compile_options(engine_objects_${level} PRIVATE ${flags_${level}})
+    set_target_properties(engine_objects_${level} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 
-# A call inside the library stays inside: it costs no detour, and never ends in a program's own copy of an inline
-# function, compiled for the lesser processor. Data stays shared: the static members are one for the program and the
-# library. Clang takes -fno-semantic-interposition for data too, and inlines without it.
-foreach(engine lumora_engine lumora_engine_v3)
-    target_compile_options(${engine} PRIVATE -fvisibility-inlines-hidden
-        $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
-    target_link_options(${engine} PRIVATE -Wl,-Bsymbolic-functions)
+    add_library(${library} SHARED $<TARGET_OBJECTS:engine_objects_${level}>)
+    target_include_directories(${library} PUBLIC ${CMAKE_SOURCE_DIR})
+    set_target_properties(${library} PROPERTIES
+        OUTPUT_NAME lumora_engine LIBRARY_OUTPUT_DIRECTORY ${engine_libraries}/${folder} LINK_DEPENDS ${engine_exports})
+    target_link_options(${library} PRIVATE -Wl,--version-script=${engine_exports})
+    install(TARGETS ${library} LIBRARY DESTINATION ${LUMORA_PRIVATE_LIBDIR}/${folder})
 endforeach()
 
-# Programs link the one and are never without the other.
-add_dependencies(lumora_engine lumora_engine_v3)
-
-set(LUMORA_PRIVATE_LIBDIR ${CMAKE_INSTALL_LIBDIR}/lumora)
-install(TARGETS lumora_engine LIBRARY DESTINATION ${LUMORA_PRIVATE_LIBDIR})
-install(TARGETS lumora_engine_v3 LIBRARY DESTINATION ${LUMORA_PRIVATE_LIBDIR}/${engine_v3})
+# Programs link the one and are never without the others.
+add_dependencies(lumora_engine lumora_engine_x86-64-v3)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Api.h"
+
 namespace lumora {
 
 /// A growable sequence of plain values (numbers, characters, pointers that it does not own).
@@ -93,6 +95,6 @@ private:
     }
 };
 
-template <> void GrowArray<int>::addOnce(int x);
+template <> LUMORA_API void GrowArray<int>::addOnce(int x);
 
 } // namespace lumora

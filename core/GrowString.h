@@ -1,12 +1,13 @@
 #pragma once
 
+#include "core/Api.h"
 #include "core/GrowArray.h"
 
 namespace lumora {
 
 /// A byte string that keeps exactly one terminating zero byte: a string of n characters has `numThings` = n + 1. Bytes
 /// have no encoding. Operations on indexes outside the string change nothing.
-class GrowString : public GrowArray<char> {
+class LUMORA_API GrowString : public GrowArray<char> {
 public:
     GrowString();
     GrowString(char const* text);
@@ -93,6 +94,6 @@ private:
 
 /// The path of one of the desktop's own folders by its four-character code: 'cusr' home, 'desk' desktop, 'docs'
 /// documents, 'pdoc' pictures, 'pref' preferences, 'temp' temporary files. Empty for every other code.
-GrowString getMacDirectory(unsigned long code);
+LUMORA_API GrowString getMacDirectory(unsigned long code);
 
 } // namespace lumora

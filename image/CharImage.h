@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Api.h"
 #include "core/GrowArray.h"
 
 #include <cstddef>
@@ -13,7 +14,7 @@ namespace lumora {
 /// along and never interpreted. Every operation works in place. None checks its arguments or reports a failure; a
 /// failed allocation throws `std::bad_alloc`. The static members are shared by all images and unguarded: one thread
 /// only.
-class CharImage {
+class LUMORA_API CharImage {
 public:
     int width = 0; ///< pixels per row
     int height = 0; ///< rows

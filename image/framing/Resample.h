@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Api.h"
+
 #include <cstddef>
 
 namespace lumora {
@@ -24,7 +26,7 @@ struct PlacedRect {
 /// eighth at most besides; one colour stays that colour. A source at its own size on whole pixels is copied as it
 /// is. A pixel that the rectangle touches belongs to the picture, without a seam of the background; the others are left
 /// alone.
-void drawScaled(
+LUMORA_API void drawScaled(
     const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth, int outHeight);
 
 } // namespace lumora

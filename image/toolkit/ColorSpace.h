@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Api.h"
+
 namespace lumora {
 
 // One pixel between RGB and two cylindrical models. RGB is on 0 .. 255 as floats, neither rounded nor clamped on the
@@ -8,16 +10,16 @@ namespace lumora {
 
 /// RGB (clamped to 0 .. 255 first) to hue, saturation and lightness, each 0 .. 1, after K. Fishkin ("A Fast HSL-to-RGB
 /// Transform", Graphics Gems). A colour whose maximum is red and whose green equals its blue has the hue 1.0, not 0.
-void rgbToHsl(float* rgb, float* h, float* s, float* l);
-void rgbToHsl(float r, float g, float b, float* h, float* s, float* l);
+LUMORA_API void rgbToHsl(float* rgb, float* h, float* s, float* l);
+LUMORA_API void rgbToHsl(float r, float g, float b, float* h, float* s, float* l);
 
 /// Hue, saturation and lightness, each 0 .. 1, to RGB. The hue does not wrap: 1.0 and more, or -1/6 and less, is grey.
-void hslToRgb(float h, float s, float l, float* rgb);
+LUMORA_API void hslToRgb(float h, float s, float l, float* rgb);
 
 /// RGB to hue (0 to below 360), saturation and value (each 0 .. 1), after A. R. Smith ("Color Gamut Transform Pairs").
-void rgbToHsv(float* rgb, float* h, float* s, float* v);
+LUMORA_API void rgbToHsv(float* rgb, float* h, float* s, float* v);
 
 /// Hue in degrees, saturation and value (0 .. 1) to RGB. A hue outside 0 .. 300 takes the last sextant: 360 is not red.
-void hsvToRgb(float h, float s, float v, float* rgb);
+LUMORA_API void hsvToRgb(float h, float s, float v, float* rgb);
 
 } // namespace lumora

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Marks what may be called from outside the engine. Its shared libraries export nothing else.
+#define LUMORA_API __attribute__((visibility("default")))
