@@ -32,16 +32,19 @@ for path in ("applications/dovrel.lumora.desktop", "metainfo/dovrel.lumora.metai
 with open(help_document, "rb") as document:
     assert document.read(5) == b"%PDF-"
 
-# The engine, for every x86-64 processor and for those with AVX2. Elsewhere, and with sanitizers, the program holds it.
+# The engine, for each level of x86-64 processors. Elsewhere, and with sanitizers, the program holds it.
 with open(os.path.join(build, "CMakeCache.txt")) as cache:
     sanitised = "LUMORA_SANITIZE:BOOL=ON" in cache.read()
 engine = None
 if platform.machine() == "x86_64" and not sanitised:
     (engine,) = glob.glob(os.path.join(root, "usr", "lib", "**", "lumora", "liblumora_engine.so"), recursive=True)
-    faster = os.path.join(os.path.dirname(engine), "glibc-hwcaps", "x86-64-v3", "liblumora_engine.so")
-    assert os.path.getsize(faster) > 0, faster
-    if "x86-64-v3 (supported" in subprocess.check_output(["/lib64/ld-linux-x86-64.so.2", "--help"], text=True):
-        engine = faster
+    folder = os.path.dirname(engine)
+    loader = subprocess.check_output(["/lib64/ld-linux-x86-64.so.2", "--help"], text=True)
+    for level in ("x86-64-v3", "x86-64-v4"):
+        faster = os.path.join(folder, "glibc-hwcaps", level, "liblumora_engine.so")
+        assert os.path.getsize(faster) > 0, faster
+        if f"{level} (supported" in loader:
+            engine = faster
 
 # A desktop's viewer that only writes down what it was asked to open.
 asked = os.path.join(home, "asked")
