@@ -25,7 +25,8 @@ GrowString::GrowString(char const* text)
 GrowString::GrowString(const GrowString& other)
     : GrowArray<char>(other)
 {
-    ensureTermination();
+    if (numThings < 1 || theArray[numThings - 1] != 0)
+        ensureTermination();
 }
 
 GrowString& GrowString::operator=(char const* text)
@@ -45,7 +46,11 @@ GrowString& GrowString::operator=(char const* text)
 
 GrowString& GrowString::operator=(const GrowString& other)
 {
-    return *this = other.cString();
+    GrowString copy(other);
+    std::swap(theArray, copy.theArray);
+    std::swap(numThings, copy.numThings);
+    std::swap(maxThings, copy.maxThings);
+    return *this;
 }
 
 GrowString& GrowString::operator=(float number)

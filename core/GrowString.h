@@ -11,6 +11,7 @@ class LUMORA_API GrowString : public GrowArray<char> {
 public:
     GrowString();
     GrowString(char const* text);
+    /// A copy has every byte of a terminated string, also of one that begins with a zero byte, and equals it.
     GrowString(const GrowString& other);
     /// Null leaves the string unchanged.
     GrowString& operator=(char const* text);

@@ -128,9 +128,11 @@ public:
     static float getFilterAspect(int filter, float aspect);
     /// The margins of a border style, each a fraction of the picture's longer side.
     static void getBorderReqsForFilter(int filter, float* left, float* right, float* top, float* bottom);
-    /// Grows the canvas by margins (pixels) of one colour (channels 0 .. 255). Byte 3 of the new block is undefined.
+    /// Grows the canvas by margins (pixels) of one colour (channels 0 .. 255). Byte 3 of what they add is undefined. A
+    /// negative margin crops; margins that crop everything leave a picture without pixels. A side beyond an int throws
+    /// `std::bad_alloc` and changes nothing.
     void addBorder(int left, int right, int top, int bottom, float red, float green, float blue);
-    /// Paints margins (pixels) inside the canvas; `colour` is red, green, blue.
+    /// Paints margins (pixels) inside the canvas; `colour` is red, green, blue. A negative margin paints nothing.
     void fillBorder(int left, int right, int top, int bottom, const unsigned char* colour);
     /// Rounds the inner corners of the area inside the margins by blending `colour` into squares of `radius` pixels.
     void fillRoundedBorder(int left, int right, int top, int bottom, int radius, const unsigned char* colour);

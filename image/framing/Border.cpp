@@ -6,16 +6,43 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace lumora {
 
 namespace {
 
+/// A side with its margins, of which negative ones crop; 0 where they leave nothing.
+int framedSide(int before, int side, int after)
+{
+    const long long framed = (long long)before + side + after;
+    if (framed > INT_MAX)
+        throw std::bad_array_new_length();
+    return int(std::max(framed, 0LL));
+}
+
+/// The place in a side of `length` pixels where the area inside a margin begins.
+int startInside(int margin, int length)
+{
+    return std::clamp(margin, 0, std::max(length, 0));
+}
+
+/// The place in a side of `length` pixels where the area inside a margin at its end is over.
+int endInside(int margin, int length)
+{
+    return int(std::clamp<long long>((long long)length - margin, 0, std::max(length, 0)));
+}
+
+unsigned char* pixelIn(CharImage& image, long long x, long long y)
+{
+    return image.data + (y * image.width + x) * 4;
+}
+
 /// Paints the pixels of columns `from` .. `to` - 1 in a row; their spare bytes stay.
 void paint(CharImage& image, int row, int from, int to, const unsigned char* colour)
 {
     const Colour<int> c = {colour[0], colour[1], colour[2]};
-    unsigned char* const pixels = image.data + std::size_t(row) * image.width * 4;
+    unsigned char* const pixels = pixelIn(image, 0, row);
     for (int x = from; x < to; x++)
         Block::setBytes(pixels + std::size_t(x) * 4, c);
 }
@@ -36,28 +63,33 @@ void maskDisc(CharImage& image, float radius)
 
 void CharImage::addBorder(int left, int right, int top, int bottom, float red, float green, float blue)
 {
-    const int newWidth = left + width + right, newHeight = top + height + bottom;
-    const std::size_t newRow = std::size_t(newWidth) * 4, row = std::size_t(width) * 4;
-    CharImage framed(new unsigned char[newRow * newHeight], newWidth, newHeight);
+    CharImage framed;
+    framed.width = framedSide(left, width, right);
+    framed.height = framedSide(top, height, bottom);
+    framed.bytesPerPixel = 4;
+    framed.data = new unsigned char[framed.pixelCount() * 4];
     const unsigned char colour[3] = {truncateAndWrap(red), truncateAndWrap(green), truncateAndWrap(blue)};
     framed.fillBorder(left, right, top, bottom, colour);
-    for (int y = 0; y < height; y++)
-        std::memcpy(framed.data + (top + y) * newRow + std::size_t(left) * 4, data + y * row, row);
+    const int x = startInside(left, framed.width), kept = endInside(right, framed.width) - x;
+    for (int y = startInside(top, framed.height); kept > 0 && y < endInside(bottom, framed.height); y++)
+        std::memcpy(
+            pixelIn(framed, x, y), pixelIn(*this, x - (long long)left, y - (long long)top), std::size_t(kept) * 4);
     std::swap(data, framed.data);
     bytesPerPixel = framed.bytesPerPixel;
-    width = newWidth;
-    height = newHeight;
+    width = framed.width;
+    height = framed.height;
 }
 
 void CharImage::fillBorder(int left, int right, int top, int bottom, const unsigned char* colour)
 {
+    const int insideTop = startInside(top, height), insideBottom = endInside(bottom, height);
     for (int y = 0; y < height; y++) {
-        if (y < top || y >= height - bottom) {
+        if (y < insideTop || y >= insideBottom) {
             paint(*this, y, 0, width, colour);
             continue;
         }
-        paint(*this, y, 0, std::clamp(left, 0, width), colour);
-        paint(*this, y, std::clamp(width - right, 0, width), width, colour);
+        paint(*this, y, 0, startInside(left, width), colour);
+        paint(*this, y, endInside(right, width), width, colour);
     }
 }
 

@@ -21,8 +21,10 @@ void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int 
 {
     const float softness = float(radius * 0.02);
     const float hardness = softness >= 1.0f ? softness : 1.0f;
-    const int farLeft = width - right - radius, farTop = height - bottom - radius;
-    const auto within = [radius](int v, int start) { return v >= start && v < start + radius; };
+    // Places may lie far outside the picture, beyond an int.
+    const long long farLeft = (long long)width - right - radius, farTop = (long long)height - bottom - radius;
+    const long long nearX = (long long)left + radius - 1, nearY = (long long)top + radius - 1;
+    const auto within = [radius](int v, long long start) { return v >= start && v < start + radius; };
     for (int y = 0; y < height; y++) {
         // Squares that overlap in a small picture: the last one decides, bottom before top and right before left.
         const bool isBottom = within(y, farTop);
@@ -32,8 +34,7 @@ void CharImage::fillRoundedBorder(int left, int right, int top, int bottom, int 
             const bool isRight = within(x, farLeft);
             if (!isRight && !within(x, left))
                 continue;
-            const int cx = isRight ? farLeft : left + radius - 1;
-            const int cy = isBottom ? farTop : top + radius - 1;
+            const long long cx = isRight ? farLeft : nearX, cy = isBottom ? farTop : nearY;
             const float q = distance(float(x - cx), float(y - cy)) / float(radius);
             if (!(q > 0.0f))
                 continue;

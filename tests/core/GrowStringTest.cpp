@@ -7,6 +7,18 @@
 
 using namespace lumora;
 
+namespace {
+
+/// Makes these bytes the string's, terminated or not.
+void fill(GrowString& s, std::initializer_list<char> bytes)
+{
+    s.clear();
+    for (char c : bytes)
+        s.add(c);
+}
+
+} // namespace
+
 TEST(GrowString, TerminatesTheEmptyString)
 {
     const GrowString none;
@@ -44,9 +56,7 @@ TEST(GrowString, ReadsAsEmptyWhenCleared)
 TEST(GrowString, CutsAtAnInnerZero)
 {
     GrowString s;
-    s.clear();
-    for (char c : {'a', 'b', '\0', 'c', 'd'})
-        s.add(c);
+    fill(s, {'a', 'b', '\0', 'c', 'd'});
     s.ensureTermination();
     EXPECT_EQ(s.numThings, 3);
     EXPECT_EQ(textOf(s), "ab");
@@ -55,12 +65,54 @@ TEST(GrowString, CutsAtAnInnerZero)
 TEST(GrowString, DoesNotCutAtALeadingZero)
 {
     GrowString s;
-    s.clear();
-    for (char c : {'\0', 'a'})
-        s.add(c);
+    fill(s, {'\0', 'a'});
     s.ensureTermination();
     EXPECT_EQ(s.numThings, 3);
     EXPECT_EQ(s.length(), 0);
+}
+
+TEST(GrowString, KeepsALeadingZeroInCopies)
+{
+    const std::initializer_list<char> samples[] = {{'\0'}, {'\0', '\0'}, {'\0', 'a', '\0'}, {'\0', 'a', '\0', '\0'}};
+    for (const auto& bytes : samples) {
+        GrowString s;
+        fill(s, bytes);
+        const GrowString copy(s);
+        EXPECT_EQ(copy.numThings, int(bytes.size()));
+        EXPECT_TRUE(copy == s);
+        GrowString assigned("before");
+        assigned = s;
+        EXPECT_EQ(assigned.numThings, int(bytes.size()));
+        EXPECT_TRUE(assigned == s);
+    }
+}
+
+TEST(GrowString, TerminatesCopiesOfWhatIsNot)
+{
+    GrowString s;
+    fill(s, {'a', 'b'});
+    EXPECT_EQ(textOf(GrowString(s)), "ab");
+    GrowString assigned;
+    assigned = s;
+    EXPECT_EQ(textOf(assigned), "ab");
+    s.clear();
+    assigned = s;
+    EXPECT_EQ(textOf(assigned), "");
+}
+
+TEST(GrowString, CountsAndReadsBytesWithoutATerminator)
+{
+    GrowString s;
+    fill(s, {'a', 'b', 'c'});
+    ASSERT_EQ(s.maxThings, 4);
+    s.theArray[3] = 'x'; // in the block, but not in use
+    EXPECT_EQ(s.length(), 3);
+    EXPECT_EQ(s.charAt(2), 'c');
+    EXPECT_EQ(s.charAt(3), 0);
+    fill(s, {'a', '\0', 'c'});
+    EXPECT_EQ(s.length(), 1);
+    EXPECT_EQ(s.charAt(1), 0);
+    EXPECT_EQ(s.charAt(2), 'c');
 }
 
 TEST(GrowString, ReadsCharacters)

@@ -28,6 +28,9 @@ TEST(CharImage, AdoptsABlockAndRaisesItsSides)
     const CharImage single(new unsigned char[4], -3, -3);
     EXPECT_EQ(single.width, 1);
     EXPECT_EQ(single.height, 1);
+    const CharImage narrow(new unsigned char[20], 5, 0);
+    EXPECT_EQ(narrow.width, 5);
+    EXPECT_EQ(narrow.height, 1);
 }
 
 TEST(CharImage, CopiesEveryByte)
@@ -70,6 +73,23 @@ TEST(CharImage, ExportsOneAsFourthByte)
     CharImage().copyToRGBACharArray(untouched);
     for (unsigned char byte : untouched)
         EXPECT_EQ(byte, 9);
+}
+
+TEST(CharImage, CopiesAndExportsPixelsOfAnySize)
+{
+    for (const int bytesPerPixel : {3, 5}) {
+        CharImage image(new unsigned char[6 * 5], 3, 2);
+        image.bytesPerPixel = bytesPerPixel;
+        for (int i = 0; i < 6 * bytesPerPixel; i++)
+            image.data[i] = static_cast<unsigned char>(10 + i);
+        const CharImage copy(image);
+        EXPECT_EQ(copy.bytesPerPixel, bytesPerPixel);
+        EXPECT_TRUE(std::equal(copy.data, copy.data + 6 * bytesPerPixel, image.data));
+        unsigned char out[6 * 4];
+        copy.copyToRGBACharArray(out);
+        for (int i = 0; i < 24; i++)
+            EXPECT_EQ(out[i], i % 4 == 3 ? 1 : 10 + i / 4 * bytesPerPixel + i % 4);
+    }
 }
 
 TEST(CharImage, DrawsItsRandomTableFromRand)

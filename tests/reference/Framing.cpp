@@ -3,16 +3,19 @@
 #include "tests/reference/Toolkit.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace reference {
 
 void addBorder(Picture& picture, int left, int right, int top, int bottom, float red, float green, float blue)
 {
-    Picture framed(left + picture.width + right, top + picture.height + bottom);
+    const std::int64_t newWidth = std::int64_t(left) + picture.width + right;
+    const std::int64_t newHeight = std::int64_t(top) + picture.height + bottom;
+    Picture framed(newWidth < 0 ? 0 : int(newWidth), newHeight < 0 ? 0 : int(newHeight));
     for (int y = 0; y < framed.height; y++)
         for (int x = 0; x < framed.width; x++) {
             unsigned char* p = framed.at(x, y);
-            if (y < top || y >= framed.height - bottom || x < left || x >= framed.width - right) {
+            if (y < top || y >= newHeight - bottom || x < left || x >= newWidth - right) {
                 p[0] = wrapped(red);
                 p[1] = wrapped(green);
                 p[2] = wrapped(blue);
@@ -28,7 +31,8 @@ void fillBorder(Picture& picture, int left, int right, int top, int bottom, cons
 {
     for (int y = 0; y < picture.height; y++)
         for (int x = 0; x < picture.width; x++)
-            if (y < top || x < left || x >= picture.width - right || y >= picture.height - bottom)
+            if (y < top || x < left || x >= std::int64_t(picture.width) - right
+                || y >= std::int64_t(picture.height) - bottom)
                 for (int k = 0; k < 3; k++)
                     picture.at(x, y)[k] = colour[k];
 }
@@ -36,13 +40,13 @@ void fillBorder(Picture& picture, int left, int right, int top, int bottom, cons
 void fillRoundedBorder(
     Picture& picture, int left, int right, int top, int bottom, int radius, const unsigned char* colour)
 {
-    const int R = radius, width = picture.width, height = picture.height;
-    const float s = float(R * 0.02);
+    const std::int64_t R = radius, width = picture.width, height = picture.height;
+    const float s = float(radius * 0.02);
     const float k = s >= 1.0f ? s : 1.0f;
     for (int y = 0; y < height; y++)
         for (int x = 0; x < width; x++) {
             bool inside = false;
-            int cx = 0, cy = 0;
+            std::int64_t cx = 0, cy = 0;
             if (x >= left && x < left + R && y >= top && y < top + R)
                 inside = true, cx = left + R - 1, cy = top + R - 1;
             if (x >= left && x < left + R && y >= height - bottom - R && y < height - bottom)

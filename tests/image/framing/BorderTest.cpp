@@ -2,6 +2,8 @@
 #include "tests/reference/Framing.h"
 
 #include <algorithm>
+#include <array>
+#include <climits>
 #include <cstdint>
 #include <gtest/gtest.h>
 
@@ -55,6 +57,64 @@ TEST(Border, MakesAPictureWhereThereWasNone)
         EXPECT_TRUE(image.data[4 * i] == 10 && image.data[4 * i + 1] == 20 && image.data[4 * i + 2] == 30);
 }
 
+TEST(Border, CropsByNegativeMargins)
+{
+    const Picture picture = randomPicture(7, 6, 2);
+    const auto image = imageOf(picture);
+    image->addBorder(-2, -1, -3, 1, 9, 9, 9);
+    ASSERT_TRUE(image->width == 4 && image->height == 4);
+    for (int x = 0; x < 4; x++) {
+        for (int y = 0; y < 3; y++)
+            for (int k = 0; k < 3; k++)
+                EXPECT_EQ(at(*image, x, y)[k], picture.at(x + 2, y + 3)[k]);
+        expectColour(*image, x, 3, 9);
+    }
+}
+
+TEST(Border, CropsAndGrowsLikeItsTwin)
+{
+    // Also crops of more than the picture has beside margins that make up for it: all of it is the margin's colour.
+    const int margins[] = {INT_MIN, -13, -12, -1, 0, 2, 40};
+    const Picture picture = randomPicture(12, 5, 3);
+    for (int left : margins)
+        for (int right : margins)
+            for (int top : {-9, -5, -1, 0, 3})
+                for (int bottom : {INT_MIN, -4, 1}) {
+                    Picture expected = picture;
+                    reference::addBorder(expected, left, right, top, bottom, 1, 2, 3);
+                    const auto image = imageOf(picture);
+                    image->addBorder(left, right, top, bottom, 1, 2, 3);
+                    expectSame(*image, expected,
+                        "margins " + std::to_string(left) + " " + std::to_string(right) + " " + std::to_string(top)
+                            + " " + std::to_string(bottom),
+                        false);
+                }
+}
+
+TEST(Border, LeavesNoPixelsWhereMarginsCropAll)
+{
+    const std::array<int, 4> crops[] = {{-4, 0, 0, 0}, {0, -9, 0, 0}, {0, 0, -1, -2}, {0, 0, 0, INT_MIN},
+        {-3, -3, -3, -3}, {INT_MIN, INT_MIN, INT_MIN, INT_MIN}};
+    for (const auto& [left, right, top, bottom] : crops) {
+        const auto image = imageOf(randomPicture(4, 3, 1));
+        image->addBorder(left, right, top, bottom, 10, 20, 30);
+        EXPECT_EQ(image->pixelCount(), 0u);
+        EXPECT_TRUE(image->width >= 0 && image->height >= 0);
+        image->applyFilterBorder(29, 100);
+        image->addBorder(1 - image->width, 0, 1 - image->height, 0, 10, 20, 30);
+        EXPECT_TRUE(image->width == 1 && image->height == 1 && at(*image, 0, 0)[1] == 20);
+    }
+}
+
+TEST(Border, RefusesSidesBeyondAnInt)
+{
+    const Picture picture = randomPicture(4, 3, 1);
+    const auto image = imageOf(picture);
+    EXPECT_THROW(image->addBorder(INT_MAX, 0, 0, 0, 1, 2, 3), std::bad_alloc);
+    EXPECT_THROW(image->addBorder(0, 0, 0, INT_MAX, 1, 2, 3), std::bad_alloc);
+    expectSame(*image, picture, "refused");
+}
+
 TEST(Border, DrawsCinemaBarsWithoutAnOutline)
 {
     const auto image = imageOf(flatPicture(20, 400, 90, 90, 90));
@@ -93,7 +153,7 @@ TEST(Border, FramesInstantInOffWhite)
 TEST(Border, DrawsNothingForNumbersWithoutOne)
 {
     const Picture picture = randomPicture(30, 20, 8);
-    for (int border : {14, 0, 11, 99}) {
+    for (int border : {14, 0, 11, 12, 13, -1, 99}) {
         const auto image = imageOf(picture);
         image->applyFilterBorder(border, 30);
         expectSame(*image, picture, std::to_string(border));
@@ -102,15 +162,20 @@ TEST(Border, DrawsNothingForNumbersWithoutOne)
 
 TEST(Border, FollowsTheLastEntryOfACustomList)
 {
-    GrowArray<int> list;
-    list.add(5);
-    list.add(8);
-    CharImage::setCustomFilterB(list);
-    const auto image = imageOf(flatPicture(20, 40, 90, 90, 90));
-    image->applyFilterBorder(12, 40);
-    expectColour(*image, 10, 4, 0);
-    list.clear();
-    CharImage::setCustomFilterB(list);
+    const std::pair<int, void (*)(const GrowArray<int>&)> lists[] = {
+        {11, CharImage::setCustomFilterA}, {12, CharImage::setCustomFilterB}, {13, CharImage::setCustomFilterC}};
+    for (const auto& [number, setList] : lists) {
+        GrowArray<int> list;
+        list.add(5);
+        list.add(8);
+        setList(list);
+        const auto image = imageOf(flatPicture(20, 40, 90, 90, 90));
+        image->applyFilterBorder(number, 40);
+        expectColour(*image, 10, 4, 0);
+        expectColour(*image, 0, 20, 90);
+        list.clear();
+        setList(list);
+    }
 }
 
 TEST(Border, MasksEverythingOutsideTheFisheyesCircle)
@@ -157,6 +222,29 @@ TEST(Border, StaysInTheCornerSquaresOfANarrowPicture)
             }
     expectColour(*image, 2, 2, 255);
     expectColour(*image, 27, 97, 255);
+}
+
+TEST(Border, TakesMarginsAndRadiiOfAnySize)
+{
+    const unsigned char colour[3] = {250, 10, 77};
+    const int sizes[] = {INT_MIN, INT_MIN + 8, 3, INT_MAX};
+    const Picture picture = randomPicture(12, 9, 3);
+    for (int left : sizes)
+        for (int right : sizes)
+            for (int top : sizes)
+                for (int bottom : sizes) {
+                    Picture expected = picture;
+                    const auto image = imageOf(picture);
+                    reference::fillBorder(expected, left, right, top, bottom, colour);
+                    image->fillBorder(left, right, top, bottom, colour);
+                    for (int radius : {INT_MIN, -1, 5, INT_MAX}) {
+                        reference::fillRoundedBorder(expected, left, right, top, bottom, radius, colour);
+                        image->fillRoundedBorder(left, right, top, bottom, radius, colour);
+                    }
+                    expectSame(*image, expected,
+                        "margins " + std::to_string(left) + " " + std::to_string(right) + " " + std::to_string(top)
+                            + " " + std::to_string(bottom));
+                }
 }
 
 TEST(Border, MatchesItsTwin)

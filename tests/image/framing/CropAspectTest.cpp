@@ -27,12 +27,12 @@ std::array<float, 2> fit(float width, float height, float boxWidth, float boxHei
     return out;
 }
 
-void setListA(std::initializer_list<int> filters)
+GrowArray<int> listOf(std::initializer_list<int> filters)
 {
     GrowArray<int> list;
     for (int filter : filters)
         list.add(filter);
-    CharImage::setCustomFilterA(list);
+    return list;
 }
 
 } // namespace
@@ -65,12 +65,19 @@ TEST(CropAspect, KeepsSquaresAndWideStrips)
 
 TEST(CropAspect, FollowsTheLastEntryOfACustomList)
 {
-    EXPECT_EQ(CharImage::getFilterAspect(11, 1.5f), -1.0f);
-    EXPECT_EQ(margins(11), even(0));
-    setListA({21, 8});
-    EXPECT_EQ(CharImage::getFilterAspect(11, 0.5f), 1.7777778f);
-    EXPECT_EQ(margins(11), (std::array<float, 4>{0, 0, 0.125f, 0.125f}));
-    setListA({});
+    const std::pair<int, void (*)(const GrowArray<int>&)> lists[] = {
+        {11, CharImage::setCustomFilterA}, {12, CharImage::setCustomFilterB}, {13, CharImage::setCustomFilterC}};
+    for (const auto& [number, setList] : lists) {
+        EXPECT_EQ(CharImage::getFilterAspect(number, 1.5f), -1.0f);
+        EXPECT_EQ(margins(number), even(0));
+        setList(listOf({21, 8}));
+        EXPECT_EQ(CharImage::getFilterAspect(number, 0.5f), 1.7777778f);
+        EXPECT_EQ(margins(number), (std::array<float, 4>{0, 0, 0.125f, 0.125f}));
+        setList(listOf({8, 25}));
+        EXPECT_EQ(CharImage::getFilterAspect(number, 1.5f), 1.3333334f);
+        EXPECT_EQ(margins(number), even(0));
+        setList(listOf({}));
+    }
 }
 
 TEST(BorderRequirements, StandInTheTable)
@@ -100,4 +107,15 @@ TEST(BestFit, TouchesTheTighterSide)
     EXPECT_EQ(fit(2, 1, 101, 200), (std::array<float, 2>{101, 51})); // half up
     EXPECT_EQ(fit(1, 2, 200, 101), (std::array<float, 2>{51, 101}));
     EXPECT_EQ(fit(3, 2, 100.5f, 200), (std::array<float, 2>{100.5f, 67})); // the touching side is not rounded
+}
+
+TEST(BestFit, TakesTheBoxsHeightWhereTheAspectsAreEqual)
+{
+    EXPECT_EQ(fit(4, 3, 1.5f, 1.125f), (std::array<float, 2>{2, 1.125f}));
+}
+
+TEST(BestFit, DividesAndMultipliesInSinglePrecision)
+{
+    EXPECT_EQ(fit(8, 5, 100, 100), (std::array<float, 2>{100, 63})); // 62.4999991 before it is a float
+    EXPECT_EQ(fit(5, 6, 100, 15), (std::array<float, 2>{13, 15})); // 12.4999997
 }
