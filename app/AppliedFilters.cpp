@@ -74,7 +74,8 @@ void MainWindowController::applyMultipleFilters()
     if (!work || m_photo.isNull())
         return;
     QString reason;
-    m_ui->mainImageView->setImage(saveMultipleFilters(true, &reason));
+    const QImage render = saveMultipleFilters(true, &reason);
+    m_ui->mainImageView->setImage(render, reason);
     if (!reason.isEmpty())
         openModalSheetWithText(tr("The preview cannot be shown."), reason);
 }

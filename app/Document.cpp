@@ -23,10 +23,13 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
     if (!work)
         return false;
     qInfo("%s", path.constData());
+    if (m_sheet)
+        m_sheet->close(); // what it said is answered by what comes now
     m_work.beginStep(tr("Decode"));
     const LoadedPhoto loaded = loadPhoto(path);
     if (loaded.image.isNull()) {
-        openModalSheetWithText(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), loaded.reason);
+        // Not modal: another photo may be dropped on the window at once.
+        showSheet(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), loaded.reason, Qt::NonModal);
         return false;
     }
     m_photo.metadata = loaded.metadata;
@@ -49,6 +52,7 @@ void MainWindowController::setoriginalImage(const QImage& image)
 {
     m_photo.setOriginal(image, displayRes, devicePixelRatioF());
     m_ui->mainImageView->setComparedImage(m_photo.display());
+    showWhatCanBeDone();
 }
 
 QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)

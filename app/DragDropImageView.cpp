@@ -29,11 +29,12 @@ DragDropImageView::DragDropImageView(QWidget* parent)
     setAcceptDrops(true);
 }
 
-void DragDropImageView::setImage(const QImage& image)
+void DragDropImageView::setImage(const QImage& image, const QString& reason)
 {
     const QRect before = shownArea();
     m_comparing = false;
     m_rendered = image;
+    m_reason = reason;
     update(before | shownArea());
 }
 
@@ -114,36 +115,57 @@ void DragDropImageView::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (shownImage().isNull()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("Drop a photo here, or open one."));
+        const QString invitation = QStringLiteral("Drop a photo here, or open one.");
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_reason.isEmpty() ? invitation : m_reason);
     } else {
         painter.drawImage(imageRect(), fitted());
     }
+    if (m_dropSign)
+        paintDropSign(painter);
     if (hasFocus() && m_focusByKey) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 
-void DragDropImageView::dragEnterEvent(QDragEnterEvent* event)
+void DragDropImageView::paintDropSign(QPainter& painter)
 {
-    if (draggingEntered(event->mimeData(), event->possibleActions()) == Qt::IgnoreAction) {
-        event->ignore();
-        return;
-    }
-    // A source that only links is told so; the file is read all the same.
-    event->setDropAction(event->possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
-    event->accept();
+    const QColor accent = palette().color(QPalette::Highlight);
+    QColor veil = accent;
+    veil.setAlpha(60);
+    painter.fillRect(rect(), veil);
+    painter.setPen(QPen(accent, 4));
+    painter.drawRect(rect().adjusted(2, 2, -2, -2));
 }
 
-void DragDropImageView::dropEvent(QDropEvent* event)
+void DragDropImageView::showDropSign(bool on)
 {
-    if (!performDragOperation(event->mimeData())) {
-        event->setDropAction(Qt::IgnoreAction);
-        event->ignore();
+    m_dropSign = on;
+    update();
+}
+
+void DragDropImageView::takeDragEnter(QDragEnterEvent& event)
+{
+    if (draggingEntered(event.mimeData(), event.possibleActions()) == Qt::IgnoreAction) {
+        event.ignore();
         return;
     }
-    event->setDropAction(event->possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
-    event->accept();
+    showDropSign(true);
+    // A source that only links is told so; the file is read all the same.
+    event.setDropAction(event.possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
+    event.accept();
+}
+
+void DragDropImageView::takeDrop(QDropEvent& event)
+{
+    showDropSign(false);
+    if (!performDragOperation(event.mimeData())) {
+        event.setDropAction(Qt::IgnoreAction);
+        event.ignore();
+        return;
+    }
+    event.setDropAction(event.possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
+    event.accept();
 }
 
 void DragDropImageView::mousePressEvent(QMouseEvent* event)

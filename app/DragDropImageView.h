@@ -24,8 +24,9 @@ public:
     explicit DragDropImageView(QWidget* parent = nullptr);
 
     QImage image() const { return m_rendered; }
-    /// Also ends comparing: what is new must be seen.
-    void setImage(const QImage& image);
+    /// Also ends comparing: what is new must be seen. `reason`: why there is no picture, shown in its place; without
+    /// one a null picture invites to drop a photo.
+    void setImage(const QImage& image, const QString& reason = {});
     /// What is shown while comparing.
     void setComparedImage(const QImage& image);
     void setComparing(bool on);
@@ -44,13 +45,18 @@ public:
     Qt::DropAction draggingEntered(const QMimeData* content, Qt::DropActions allowed) const;
     /// Hands the first file of a drop to the delegate; true when it was taken.
     bool performDragOperation(const QMimeData* content);
+    /// Answers a drag that comes over the window, and shows a sign while one that may be dropped stays.
+    void takeDragEnter(QDragEnterEvent& event);
+    void takeDrop(QDropEvent& event);
+    void showDropSign(bool on);
 
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent*) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override { takeDragEnter(*event); }
+    void dragLeaveEvent(QDragLeaveEvent*) override { showDropSign(false); }
+    void dropEvent(QDropEvent* event) override { takeDrop(*event); }
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -65,10 +71,13 @@ private:
     /// What the picture takes of the widget; all of it without one, for the words that stand there instead.
     QRect shownArea() const;
     const QImage& fitted();
+    void paintDropSign(QPainter& painter);
 
     QImage m_rendered, m_compared;
     Fitted m_fittedImages[2]; ///< of the render and of the compared picture
+    QString m_reason;
     bool m_comparing = false;
+    bool m_dropSign = false;
     bool m_focusByKey = false; ///< a frame would only disturb whoever points at the photo
     DropDelegate* m_dropDelegate = nullptr;
 };

@@ -1,13 +1,14 @@
 #include "app/MainWindowController.h"
 #include "ui_MainWindow.h"
 
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QFileOpenEvent>
 #include <QKeyEvent>
 
-// What a key, a click and the wheel mean in the window does not depend on the control that was used last: a click
-// leaves the focus on the photo, and the space bar compares wherever the focus is. Lists, menus, sheets and panels are
-// windows of their own and are left alone.
+// What a key, a click, the wheel and a drag mean in the window does not depend on the control that was used last: a
+// click leaves the focus on the photo, and the space bar compares wherever the focus is. Lists, menus, sheets and
+// panels are windows of their own and are left alone.
 
 namespace {
 
@@ -46,10 +47,13 @@ bool pressByKey(QWidget* control)
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FileOpen) {
-        loadImageFromFile(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
+        openFileWhenShown(QFile::encodeName(static_cast<QFileOpenEvent*>(event)->file()));
+        openWaitingFile();
         return true;
     }
     auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget && (widget == this || widget == m_sheet) && takesDrag(event))
+        return true;
     if (!widget || widget->window() != this)
         return false;
     switch (event->type()) {
@@ -66,6 +70,24 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
         return takesKeyPress(widget, *static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
         return takesKeyRelease(*static_cast<QKeyEvent*>(event));
+    default:
+        return false;
+    }
+}
+
+/// A file may be dropped anywhere on the window and on a sheet; the preview shows that, and takes it.
+bool MainWindowController::takesDrag(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::DragEnter:
+        m_ui->mainImageView->takeDragEnter(*static_cast<QDragEnterEvent*>(event));
+        return true;
+    case QEvent::DragLeave:
+        m_ui->mainImageView->showDropSign(false);
+        return true;
+    case QEvent::Drop:
+        m_ui->mainImageView->takeDrop(*static_cast<QDropEvent*>(event));
+        return true;
     default:
         return false;
     }

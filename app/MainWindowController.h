@@ -7,6 +7,7 @@
 #include "core/GrowArray.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 #include <memory>
 
@@ -68,8 +69,8 @@ public:
     /// True when the file of that path (any bytes) was taken as the new photo. Otherwise nothing changes, and a sheet
     /// says why.
     bool loadImageFromFile(const QByteArray& path) override;
-    /// The same as soon as the window has been painted.
-    void openFileWhenShown(const QByteArray& path) { m_fileWhenShown = path; }
+    /// The same as soon as the window has been painted and nothing is worked on; of several the last.
+    void openFileWhenShown(const QByteArray& path) { m_waitingFile = path; }
     /// Scales to the longer side `maxSide`, also upwards; gives the exact size before it was rounded to pixels.
     static QSizeF downsizeNSImage(QImage& image, int maxSide);
     /// A copy turned by quarter turns; positive degrees turn counter-clockwise.
@@ -79,7 +80,7 @@ public:
     lumora::GrowArray<QToolButton*> filterButtons; ///< the ten look buttons in their order
     void updateThumbnailImages();
     void windowDidResize();
-    /// A sheet with a title, a text and "OK". Both are plain text.
+    /// A sheet with a title, a text and "OK". Both are plain text. There is one sheet at most: a new one replaces it.
     void openModalSheetWithText(const QString& text, const QString& auxText);
 
 public slots:
@@ -126,9 +127,13 @@ private:
     Work renderOfPreview(); ///< of the applied list
     void showStep(const QString& name, int done, int steps) override;
     void workEnded(bool closeAsked) override;
+    bool takesDrag(QEvent* event); ///< true: it was one
     bool takesKeyPress(QWidget* widget, const QKeyEvent& press); ///< true: `widget` must not see it
     bool takesKeyRelease(const QKeyEvent& release);
     void showAppliedFilters();
+    void showWhatCanBeDone();
+    void showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality);
+    void openWaitingFile();
     void setCurrentFile(const QByteArray& path);
     void rotateImage(float degrees);
     int largerFrameSide() const;
@@ -137,12 +142,14 @@ private:
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
+    QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
+    QPointer<QWidget> m_sheet; ///< the one that is shown
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 
     WorkInProgress m_work{*this};
     Photo m_photo;
     QImage m_filtersAppliedImage; ///< the latest render
-    QByteArray m_fileWhenShown;
+    QByteArray m_waitingFile; ///< to be opened when there is room for it; empty for none
     bool m_wasPainted = false;
     QString m_panelFolder; ///< where a panel was left; empty before the first
 };

@@ -14,15 +14,15 @@ void MainWindowController::buildMenus()
 
     QMenu* file = m_ui->menubar->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
-    file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
+    m_photoActions << file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
     file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);
 
     QMenu* photo = m_ui->menubar->addMenu(tr("&Photo"));
-    photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
-    photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);
-    photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
+    m_photoActions << photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
+    m_photoActions << photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);
+    m_photoActions << photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
     photo->addSeparator();
     photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
 
@@ -54,4 +54,14 @@ void MainWindowController::buildMenus()
     QMenu* help = m_ui->menubar->addMenu(tr("&Help"));
     help->addAction(tr("Lumora &Help"), QKeySequence::HelpContents, this, &Self::openHelp);
     help->addAction(tr("&About Lumora"), this, &Self::openAbout)->setMenuRole(QAction::AboutRole);
+}
+
+/// Without a photo there is nothing to turn, to flatten or to save.
+void MainWindowController::showWhatCanBeDone()
+{
+    const bool hasPhoto = !m_photo.isNull();
+    for (QAction* action : m_photoActions)
+        action->setEnabled(hasPhoto);
+    for (QWidget* button : {m_ui->btnLeft, m_ui->btnRight, m_ui->btnFlatten, m_ui->btnSave})
+        button->setEnabled(hasPhoto);
 }

@@ -84,11 +84,20 @@ QByteArray MainWindowController::askWhereToSave()
 
 void MainWindowController::openModalSheetWithText(const QString& text, const QString& auxText)
 {
+    showSheet(text, auxText, Qt::WindowModal);
+}
+
+void MainWindowController::showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality)
+{
+    if (m_sheet)
+        m_sheet->close();
     auto* sheet = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("Lumora"), text, QMessageBox::Ok, this);
     sheet->setInformativeText(auxText);
     for (QLabel* label : sheet->findChildren<QLabel*>()) // the box itself would ask only the first one
         label->setTextFormat(Qt::PlainText);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setWindowModality(modality);
+    sheet->setAcceptDrops(true);
     sheet->show();
+    m_sheet = sheet;
 }

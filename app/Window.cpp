@@ -75,6 +75,8 @@ void MainWindowController::completeNibLoading()
     qApp->installEventFilter(this);
     buildMenus();
     showAppliedFilters();
+    showWhatCanBeDone();
+    setAcceptDrops(true);
     m_ui->mainImageView->setFocus();
 }
 
@@ -175,10 +177,14 @@ void MainWindowController::paintEvent(QPaintEvent* event)
     // Until now the desktop had not yet put its frame round the window.
     if (!std::exchange(m_wasPainted, true))
         displayRes = qMax(displayRes, displayResAtLoad(largerFrameSide()));
-    if (m_fileWhenShown.isEmpty())
-        return;
-    const QByteArray path = std::exchange(m_fileWhenShown, {});
-    QTimer::singleShot(0, this, [this, path] { loadImageFromFile(path); });
+    if (!m_waitingFile.isEmpty())
+        QMetaObject::invokeMethod(this, &MainWindowController::openWaitingFile, Qt::QueuedConnection);
+}
+
+void MainWindowController::openWaitingFile()
+{
+    if (m_wasPainted && m_work.mayBegin() && !m_waitingFile.isEmpty())
+        loadImageFromFile(std::exchange(m_waitingFile, {}));
 }
 
 void MainWindowController::openHelp()

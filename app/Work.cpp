@@ -42,6 +42,8 @@ void MainWindowController::workEnded(bool closeAsked)
     m_ui->progressBar->hide();
     if (closeAsked)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    else if (!m_waitingFile.isEmpty())
+        QMetaObject::invokeMethod(this, &MainWindowController::openWaitingFile, Qt::QueuedConnection);
 }
 
 void MainWindowController::closeEvent(QCloseEvent* event)

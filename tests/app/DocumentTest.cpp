@@ -120,12 +120,37 @@ private slots:
     {
         Desk desk;
         const QByteArray printed = printedBy([&] {
-            for (const char* button : {"btnLeft", "btnRight", "btnFlatten", "btnSave"})
-                desk.click(button);
+            desk.window.rotateImageLeft();
+            desk.window.rotateImageRight();
+            desk.window.flattenImage();
+            desk.window.saveFilteredImage();
         });
         QCOMPARE(printed, QByteArray());
         QVERIFY(desk.window.getoriginalImage().isNull() && desk.window.getFiltersAppliedImage().isNull());
         QCOMPARE(desk.sheet(), QStringList());
+    }
+
+    void whatNeedsAPhotoIsShownDisabledWithoutOne()
+    {
+        Desk desk;
+        const auto enabled = [&] {
+            QStringList names;
+            for (const char* button : {"btnLoad", "btnLeft", "btnRight", "btnReExpose", "btnFlatten", "btnSave"})
+                if (desk.find<QWidget>(button)->isEnabled())
+                    names << button;
+            for (const QAction* action : desk.window.findChildren<QAction*>())
+                if (action->isEnabled() && action->shortcut().toString().startsWith("Ctrl+"))
+                    names << action->shortcut().toString();
+            return names;
+        };
+        const QStringList always{"btnLoad", "btnReExpose", "Ctrl+O", "Ctrl+Q", "Ctrl+E"};
+        QCOMPARE(enabled(), always);
+        QVERIFY(!desk.window.loadImageFromFile("/nowhere") && desk.closeSheet());
+        QCOMPARE(enabled(), always);
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "a.png", makePhoto(60, 40))));
+        QCOMPARE(enabled(),
+            QStringList({"btnLoad", "btnLeft", "btnRight", "btnReExpose", "btnFlatten", "btnSave", "Ctrl+O", "Ctrl+S",
+                "Ctrl+Q", "Ctrl+L", "Ctrl+R", "Ctrl+Shift+F", "Ctrl+E"}));
     }
 
     void whereMemoryWouldNotDoNothingIsSavedOrFlattened()
@@ -164,6 +189,10 @@ private slots:
                 QStringList({"The preview cannot be shown.",
                     "There is not enough free memory for a picture of 4000 x 4000 pixels."}));
             QVERIFY(desk.closeSheet());
+            DragDropImageView says(&desk.window);
+            says.resize(desk.find<QWidget>("mainImageView")->size());
+            says.setImage({}, "There is not enough free memory for a picture of 4000 x 4000 pixels.");
+            QCOMPARE(desk.find<QWidget>("mainImageView")->grab().toImage(), says.grab().toImage());
         }
         desk.click("btnMono");
         QCOMPARE(desk.looks(), std::vector<int>());

@@ -1,7 +1,9 @@
 #include "tests/app/Desk.h"
 
 #include <QDragEnterEvent>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QPainter>
 #include <QUrl>
 
 class DropViewTest : public QObject {
@@ -21,7 +23,7 @@ private:
 
     static constexpr Qt::DropActions all = Qt::CopyAction | Qt::LinkAction | Qt::MoveAction;
 
-    static Qt::DropAction enter(DragDropImageView& view, const QMimeData& content, Qt::DropActions allowed)
+    static Qt::DropAction enter(QWidget& view, const QMimeData& content, Qt::DropActions allowed)
     {
         QDragEnterEvent event(QPoint(5, 5), allowed, &content, Qt::LeftButton, Qt::NoModifier);
         event.ignore();
@@ -30,7 +32,7 @@ private:
     }
 
     /// A drag that ends here; only one that may enter arrives.
-    static bool drop(DragDropImageView& view, const QMimeData& content, Qt::DropActions allowed = all)
+    static bool drop(QWidget& view, const QMimeData& content, Qt::DropActions allowed = all)
     {
         enter(view, content, allowed);
         QDropEvent event(QPointF(5, 5), allowed, &content, Qt::LeftButton, Qt::NoModifier);
@@ -161,6 +163,86 @@ private slots:
         QVERIFY(!drop(*view, files));
         QCOMPARE(desk.window.windowTitle(), QString("Lumora - 1.png"));
         QVERIFY(desk.sheet().size() == 2 && desk.sheet()[0].contains("notes.txt"));
+    }
+
+    void aDragThatMayBeDroppedShowsASign()
+    {
+        Taker taker;
+        DragDropImageView view;
+        view.setDelegate(&taker);
+        view.resize(200, 150);
+        for (const QImage& picture : {QImage(), makePhoto(100, 150)}) {
+            view.setImage(picture);
+            const QImage before = view.grab().toImage();
+            QMimeData files, text;
+            setFiles(files, {"/a.jpg"});
+            text.setText("/a.jpg");
+            enter(view, text, all);
+            QCOMPARE(view.grab().toImage(), before);
+            enter(view, files, all);
+            const QImage during = view.grab().toImage();
+            QCOMPARE(during.pixelColor(1, 75), view.palette().color(QPalette::Highlight));
+            QVERIFY(during.pixel(100, 75) != before.pixel(100, 75));
+            QDragLeaveEvent leave;
+            QCoreApplication::sendEvent(&view, &leave);
+            QCOMPARE(view.grab().toImage(), before);
+            drop(view, files);
+            QCOMPARE(view.grab().toImage(), before);
+        }
+    }
+
+    void aFileMayBeDroppedAnywhereOnTheWindow()
+    {
+        Desk desk;
+        auto* view = desk.find<DragDropImageView>("mainImageView");
+        const QImage before = view->grab().toImage();
+        QMimeData files, text;
+        setFiles(files, {QFile::decodeName(writePhoto(desk.folder, "1.png", makePhoto(60, 40)))});
+        text.setText("words");
+        QCOMPARE(enter(desk.window, text, all), Qt::IgnoreAction);
+        QCOMPARE(enter(desk.window, files, all), Qt::CopyAction);
+        QVERIFY(view->grab().toImage() != before);
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&desk.window, &leave);
+        QCOMPARE(view->grab().toImage(), before);
+        QVERIFY(drop(desk.window, files));
+        QCOMPARE(desk.window.windowTitle(), QString("Lumora - 1.png"));
+        QCOMPARE(pixelsOf(view->image()), makePhoto(60, 40));
+    }
+
+    void aFileMayBeDroppedOnASheet()
+    {
+        Desk desk;
+        QVERIFY(!desk.window.loadImageFromFile("/nowhere"));
+        auto* sheet = desk.window.findChild<QMessageBox*>();
+        QVERIFY(sheet && sheet->acceptDrops());
+        QMimeData files;
+        setFiles(files, {QFile::decodeName(writePhoto(desk.folder, "1.png", makePhoto(60, 40)))});
+        QVERIFY(drop(*sheet, files));
+        QVERIFY(!sheet->isVisible());
+        QCOMPARE(desk.window.windowTitle(), QString("Lumora - 1.png"));
+    }
+
+    void wordsStandInThePlaceOfAPicture()
+    {
+        DragDropImageView view;
+        view.resize(300, 150);
+        QWidget plain;
+        plain.resize(300, 150);
+        const auto withWords = [&](const char* words) {
+            QPixmap expected = plain.grab();
+            QPainter painter(&expected);
+            painter.setPen(plain.palette().color(QPalette::PlaceholderText));
+            painter.drawText(plain.rect(), Qt::AlignCenter | Qt::TextWordWrap, words);
+            painter.end();
+            return expected.toImage();
+        };
+        QVERIFY(withWords("Drop a photo here, or open one.") != plain.grab().toImage());
+        QCOMPARE(view.grab().toImage(), withWords("Drop a photo here, or open one."));
+        view.setImage({}, "There is no room for it.");
+        QCOMPARE(view.grab().toImage(), withWords("There is no room for it."));
+        view.setImage({});
+        QCOMPARE(view.grab().toImage(), withWords("Drop a photo here, or open one."));
     }
 
     void aPictureIsFittedAndNeverEnlarged()

@@ -1,7 +1,9 @@
 #include "tests/app/Desk.h"
 
+#include <QApplication>
 #include <QFileOpenEvent>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -102,6 +104,51 @@ private slots:
         QVERIFY(desk.sheet()[0].contains("<b>notes.jpg"));
         QVERIFY(desk.sheet()[1].contains("not a picture"));
         QCOMPARE(desk.window.windowTitle(), QString("Lumora - photo.png"));
+    }
+
+    void thereIsOneSheetAtMostAndWhatComesNextClosesIt()
+    {
+        Desk desk;
+        const auto sheets = [&] {
+            int shown = 0;
+            for (const auto* box : desk.window.findChildren<QMessageBox*>())
+                shown += box->isVisible();
+            return shown;
+        };
+        for (const char* path : {"/nowhere/1.jpg", "/nowhere/2.jpg", "/nowhere/3.jpg"})
+            QVERIFY(!desk.window.loadImageFromFile(path));
+        QCOMPARE(sheets(), 1);
+        QVERIFY(desk.sheet()[0].contains("3.jpg"));
+        QCOMPARE(QApplication::activeModalWidget(), nullptr); // or the system would let nothing be dropped
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "good.png", makePhoto(60, 40))));
+        QCOMPARE(sheets(), 0);
+        QCOMPARE(desk.window.windowTitle(), QString("Lumora - good.png"));
+        desk.window.openAbout();
+        QVERIFY(!desk.window.loadImageFromFile("/nowhere/4.jpg"));
+        QCOMPARE(sheets(), 1);
+        desk.window.openAbout();
+        QCOMPARE(sheets(), 1);
+        QCOMPARE(desk.sheet()[0], QString("Lumora Mac, Version 1.0"));
+    }
+
+    void whatTheDesktopSendsWhileASavePanelWaitsIsOpenedAfterIt()
+    {
+        Desk desk(makePhoto(60, 40));
+        const auto send = [&](const char* name) {
+            QFileOpenEvent open(QFile::decodeName(writePhoto(desk.folder, name, makePhoto(30, 20))));
+            QCoreApplication::sendEvent(qApp, &open);
+        };
+        desk.withPanel(
+            [&](QFileDialog& panel) {
+                send("first.png");
+                send("second.png");
+                QCOMPARE(desk.window.windowTitle(), QString("Lumora - photo.png"));
+                typeName(panel, desk.folder.filePath("saved.jpg"));
+            },
+            [&] { desk.click("btnSave"); });
+        QCOMPARE(QImage(desk.folder.filePath("saved.jpg")).size(), QSize(60, 40));
+        QTRY_COMPARE(desk.window.windowTitle(), QString("Lumora - second.png"));
+        QCOMPARE(desk.window.getoriginalImage().size(), QSize(30, 20));
     }
 
     void theDesktopOpensAFile()

@@ -73,9 +73,9 @@ with Lumora(build) as lumora:
     lumora.press("Helga")
     lumora.wait_for_breadcrumb("Helga")
     drag(lumora, no_photo, second)
-    lumora.read_sheet("“notes.txt” cannot be opened.")
     lumora.wait_for_title("Lumora - 100% first.jpg")
-    drag(lumora, second)
+    drag(lumora, second)  # while the sheet is up, which it closes
     lumora.wait_for_title("Lumora - second.jpg")
+    lumora.wait_for_no_sheet()
     lumora.wait_for_breadcrumb("Helga")
     lumora.quit()

@@ -133,6 +133,9 @@ class Lumora:
         click(wait_for("its OK", lambda: find(sheet, "OK", BUTTONS)))
         wait_for("the sheet to go", lambda: self.dialog() is None)
 
+    def wait_for_no_sheet(self):
+        wait_for("no sheet", lambda: self.dialog() is None)
+
     def quit(self):
         key("ctrl+q")
         self.process.wait(deadline)
