@@ -1,6 +1,8 @@
 // Opens every file under a folder the way the application does, each in a process of its own, and tells how it went:
 //
-//     corpus_tool FOLDER [SECONDS] [MEBIBYTES]
+//     corpus_tool [--pixels] FOLDER [SECONDS] [MEBIBYTES]
+//
+// With --pixels it lists the files that opened, too, each with a digest of its pixels.
 //
 // SECONDS (10) and MEBIBYTES (2048) limit each file. The exit status is 0 when no file crashed or passed a limit.
 
@@ -8,10 +10,12 @@
 #include "photo/PhotoReader.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <map>
 #include <poll.h>
@@ -26,6 +30,7 @@ namespace {
 struct Limits {
     int seconds = 10;
     int mebibytes = 2048;
+    bool pixels = false; ///< tell a digest of them, too
 };
 
 struct Outcome {
@@ -57,6 +62,14 @@ std::string kindOf(PhotoReader::End end, bool isPhoto)
     }
 }
 
+std::string digestOf(const QImage& image)
+{
+    QCryptographicHash digest(QCryptographicHash::Md5);
+    for (int y = 0; y < image.height(); y++)
+        digest.addData(QByteArrayView(image.constScanLine(y), qsizetype(image.width()) * 4));
+    return digest.result().toHex().toStdString();
+}
+
 [[noreturn]] void openAndTell(const std::string& file, int pipe, [[maybe_unused]] const Limits& limits)
 {
 #ifndef __SANITIZE_ADDRESS__
@@ -75,7 +88,10 @@ std::string kindOf(PhotoReader::End end, bool isPhoto)
     }
     while (wait(nullptr) > 0) // for what the readers took
         ;
-    const std::string told = kind + '\n' + std::to_string(peakMebibytes()) + '\n' + photo.reason.toStdString();
+    const std::string answer = photo.image.isNull() ? photo.reason.toStdString()
+        : limits.pixels                             ? digestOf(photo.image)
+                                                    : "";
+    const std::string told = kind + '\n' + std::to_string(peakMebibytes()) + '\n' + answer;
     _exit(write(pipe, told.data(), told.size()) == ssize_t(told.size()) ? 0 : 1);
 }
 
@@ -139,13 +155,17 @@ void print(const Outcome& outcome)
 
 int main(int argc, char** argv)
 {
+    const char* program = argv[0];
+    Limits limits;
+    limits.pixels = argc > 1 && std::strcmp(argv[1], "--pixels") == 0;
+    argc -= limits.pixels;
+    argv += limits.pixels;
     if (argc < 2) {
-        std::fprintf(stderr, "usage: %s FOLDER [SECONDS] [MEBIBYTES]\n", argv[0]);
+        std::fprintf(stderr, "usage: %s [--pixels] FOLDER [SECONDS] [MEBIBYTES]\n", program);
         return 2;
     }
     const QCoreApplication application(argc, argv);
     PhotoReader::setProgram(READER);
-    Limits limits;
     if (argc > 2)
         limits.seconds = std::atoi(argv[2]);
     if (argc > 3)
@@ -161,7 +181,7 @@ int main(int argc, char** argv)
     for (const std::string& file : files) {
         outcomes.push_back(open(file, limits));
         counts[outcomes.back().kind]++;
-        if (outcomes.back().kind != "opened")
+        if (limits.pixels || outcomes.back().kind != "opened")
             print(outcomes.back());
     }
 
