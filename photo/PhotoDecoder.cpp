@@ -1,6 +1,7 @@
 #include "photo/PhotoDecoder.h"
 
 #include "photo/ColorProfile.h"
+#include "photo/EveryPixel.h"
 #include "photo/FreeMemory.h"
 #include "photo/JpegMarkers.h"
 #include "photo/OnWhite.h"
@@ -77,7 +78,7 @@ QString decodeByPlatform(QIODevice& file, qint64 memory, QImage& image)
         if (!refusal.isEmpty())
             return refusal;
     }
-    return reader.read(&image) ? QString() : QStringLiteral("The picture is damaged and cannot be read.");
+    return readEveryPixel(reader, image) ? QString() : QStringLiteral("The picture is damaged and cannot be read.");
 }
 
 /// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
