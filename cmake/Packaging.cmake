@@ -3,7 +3,7 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME lumora)
 set(CPACK_PACKAGE_VENDOR Dovrel)
 set(CPACK_PACKAGE_CONTACT "Dovrel <lumora@dovrel.example>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "photo looks: one photo, fifteen looks, a JPEG file")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "photo looks: one photo, many looks, a JPEG file")
 set(CPACK_PACKAGE_DESCRIPTION
     "Lumora opens one photo, shows it under each of its looks, crops it, puts a border round it and saves it as a JPEG.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)

@@ -1,8 +1,10 @@
 // Sets the help text as a PDF file: make_help help.html photo.jpg help.pdf
 //
-// The row of looks is filled in here, each with its picture: the photo rendered by the pipeline, as the window would.
+// What depends on the looks is filled in here: their crops and borders, and the row of looks, each with its picture:
+// the photo rendered by the pipeline, as the window would. A look that help says nothing about is an error.
 
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 #include "render/RenderPipeline.h"
 
 #include <QFile>
@@ -10,9 +12,12 @@
 #include <QImage>
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <QStringList>
 #include <QTextDocument>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 
 using namespace lumora;
 
@@ -21,43 +26,81 @@ namespace {
 struct LookText {
     int filter;
     const char* says;
+    const char* crop = ""; ///< of a look that has a crop of its own
+    const char* border = ""; ///< of a look that has a border of its own
 };
 
 constexpr LookText looks[] = {
-    {1, "Cool and muted with strong contrast; darker and richer towards the edges."},
-    {2, "Strong colours and contrast, with warm light tones."},
-    {8, "Bright lights, little colour and a dark blue tint, like a frame of a film."},
-    {6, "A contrasty black-and-white print of the sixties, with light skies."},
-    {7, "A hard colour print under a brown wash that is strongest in the shadows."},
-    {5, "Black and white over the full range of greys; blue skies print dark."},
-    {0, "Cross-processed film: hard reds and greens, flat blues."},
-    {4, "An instant print: soft tones, brown shadows and dark corners."},
-    {3, "Warmed towards orange; darks darker, lights lighter, stronger colours."},
-    {9, "Infrared film: leaves turn bright, blue sky turns dark."},
-    {10, "A lens that magnifies the middle and bends the rest outward."},
-    {17, "A cheap camera that lets light in, at another place each time."},
-    {18, "A cartoon: bands of brightness, strong colours, dark outlines."},
-    {19, "Cold and bleached, with a blue cast."},
-    {20, "Over-exposed: light parts are pushed towards white."},
+    {Filter::helga, "Cool and muted with strong contrast; darker and richer towards the edges.", "square"},
+    {Filter::lolo, "Strong colours and contrast, with warm light tones.", "square", "thick white"},
+    {Filter::cinema, "Bright lights, little colour and a dark blue tint, like a frame of a film.", "16 to 9",
+        "black bars"},
+    {Filter::look1962, "A contrasty black-and-white print of the sixties, with light skies.", "7 to 6"},
+    {Filter::look1974, "A hard colour print under a brown wash that is strongest in the shadows.", "7 to 6", "rounded"},
+    {Filter::mono, "Black and white over the full range of greys; blue skies print dark.", "", "medium white"},
+    {Filter::colorcross, "Cross-processed film: hard reds and greens, flat blues."},
+    {Filter::instant, "An instant print: soft tones, brown shadows and dark corners.", "square", "an instant print"},
+    {Filter::magazine, "Warmed towards orange; darks darker, lights lighter, stronger colours.", "6 to 4",
+        "thin white"},
+    {Filter::infrared, "Infrared film: leaves turn bright, blue sky turns dark."},
+    {Filter::fisheye, "A lens that magnifies the middle and bends the rest outward.", "square", "a black surround"},
+    {Filter::lightleak, "A cheap camera that lets light in, at another place each time."},
+    {Filter::delicious, "A cartoon: bands of brightness, strong colours, dark outlines."},
+    {Filter::arctic, "Cold and bleached, with a blue cast."},
+    {Filter::blowout, "Over-exposed: light parts are pushed towards white."},
 };
-constexpr int looksInRow = 3;
 
-QString lookCells()
+/// The name of the first look of the catalogue that help says nothing about, or not what is so; empty when all is well.
+QString faultyText()
+{
+    const GrowArray<int> all = CharImage::getLooks();
+    for (int i = 0; i < all.numThings; i++) {
+        const int look = all.theArray[i];
+        const auto text = std::ranges::find(looks, look, &LookText::filter);
+        if (text == std::end(looks))
+            return CharImage::getFilterName(look);
+        float margins[4];
+        CharImage::getBorderReqsForFilter(look, &margins[0], &margins[1], &margins[2], &margins[3]);
+        const bool crops = CharImage::getFilterAspect(look, 1.0f) > 0.0f,
+                   frames = *std::ranges::max_element(margins) > 0;
+        if (crops != (*text->crop != 0) || (frames && *text->border == 0))
+            return CharImage::getFilterName(look);
+    }
+    return {};
+}
+
+/// Cells in rows of so many.
+QString rowsOf(const QStringList& cells, int inRow)
 {
     QString html;
-    int column = 0;
-    for (const LookText& look : looks) {
-        if (column == 0)
-            html += "<tr>";
-        html += QStringLiteral("<td width=\"33%\" bgcolor=\"#e4e6ea\"><img src=\"look:%1\"><br>"
-                               "<span class=\"look\">%2</span><br><span class=\"says\">%3</span></td>")
-                    .arg(look.filter)
-                    .arg(CharImage::getFilterName(look.filter), look.says);
-        column = (column + 1) % looksInRow;
-        if (column == 0)
-            html += "</tr>";
-    }
+    for (int i = 0; i < cells.size(); i++)
+        html += (i % inRow == 0 ? "<tr>" : "") + cells[i]
+            + (i % inRow == inRow - 1 || i + 1 == cells.size() ? "</tr>" : "");
     return html;
+}
+
+QString lookRows()
+{
+    QStringList cells;
+    for (const LookText& look : looks)
+        cells += QStringLiteral("<td width=\"33%\" bgcolor=\"#e4e6ea\"><img src=\"look:%1\"><br>"
+                                "<span class=\"look\">%2</span><br><span class=\"says\">%3</span></td>")
+                     .arg(look.filter)
+                     .arg(CharImage::getFilterName(look.filter), look.says);
+    return rowsOf(cells, 3);
+}
+
+QString framingRows()
+{
+    const auto cell = [](const char* name, const char* crop, const char* border) {
+        return QStringLiteral("<td>%1</td><td>%2</td><td>%3</td><td width=\"26\"></td>")
+            .arg(name, *crop ? crop : "none", *border ? border : "none");
+    };
+    QStringList cells;
+    for (const LookText& look : looks)
+        if (*look.crop || *look.border)
+            cells += cell(CharImage::getFilterName(look.filter), look.crop, look.border);
+    return rowsOf(cells << cell("all others", "", ""), 2);
 }
 
 /// The help's text; an image of the address "look:N" is the photo under filter N with its crop and border.
@@ -100,12 +143,18 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "make_help: the text or the photo cannot be read\n");
         return 1;
     }
+    if (const QString look = faultyText(); !look.isEmpty()) {
+        std::fprintf(stderr, "make_help: %s has no sentence, or a crop or a border without words\n", qPrintable(look));
+        return 1;
+    }
     CharImage::useRandom = 0;
     std::srand(17); // the light leak falls at the same place in every build
 
     // Rendered at the size of a preview: some looks depend on it.
     HelpDocument document(photo.scaledToWidth(800, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGBX8888));
-    document.setHtml(QString::fromUtf8(text.readAll()).replace("<!-- looks -->", lookCells()));
+    document.setHtml(QString::fromUtf8(text.readAll())
+                         .replace("<!-- looks -->", lookRows())
+                         .replace("<!-- crops and borders -->", framingRows()));
 
     QPdfWriter writer(arguments[3]);
     writer.setPageSize(QPageSize(QPageSize::A4));
