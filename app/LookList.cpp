@@ -1,19 +1,17 @@
 #include "app/LookList.h"
 
-namespace {
+#include "image/FilterNumber.h"
 
-constexpr int original = 14; ///< the filter number of "Original"
-
-} // namespace
+using namespace lumora;
 
 bool LookList::isShownAsApplied(int filter) const
 {
-    return filter == original ? numThings == 0 : contains(filter);
+    return filter == Filter::original ? numThings == 0 : contains(filter);
 }
 
 int LookList::last() const
 {
-    return numThings > 0 ? theArray[numThings - 1] : original;
+    return numThings > 0 ? theArray[numThings - 1] : Filter::original;
 }
 
 void LookList::remove(int filter)

@@ -5,6 +5,7 @@
 #include "app/Photo.h"
 #include "app/WorkInProgress.h"
 #include "core/GrowArray.h"
+#include "image/FilterNumber.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -32,8 +33,8 @@ public:
     ~MainWindowController() override;
 
     // ---- Options ----
-    int cropFilter = 14; ///< filter number whose crop is applied; 14: none
-    int borderFilter = 14; ///< filter number whose border is drawn; 14: none
+    int cropFilter = lumora::Filter::original; ///< filter number whose crop is applied
+    int borderFilter = lumora::Filter::original; ///< filter number whose border is drawn
     int imgOutputSize = -1; ///< longest side of the exported picture in pixels; -1: the photo's own
     bool doMultiFiltering = false; ///< follows the check box at each render and at each click on it
     void loadOptions();
@@ -85,17 +86,17 @@ public:
 
 public slots:
     void applyOriginalFilter();
-    void applyHelgaFilter() { pressFilterButton(1); }
-    void applyLoloFilter() { pressFilterButton(2); }
-    void applyCinemaFilter() { pressFilterButton(8); }
-    void applyMonoFilter() { pressFilterButton(5); }
-    void apply1962Filter() { pressFilterButton(6); }
-    void apply1974Filter() { pressFilterButton(7); }
+    void applyHelgaFilter() { pressFilterButton(lumora::Filter::helga); }
+    void applyLoloFilter() { pressFilterButton(lumora::Filter::lolo); }
+    void applyCinemaFilter() { pressFilterButton(lumora::Filter::cinema); }
+    void applyMonoFilter() { pressFilterButton(lumora::Filter::mono); }
+    void apply1962Filter() { pressFilterButton(lumora::Filter::look1962); }
+    void apply1974Filter() { pressFilterButton(lumora::Filter::look1974); }
     /// The cross-process look, on purpose: the button kept its name when its look changed.
-    void applyFishEyeFilter() { pressFilterButton(0); }
-    void applyInfraredFilter() { pressFilterButton(9); }
-    void applyInstantFilter() { pressFilterButton(4); }
-    void applyMagazineFilter() { pressFilterButton(3); }
+    void applyFishEyeFilter() { pressFilterButton(lumora::Filter::colorcross); }
+    void applyInfraredFilter() { pressFilterButton(lumora::Filter::infrared); }
+    void applyInstantFilter() { pressFilterButton(lumora::Filter::instant); }
+    void applyMagazineFilter() { pressFilterButton(lumora::Filter::magazine); }
     void multiFilterToggled();
     void useRandomToggled();
     void reExpose();

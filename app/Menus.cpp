@@ -38,7 +38,7 @@ void MainWindowController::buildMenus()
     for (int filter : buttonFilters) {
         QAction* action = addLook(filter);
         action->setShortcut(QKeySequence(Qt::Key_0 + m_lookActions.size() % 10));
-        if (filter == 14) {
+        if (filter == Filter::original) {
             connect(action, &QAction::triggered, this, &Self::applyOriginalFilter);
             looks->addSeparator();
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/GrowArray.h"
+#include "image/FilterNumber.h"
 
 #include <QByteArray>
 #include <QSize>
@@ -10,7 +11,9 @@
 // The rules of the window that need no window.
 
 /// The filter numbers of the ten look buttons in their order; the first is "Original".
-inline constexpr int buttonFilters[] = {14, 1, 2, 8, 6, 7, 5, 0, 4, 3};
+inline constexpr int buttonFilters[] = {lumora::Filter::original, lumora::Filter::helga, lumora::Filter::lolo,
+    lumora::Filter::cinema, lumora::Filter::look1962, lumora::Filter::look1974, lumora::Filter::mono,
+    lumora::Filter::colorcross, lumora::Filter::instant, lumora::Filter::magazine};
 
 /// The longest side of the display copy for a window whose larger frame side is `frameSide` pixels: the first 800 + 20
 /// k that is not smaller.

@@ -2,6 +2,7 @@
 
 #include "bench/Measure.h"
 #include "bench/Photo.h"
+#include "image/FilterNumber.h"
 #include "render/ImageBridge.h"
 #include "render/RenderPipeline.h"
 #include "tests/reference/Looks.h"
@@ -10,17 +11,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <map>
 
 using namespace lumora;
 
 namespace {
-
-const std::map<int, void (*)(Picture&)> lookTwins = {{0, reference::colorcross}, {1, reference::helga},
-    {2, reference::lolo}, {3, reference::magazine}, {4, reference::instant}, {5, reference::mono},
-    {6, reference::look1962}, {7, reference::look1974}, {8, reference::cinema}, {9, reference::infrared},
-    {10, reference::fisheye}, {17, reference::lightleak}, {18, reference::delicious}, {19, reference::arctic},
-    {20, reference::blowout}};
 
 float halfDiagonal(int width, int height)
 {
@@ -34,7 +28,7 @@ void addLooks(std::vector<Row>& rows)
         const int look = looks.theArray[i];
         rows.push_back({.name = CharImage::getFilterName(look),
             .operation = [look](Subject& s) { s.image->applyFilter(look); },
-            .twin = lookTwins.at(look),
+            .twin = reference::twinOf(look),
             .isLook = true});
     }
 }
@@ -72,11 +66,12 @@ void addToolkit(std::vector<Row>& rows)
 
 void addBorders(std::vector<Row>& rows)
 {
-    for (const char* name : {"Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema"})
-        rows.push_back({.name = std::string("border ") + name,
-            .operation = [border = CharImage::getFilterFromName(name)](Subject& s) {
-                s.image->applyFilterBorder(border, std::max(s.image->width, s.image->height));
-            }});
+    for (const int border :
+        {Filter::thin, Filter::medium, Filter::thick, Filter::rounded, Filter::instant, Filter::cinema})
+        rows.push_back(
+            {.name = std::string("border ") + CharImage::getFilterName(border), .operation = [border](Subject& s) {
+                 s.image->applyFilterBorder(border, std::max(s.image->width, s.image->height));
+             }});
 }
 
 /// Here the allocation belongs to what is measured: a new block is what the bridge gives.
@@ -99,11 +94,9 @@ void addBridge(std::vector<Row>& rows)
                 s.block = new unsigned char[s.photo.pixels.size()];
                 std::memcpy(s.block, s.photo.pixels.data(), s.photo.pixels.size());
             }});
-    const int helga = CharImage::getFilterFromName("Helga"), instant = CharImage::getFilterFromName("Instant");
-    const int square = CharImage::getFilterFromName("Square");
     rows.push_back({.name = "pipeline Helga, Square, Instant", .operation = [=](Subject& s) {
-                        s.rendered =
-                            renderPhoto(s.platform, {.filter = helga, .cropFilter = square, .borderFilter = instant});
+                        s.rendered = renderPhoto(s.platform,
+                            {.filter = Filter::helga, .cropFilter = Filter::square, .borderFilter = Filter::instant});
                     }});
 }
 

@@ -2,6 +2,7 @@
 // build/fuzz/fuzz/EngineFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/EngineFuzz
 
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 #include "image/framing/BestFit.h"
 
 #include <cstdint>
@@ -53,6 +54,12 @@ private:
     std::size_t m_size;
 };
 
+/// A filter number of the catalogue, or one before or after them.
+int anyNumber(Input& input)
+{
+    return input.below(Filter::end + 2) - 1;
+}
+
 void work(CharImage& image, Input& input)
 {
     unsigned char colour[4];
@@ -82,7 +89,7 @@ void work(CharImage& image, Input& input)
     }
     case 5: {
         const int maxSide = 1 + input.below(80);
-        const int border = input.below(31);
+        const int border = anyNumber(input);
         float left, right, top, bottom;
         CharImage::getBorderReqsForFilter(border, &left, &right, &top, &bottom);
         const auto margin = [maxSide](float fraction) { return int(float(maxSide) * fraction); };
@@ -99,7 +106,7 @@ void work(CharImage& image, Input& input)
         image.fillRoundedBorder(side(), side(), side(), side(), 1 + side(), colour);
         break;
     default:
-        image.applyFilter(input.below(31) - 1);
+        image.applyFilter(anyNumber(input));
     }
 }
 

@@ -2,6 +2,8 @@
 //
 // One folder per target, named after it. Small, and between them with every feature of the formats.
 
+#include "image/FilterNumber.h"
+
 #include <QColorSpace>
 #include <QDir>
 #include <QGuiApplication>
@@ -120,7 +122,7 @@ int main(int argc, char** argv)
             "UseMultiFilter=true\n")
         && write(
             folder + "/PreferencesFuzz", "odd", "; note\n[%General]\nPrefsVersion=@Variant(\\0\\0\\0\\b)\n[x\n=\n");
-    for (int filter = 0; filter < 31; filter++)
+    for (int filter = 0; filter <= lumora::Filter::end; filter++)
         made = made && write(folder + "/EngineFuzz", QString::number(filter), ramp(40 + filter * 97) + char(filter));
     if (!made)
         std::fprintf(stderr, "make_seeds: cannot write to %s\n", argv[1]);

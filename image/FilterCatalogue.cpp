@@ -1,7 +1,8 @@
-#include "image/CharImage.h"
+#include "image/FilterCatalogue.h"
 
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 
 namespace lumora {
 
@@ -11,53 +12,75 @@ GrowArray<int> CharImage::customFilterFiltersC;
 
 namespace {
 
-struct Entry {
-    const char* name;
-    void (CharImage::*apply)(); ///< what applyFilter does with the number, in place
-};
+constexpr CropAspect noCrop;
 
-/// The catalogue; an entry's place is its filter number. Crop and border styles leave the pixels to the framing.
-constexpr Entry catalogue[] = {
-    /*  0 */ {"Colorcross", &CharImage::applyCrossProcessFilter},
-    /*  1 */ {"Helga", &CharImage::applyHelgaFilter},
-    /*  2 */ {"Lolo", &CharImage::applyLoloFilter},
-    /*  3 */ {"Magazine", &CharImage::applyMagazineFilter},
-    /*  4 */ {"Instant", &CharImage::applyInstantFilter},
-    /*  5 */ {"Mono", &CharImage::applyMonoFilter},
-    /*  6 */ {"1962", &CharImage::apply1962Filter},
-    /*  7 */ {"1974", &CharImage::apply1974Filter},
-    /*  8 */ {"Cinema", &CharImage::applyCinemaFilter},
-    /*  9 */ {"Infrared", &CharImage::applyInfraredFilter},
-    /* 10 */ {"Fisheye", &CharImage::makeFisheye},
-    /* 11 */ {"Custom A", &CharImage::applyCustomFilterA},
-    /* 12 */ {"Custom B", &CharImage::applyCustomFilterB},
-    /* 13 */ {"Custom C", &CharImage::applyCustomFilterC},
-    /* 14 */ {"Original", &CharImage::applyOriginalFilter},
-    /* 15 */ {"Filter", &CharImage::applyOriginalFilter},
-    /* 16 */ {"Test", &CharImage::drawTestPattern},
-    /* 17 */ {"Lightleak", &CharImage::applyLightleakFilter},
-    /* 18 */ {"Delicious", &CharImage::applyDeliciousFilter},
-    /* 19 */ {"Arctic", &CharImage::applyArcticFilter},
-    /* 20 */ {"Blowout", &CharImage::applyBlowoutFilter},
-    /* 21 */ {"Square", &CharImage::applyOriginalFilter},
-    /* 22 */ {"Widescreen", &CharImage::applyOriginalFilter},
-    /* 23 */ {"6x4", &CharImage::applyOriginalFilter},
-    /* 24 */ {"7x6", &CharImage::applyOriginalFilter},
-    /* 25 */ {"4x3", &CharImage::applyOriginalFilter},
-    /* 26 */ {"Thin", &CharImage::applyOriginalFilter},
-    /* 27 */ {"Medium", &CharImage::applyOriginalFilter},
-    /* 28 */ {"Thick", &CharImage::applyOriginalFilter},
-    /* 29 */ {"Rounded", &CharImage::applyOriginalFilter},
-};
-constexpr int catalogueSize = sizeof catalogue / sizeof catalogue[0];
-constexpr int original = 14;
-constexpr int unnamed = 15;
-constexpr int testPattern = 16;
-
-const Entry& entryOf(int filter)
+/// A crop that turns with the picture, from its longer and its shorter side.
+constexpr CropAspect turning(float longer, float shorter)
 {
-    return catalogue[filter >= 0 && filter < catalogueSize ? filter : unnamed];
+    return {longer / shorter, shorter / longer};
 }
+
+constexpr CropAspect square = turning(1, 1);
+constexpr CropAspect wideStrip = {16.0f / 9.0f, 16.0f / 9.0f}; // for portraits too
+
+constexpr Margins noMargins;
+
+constexpr Margins evenMargins(float fraction)
+{
+    return {fraction, fraction, fraction, fraction};
+}
+
+constexpr Margins thinMargins = evenMargins(1.0f / 70.0f);
+constexpr Margins mediumMargins = evenMargins(0.025f);
+constexpr Margins thickMargins = evenMargins(0.0625f);
+constexpr Margins roundedMargins = evenMargins(1.0f / 45.0f);
+// The product is a hair below 0.2, so that 3000 pixels give 599.
+constexpr Margins printMargins = {0.04f, 0.04f, 0.04f, 0.04f * 5.0f};
+constexpr Margins bars = {0.0f, 0.0f, 0.125f, 0.125f};
+
+constexpr auto nothing = &CharImage::applyOriginalFilter;
+
+constexpr FilterEntry catalogue[] = {
+    {Filter::colorcross, "Colorcross", &CharImage::applyCrossProcessFilter},
+    {Filter::helga, "Helga", &CharImage::applyHelgaFilter, square},
+    {Filter::lolo, "Lolo", &CharImage::applyLoloFilter, square, thickMargins},
+    {Filter::magazine, "Magazine", &CharImage::applyMagazineFilter, turning(6, 4), thinMargins},
+    {Filter::instant, "Instant", &CharImage::applyInstantFilter, square, printMargins, BorderStyle::offWhite},
+    {Filter::mono, "Mono", &CharImage::applyMonoFilter, noCrop, mediumMargins},
+    {Filter::look1962, "1962", &CharImage::apply1962Filter, turning(7, 6)},
+    {Filter::look1974, "1974", &CharImage::apply1974Filter, turning(7, 6), roundedMargins, BorderStyle::rounded},
+    {Filter::cinema, "Cinema", &CharImage::applyCinemaFilter, wideStrip, bars, BorderStyle::black},
+    {Filter::infrared, "Infrared", &CharImage::applyInfraredFilter},
+    {Filter::fisheye, "Fisheye", &CharImage::makeFisheye, square, noMargins, BorderStyle::disc},
+    {Filter::customA, "Custom A", &CharImage::applyCustomFilterA},
+    {Filter::customB, "Custom B", &CharImage::applyCustomFilterB},
+    {Filter::customC, "Custom C", &CharImage::applyCustomFilterC},
+    {Filter::original, "Original", nothing},
+    {Filter::unnamed, "Filter", nothing},
+    {Filter::testPattern, "Test", &CharImage::drawTestPattern},
+    {Filter::lightleak, "Lightleak", &CharImage::applyLightleakFilter},
+    {Filter::delicious, "Delicious", &CharImage::applyDeliciousFilter},
+    {Filter::arctic, "Arctic", &CharImage::applyArcticFilter},
+    {Filter::blowout, "Blowout", &CharImage::applyBlowoutFilter},
+    {Filter::square, "Square", nothing, square},
+    {Filter::widescreen, "Widescreen", nothing, wideStrip},
+    {Filter::crop6x4, "6x4", nothing, turning(6, 4)},
+    {Filter::crop7x6, "7x6", nothing, turning(7, 6)},
+    {Filter::crop4x3, "4x3", nothing, turning(4, 3)},
+    {Filter::thin, "Thin", nothing, noCrop, thinMargins},
+    {Filter::medium, "Medium", nothing, noCrop, mediumMargins},
+    {Filter::thick, "Thick", nothing, noCrop, thickMargins},
+    {Filter::rounded, "Rounded", nothing, noCrop, roundedMargins, BorderStyle::rounded},
+};
+
+constexpr bool eachStandsAtItsNumber()
+{
+    for (int i = 0; i < Filter::end; i++)
+        if (catalogue[i].number != i)
+            return false;
+    return std::size(catalogue) == Filter::end;
+}
+static_assert(eachStandsAtItsNumber());
 
 void replaceCustomList(GrowArray<int>& list, const GrowArray<int>& filters)
 {
@@ -75,9 +98,22 @@ void applyAll(CharImage& image, const GrowArray<int>& filters)
 
 } // namespace
 
+const FilterEntry& entryOf(int filter)
+{
+    return catalogue[filter >= 0 && filter < Filter::end ? filter : Filter::unnamed];
+}
+
+const FilterEntry& framingOf(int filter)
+{
+    const GrowArray<int>* list = CharImage::customFilters(filter);
+    if (!list)
+        return entryOf(filter);
+    return entryOf(list->numThings > 0 ? list->theArray[list->numThings - 1] : Filter::unnamed);
+}
+
 int CharImage::getFilterCount()
 {
-    return 15;
+    return Filter::original + 1;
 }
 
 const char* CharImage::getFilterName(int filter)
@@ -87,18 +123,18 @@ const char* CharImage::getFilterName(int filter)
 
 int CharImage::getFilterFromName(const char* name)
 {
-    for (int i = 0; i < catalogueSize; i++)
-        if (std::strcmp(name, catalogue[i].name) == 0)
-            return i;
-    return original;
+    for (const FilterEntry& entry : catalogue)
+        if (std::strcmp(name, entry.name) == 0)
+            return entry.number;
+    return Filter::original;
 }
 
 GrowArray<int> CharImage::getLooks()
 {
     GrowArray<int> looks;
-    for (int i = 0; i < catalogueSize; i++)
-        if (catalogue[i].apply != &CharImage::applyOriginalFilter && i != testPattern && !customFilters(i))
-            looks.add(i);
+    for (const FilterEntry& entry : catalogue)
+        if (entry.apply != nothing && entry.number != Filter::testPattern && !customFilters(entry.number))
+            looks.add(entry.number);
     return looks;
 }
 
@@ -120,11 +156,11 @@ void CharImage::setCustomFilterC(const GrowArray<int>& filters)
 const GrowArray<int>* CharImage::customFilters(int filter)
 {
     switch (filter) {
-    case 11:
+    case Filter::customA:
         return &customFilterFiltersA;
-    case 12:
+    case Filter::customB:
         return &customFilterFiltersB;
-    case 13:
+    case Filter::customC:
         return &customFilterFiltersC;
     default:
         return nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/GrowArray.h"
+#include "image/FilterNumber.h"
 
 #include <QImage>
 #include <QString>
@@ -10,8 +11,8 @@
 struct RenderSettings {
     int filter = -1; ///< a filter number, or -1 for every entry of `filterIDs` in order
     const lumora::GrowArray<int>* filterIDs = nullptr; ///< the applied list, read when `filter` is -1
-    int cropFilter = 14; ///< whose crop aspect is taken; 14: none
-    int borderFilter = 14; ///< whose margins and border are drawn; 14: none
+    int cropFilter = lumora::Filter::original; ///< whose crop aspect is taken
+    int borderFilter = lumora::Filter::original; ///< whose margins and border are drawn
     bool asThumbnail = false; ///< square, without the border, though fitted inside its margins
 };
 

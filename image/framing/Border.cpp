@@ -1,4 +1,4 @@
-#include "image/CharImage.h"
+#include "image/FilterCatalogue.h"
 #include "image/numbers/Arithmetic.h"
 #include "image/numbers/Disc.h"
 #include "image/passes/Block.h"
@@ -95,24 +95,22 @@ void CharImage::fillBorder(int left, int right, int top, int bottom, const unsig
 
 void CharImage::applyFilterBorder(int border, int maxSide)
 {
-    if (const GrowArray<int>* list = customFilters(border)) {
-        if (list->numThings > 0)
-            applyFilterBorder(list->theArray[list->numThings - 1], maxSide);
-        return;
-    }
-    float left, right, top, bottom;
-    getBorderReqsForFilter(border, &left, &right, &top, &bottom);
-    const int l = truncateToInt(maxSide * left), r = truncateToInt(maxSide * right);
-    const int t = truncateToInt(maxSide * top), b = truncateToInt(maxSide * bottom);
+    const FilterEntry& entry = framingOf(border);
+    const BorderStyle style = entry.border;
+    const auto pixels = [maxSide](float fraction) { return truncateToInt(maxSide * fraction); };
+    const int l = pixels(entry.margins.left), r = pixels(entry.margins.right);
+    const int t = pixels(entry.margins.top), b = pixels(entry.margins.bottom);
     const unsigned char black[3] = {0, 0, 0}, offWhite[3] = {245, 245, 245}, white[3] = {255, 255, 255};
     if (l > 0 || r > 0 || t > 0 || b > 0) {
         const unsigned char outline[3] = {200, 200, 200};
-        const unsigned char* colour = border == 8 ? black : border == 4 ? offWhite : white;
+        const unsigned char* colour = style == BorderStyle::black ? black
+            : style == BorderStyle::offWhite                      ? offWhite
+                                                                  : white;
         fillBorder(l, r, t, b, colour);
         if (colour == white)
             fillBorder(1, 1, 1, 1, outline);
     }
-    if (border == 10) {
+    if (style == BorderStyle::disc) {
         const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
         const float radius = std::min(halfWidth, halfHeight);
         // Far outside the circle a vignette's curve would turn back to light: the corners are black instead.
@@ -120,7 +118,7 @@ void CharImage::applyFilterBorder(int border, int maxSide)
         vignetteDisc(*this, float(radius * 0.3), radius, 3.0f, 0.4f, true);
         maskDisc(*this, radius);
     }
-    if (border == 7 || border == 29)
+    if (style == BorderStyle::rounded)
         fillRoundedBorder(l, r, t, b, int(maxSide * 0.05), white);
 }
 

@@ -271,7 +271,7 @@ private:
             entered++;
             if (closes)
                 m_window.close();
-            m_window.pressFilterButton(1);
+            m_window.pressFilterButton(Filter::helga);
             m_window.rotateImageRight();
             m_window.flattenImage();
             m_window.saveFilteredImage();

@@ -1,14 +1,15 @@
 #include "app/LookList.h"
+#include "image/FilterNumber.h"
 
 #include <QtTest>
 #include <vector>
+
+using namespace lumora::Filter;
 
 class LookListTest : public QObject {
     Q_OBJECT
 
 private:
-    static constexpr int colorcross = 0, helga = 1, lolo = 2, mono = 5, cinema = 8, original = 14;
-
     static void add(LookList& list, const std::vector<int>& looks)
     {
         for (int look : looks)
@@ -76,7 +77,7 @@ private slots:
     void theLastOfAnEmptyListIsOriginal()
     {
         LookList list;
-        QCOMPARE(list.last(), original);
+        QCOMPARE(list.last(), int(original));
         add(list, {helga, cinema});
         QCOMPARE(list.last(), cinema);
     }

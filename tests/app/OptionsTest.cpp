@@ -178,10 +178,12 @@ private slots:
 
     void cropsAndBordersAreFiltersOfTheirTitles()
     {
-        const std::pair<const char*, int> crops[] = {
-            {"Square", 21}, {"Cinema", 8}, {"6x4", 23}, {"4x3", 25}, {"7x6", 24}, {"None", 14}, {"By Filter", 14}};
-        const std::pair<const char*, int> borders[] = {{"Thin", 26}, {"Medium", 27}, {"Thick", 28}, {"Rounded", 29},
-            {"Instant", 4}, {"Cinema", 8}, {"None", 14}, {"By Filter", 14}};
+        const std::pair<const char*, int> crops[] = {{"Square", Filter::square}, {"Cinema", Filter::cinema},
+            {"6x4", Filter::crop6x4}, {"4x3", Filter::crop4x3}, {"7x6", Filter::crop7x6}, {"None", Filter::original},
+            {"By Filter", Filter::original}};
+        const std::pair<const char*, int> borders[] = {{"Thin", Filter::thin}, {"Medium", Filter::medium},
+            {"Thick", Filter::thick}, {"Rounded", Filter::rounded}, {"Instant", Filter::instant},
+            {"Cinema", Filter::cinema}, {"None", Filter::original}, {"By Filter", Filter::original}};
         Desk desk(makePhoto(60, 40));
         for (const auto& [title, filter] : crops) {
             desk.choose("btnCropping", title);
@@ -199,11 +201,11 @@ private slots:
         desk.click("chkMultiFilter");
         desk.click("btnHelga");
         desk.click("btnCinema");
-        QCOMPARE(desk.window.cropFilter, 8);
-        QCOMPARE(desk.window.borderFilter, 8);
+        QCOMPARE(desk.window.cropFilter, int(Filter::cinema));
+        QCOMPARE(desk.window.borderFilter, int(Filter::cinema));
         desk.click("btnOriginal");
-        QCOMPARE(desk.window.cropFilter, 14);
-        QCOMPARE(desk.window.borderFilter, 14);
+        QCOMPARE(desk.window.cropFilter, int(Filter::original));
+        QCOMPARE(desk.window.borderFilter, int(Filter::original));
     }
 
     void sizesAreNumbersAndOriginalIsNone()

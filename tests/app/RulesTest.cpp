@@ -61,9 +61,9 @@ private slots:
         GrowArray<int> looks;
         QCOMPARE(breadcrumb(looks, false), QString("Original"));
         QCOMPARE(breadcrumb(looks, true), QString("Original"));
-        looks.add(1);
+        looks.add(Filter::helga);
         QCOMPARE(breadcrumb(looks, false), QString("Helga"));
-        looks.add(5);
+        looks.add(Filter::mono);
         QCOMPARE(breadcrumb(looks, true), QString("Original > Helga > Mono"));
     }
 

@@ -70,7 +70,10 @@ private slots:
         desk.window.updateThumbnailImages();
         for (int i = 0; i < 10; i++) {
             const QImage expected = renderPhoto(desk.window.getoriginalThumb(),
-                {.filter = buttonFilters[i], .cropFilter = 8, .borderFilter = 4, .asThumbnail = true});
+                {.filter = buttonFilters[i],
+                    .cropFilter = Filter::cinema,
+                    .borderFilter = Filter::instant,
+                    .asThumbnail = true});
             QCOMPARE(expected.width(), expected.height());
             QVERIFY(expected.width() < 150); // fitted inside the wide border, which is not drawn
             const QIcon icon = desk.window.filterButtons.theArray[i]->icon();

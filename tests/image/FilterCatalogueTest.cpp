@@ -1,8 +1,11 @@
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <vector>
 
 using namespace lumora;
@@ -42,27 +45,61 @@ TEST(FilterCatalogue, KnowsEveryNameBothWays)
     }
 }
 
-TEST(FilterCatalogue, ListsTheFifteenLooks)
+TEST(FilterCatalogue, NamesEveryNumberOnce)
+{
+    for (int filter = 0; filter < Filter::end; filter++) {
+        EXPECT_STRNE(CharImage::getFilterName(filter), "");
+        EXPECT_EQ(CharImage::getFilterFromName(CharImage::getFilterName(filter)), filter);
+    }
+}
+
+TEST(FilterCatalogue, ListsTheLooksInTheirOrder)
+{
+    const int first[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 17, 18, 19, 20}; // numbers that are stored stay the same
+    const GrowArray<int> looks = CharImage::getLooks();
+    ASSERT_GE(looks.numThings, int(std::size(first)));
+    for (int i = 0; i < looks.numThings; i++) {
+        if (i < int(std::size(first)))
+            EXPECT_EQ(looks.theArray[i], first[i]);
+        else
+            EXPECT_GT(looks.theArray[i], Filter::rounded);
+    }
+}
+
+TEST(FilterCatalogue, HoldsEveryLookToItsTwin)
 {
     const GrowArray<int> looks = CharImage::getLooks();
-    const std::vector<int> expected = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 17, 18, 19, 20};
-    EXPECT_EQ(std::vector<int>(looks.theArray, looks.theArray + looks.numThings), expected);
+    for (int i = 0; i < looks.numThings; i++) {
+        const int look = looks.theArray[i];
+        const reference::LookTwin twin = reference::twinOf(look);
+        ASSERT_NE(twin, nullptr) << CharImage::getFilterName(look);
+        Picture expected = randomPicture(40, 30, 6);
+        const auto image = imageOf(expected);
+        CharImage::useRandom = 0;
+        std::srand(1);
+        twin(expected);
+        std::srand(1);
+        image->applyFilter(look);
+        expectSame(*image, expected, CharImage::getFilterName(look));
+    }
 }
 
 TEST(FilterCatalogue, FallsBackOnUnknownNamesAndNumbers)
 {
-    EXPECT_EQ(CharImage::getFilterFromName("Cinema"), 8);
-    EXPECT_EQ(CharImage::getFilterFromName("cinema"), 14);
-    EXPECT_EQ(CharImage::getFilterFromName("Filter"), 15);
-    EXPECT_EQ(CharImage::getFilterFromName(""), 14);
-    for (int filter : {15, 30, -1, 1000})
+    EXPECT_EQ(CharImage::getFilterFromName("Cinema"), Filter::cinema);
+    EXPECT_EQ(CharImage::getFilterFromName("cinema"), Filter::original);
+    EXPECT_EQ(CharImage::getFilterFromName("Filter"), Filter::unnamed);
+    EXPECT_EQ(CharImage::getFilterFromName(""), Filter::original);
+    for (int filter : std::initializer_list<int>{Filter::unnamed, Filter::end, -1, 1000})
         EXPECT_STREQ(CharImage::getFilterName(filter), "Filter");
 }
 
 TEST(FilterCatalogue, OnlyPrintsForNumbersWithoutAnEffect)
 {
     const Picture picture = randomPicture(9, 7, 4);
-    for (int filter : {14, 15, 21, 22, 23, 24, 25, 26, 27, 28, 29, -5, 99}) {
+    for (int filter : std::initializer_list<int>{Filter::original, Filter::unnamed, Filter::square, Filter::widescreen,
+             Filter::crop6x4, Filter::crop7x6, Filter::crop4x3, Filter::thin, Filter::medium, Filter::thick,
+             Filter::rounded, -5, 99}) {
         const auto image = imageOf(picture);
         testing::internal::CaptureStdout();
         image->applyFilter(filter);
@@ -90,7 +127,7 @@ TEST(FilterCatalogue, AppliesEveryLookToPicturesWithoutPixels)
 TEST_F(CustomLists, DoNothingWhenEmpty)
 {
     const Picture picture = randomPicture(9, 7, 4);
-    for (int filter : {11, 12, 13}) {
+    for (int filter : {Filter::customA, Filter::customB, Filter::customC}) {
         const auto image = imageOf(picture);
         testing::internal::CaptureStdout();
         image->applyFilter(filter);
@@ -103,17 +140,17 @@ TEST_F(CustomLists, LeaveOutListsAndApplyTheRestInOrder)
 {
     CharImage::useRandom = 0;
     GrowArray<int> filters;
-    fill(filters, {5, 11, 2, 13, 5});
+    fill(filters, {Filter::mono, Filter::customA, Filter::lolo, Filter::customC, Filter::mono});
     CharImage::setCustomFilterA(filters);
     ASSERT_EQ(CharImage::customFilterFiltersA.numThings, 3);
     EXPECT_EQ(CharImage::customFilterFiltersA.maxThings, 4);
-    const int kept[] = {5, 2, 5};
+    const int kept[] = {Filter::mono, Filter::lolo, Filter::mono};
     for (int i = 0; i < 3; i++)
         EXPECT_EQ(CharImage::customFilterFiltersA.theArray[i], kept[i]);
 
     Picture picture = randomPicture(40, 30, 6);
     const auto image = imageOf(picture);
-    image->applyFilter(11);
+    image->applyFilter(Filter::customA);
     reference::mono(picture);
     reference::lolo(picture);
     reference::mono(picture);
@@ -123,12 +160,12 @@ TEST_F(CustomLists, LeaveOutListsAndApplyTheRestInOrder)
 TEST_F(CustomLists, ApplyNumbersWithoutAnEffectToo)
 {
     GrowArray<int> filters;
-    fill(filters, {14, 22, 99});
+    fill(filters, {Filter::original, Filter::widescreen, 99});
     CharImage::setCustomFilterC(filters);
     const Picture picture = randomPicture(9, 7, 4);
     const auto image = imageOf(picture);
     testing::internal::CaptureStdout();
-    image->applyFilter(13);
+    image->applyFilter(Filter::customC);
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
         "applying original filter\napplying original filter\napplying original filter\n");
     expectSame(*image, picture, "nothing but lines");
@@ -137,28 +174,28 @@ TEST_F(CustomLists, ApplyNumbersWithoutAnEffectToo)
 TEST_F(CustomLists, StandEachForItself)
 {
     GrowArray<int> filters;
-    fill(filters, {12, 3});
+    fill(filters, {Filter::customB, Filter::magazine});
     CharImage::setCustomFilterB(filters);
-    fill(filters, {8});
+    fill(filters, {Filter::cinema});
     CharImage::setCustomFilterC(filters);
     EXPECT_EQ(CharImage::customFilterFiltersA.numThings, 0);
-    EXPECT_EQ(CharImage::customFilterFiltersB.theArray[0], 3);
+    EXPECT_EQ(CharImage::customFilterFiltersB.theArray[0], Filter::magazine);
     EXPECT_EQ(CharImage::customFilterFiltersB.numThings, 1);
-    EXPECT_EQ(CharImage::customFilterFiltersC.theArray[0], 8);
+    EXPECT_EQ(CharImage::customFilterFiltersC.theArray[0], Filter::cinema);
     CharImage::useRandom = 0;
-    for (int filter : {12, 13}) {
+    for (int filter : {Filter::customB, Filter::customC}) {
         Picture expected = randomPicture(40, 30, 6);
         const auto image = imageOf(expected);
         image->applyFilter(filter);
-        filter == 12 ? reference::magazine(expected) : reference::cinema(expected);
+        filter == Filter::customB ? reference::magazine(expected) : reference::cinema(expected);
         expectSame(*image, expected, std::to_string(filter));
     }
-    fill(filters, {4});
+    fill(filters, {Filter::instant});
     CharImage::setCustomFilterB(filters); // replaces
     EXPECT_EQ(CharImage::customFilterFiltersB.numThings, 1);
     EXPECT_EQ(CharImage::customFilterFiltersB.maxThings, 2);
-    EXPECT_EQ(CharImage::customFilterFiltersB.theArray[0], 4);
-    EXPECT_EQ(CharImage::customFilters(14), nullptr);
+    EXPECT_EQ(CharImage::customFilterFiltersB.theArray[0], Filter::instant);
+    EXPECT_EQ(CharImage::customFilters(Filter::original), nullptr);
 }
 
 TEST(TestPattern, MatchesItsTwin)
@@ -168,7 +205,7 @@ TEST(TestPattern, MatchesItsTwin)
         reference::testPattern(expected);
         const auto image = imageOf(sample.picture);
         testing::internal::CaptureStdout();
-        image->applyFilter(16);
+        image->applyFilter(Filter::testPattern);
         EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
         expectSame(*image, expected, sample.name);
     }
@@ -177,7 +214,7 @@ TEST(TestPattern, MatchesItsTwin)
 TEST(TestPattern, StartsAColumnAtTheBottom)
 {
     const auto image = imageOf(flatPicture(1, 6, 9, 9, 9));
-    image->applyFilter(16);
+    image->applyFilter(Filter::testPattern);
     for (int y = 0; y < 6; y++)
         EXPECT_EQ(image->data[4 * y], y == 5 ? 0 : 255);
 }
@@ -187,7 +224,7 @@ TEST(TestPattern, PutsOneDotInEachColumn)
     // Heights of 0, 1.41, 2 and 2.58 of 4 pixels.
     const int rows[] = {3, 2, 1, 1};
     const auto image = imageOf(randomPicture(4, 4, 5));
-    image->applyFilter(16);
+    image->applyFilter(Filter::testPattern);
     for (int y = 0; y < 4; y++)
         for (int x = 0; x < 4; x++)
             for (int k = 0; k < 3; k++)

@@ -1,9 +1,12 @@
 #include "tests/reference/Framing.h"
 
+#include "image/FilterNumber.h"
 #include "tests/reference/Toolkit.h"
 
 #include <cmath>
 #include <cstdint>
+
+using namespace lumora;
 
 namespace reference {
 
@@ -82,7 +85,7 @@ void applyFilterBorder(Picture& picture, int border, int maxSide, const float (&
     for (int k = 0; k < 4; k++)
         pixels[k] = int(float(maxSide) * margins[k]);
     const unsigned char white[3] = {255, 255, 255};
-    const unsigned char level = border == 8 ? 0 : border == 4 ? 245 : 255;
+    const unsigned char level = border == Filter::cinema ? 0 : border == Filter::instant ? 245 : 255;
     if (pixels[0] > 0 || pixels[1] > 0 || pixels[2] > 0 || pixels[3] > 0) {
         const unsigned char colour[3] = {level, level, level};
         fillBorder(picture, pixels[0], pixels[1], pixels[2], pixels[3], colour);
@@ -93,7 +96,7 @@ void applyFilterBorder(Picture& picture, int border, int maxSide, const float (&
                         for (int k = 0; k < 3; k++)
                             picture.at(x, y)[k] = 200;
     }
-    if (border == 10) {
+    if (border == Filter::fisheye) {
         const float halfW = float(picture.width * 0.5), halfH = float(picture.height * 0.5);
         const float rad = halfW - halfH >= 0 ? halfH : halfW;
         vignette(picture, rad - 3.0f, rad, 3.0f, 1.0f, false, false);
@@ -106,7 +109,7 @@ void applyFilterBorder(Picture& picture, int border, int maxSide, const float (&
                         picture.at(x, y)[k] = 0;
             }
     }
-    if (border == 7 || border == 29)
+    if (border == Filter::look1974 || border == Filter::rounded)
         fillRoundedBorder(picture, pixels[0], pixels[1], pixels[2], pixels[3], int(maxSide * 0.05), white);
 }
 

@@ -23,4 +23,8 @@ void delicious(Picture& picture);
 void arctic(Picture& picture);
 void blowout(Picture& picture);
 
+using LookTwin = void (*)(Picture&);
+/// The twin of a look's filter number; null for every other number, and for a look that has none.
+LookTwin twinOf(int look);
+
 } // namespace reference

@@ -13,7 +13,7 @@ private slots:
     {
         const QImage strip = samples::noise(1, 5000);
         RenderSettings settings;
-        settings.cropFilter = 21; // square
+        settings.cropFilter = lumora::Filter::square;
         std::unique_ptr<ScarceMemory> memory;
         QString reason;
         const auto takeMemory = [&](const char*) { memory = std::make_unique<ScarceMemory>(10 << 20); };

@@ -12,7 +12,9 @@ using namespace lumora;
 
 namespace {
 
-constexpr int none = 14, mono = 5, square = 21, cinema = 8, thick = 28, instant = 4, thin = 26;
+constexpr int none = Filter::original, mono = Filter::mono, look1962 = Filter::look1962,
+              colorcross = Filter::colorcross, square = Filter::square, cinema = Filter::cinema, thick = Filter::thick,
+              instant = Filter::instant, thin = Filter::thin;
 
 QImage render(const QImage& source, int crop, int border, bool asThumbnail = false)
 {
@@ -118,7 +120,8 @@ private slots:
     void thumbnailsAreSquare_data()
     {
         QTest::addColumn<int>("crop");
-        for (const int crop : {none, cinema, square, 22, 23, 24, 25})
+        for (const int crop : {none, cinema, square, int(Filter::widescreen), int(Filter::crop6x4),
+                 int(Filter::crop7x6), int(Filter::crop4x3)})
             QTest::newRow(CharImage::getFilterName(crop)) << crop;
     }
     void thumbnailsAreSquare()
@@ -169,13 +172,13 @@ private slots:
     {
         const QImage source = samples::noise(64, 48);
         GrowArray<int> list;
-        list.add(6);
+        list.add(look1962);
         list.add(mono);
-        list.add(0);
+        list.add(colorcross);
         RenderSettings settings;
         settings.filterIDs = &list;
-        QCOMPARE(renderPhoto(source, settings), under(source, {6, mono, 0}));
-        QVERIFY(renderPhoto(source, settings) != under(source, {0, mono, 6}));
+        QCOMPARE(renderPhoto(source, settings), under(source, {look1962, mono, colorcross}));
+        QVERIFY(renderPhoto(source, settings) != under(source, {colorcross, mono, look1962}));
     }
 
     void listThatGrowsIsWalkedToItsEnd()
@@ -186,7 +189,7 @@ private slots:
         RenderSettings settings;
         settings.filterIDs = &list;
         const QImage picture = renderPhoto(source, settings, [&](const char*) { list.addOnce(6); });
-        QCOMPARE(picture, under(source, {mono, 6}));
+        QCOMPARE(picture, under(source, {mono, look1962}));
     }
 
     void borderWithoutMarginsIsDrawn()
@@ -222,7 +225,7 @@ private slots:
     {
         GrowArray<int> list;
         list.add(mono);
-        list.add(6);
+        list.add(look1962);
         RenderSettings settings;
         settings.filterIDs = &list;
         QStringList steps;

@@ -1,4 +1,5 @@
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 #include "tests/reference/Framing.h"
 
 #include <algorithm>
@@ -100,7 +101,7 @@ TEST(Border, LeavesNoPixelsWhereMarginsCropAll)
         image->addBorder(left, right, top, bottom, 10, 20, 30);
         EXPECT_EQ(image->pixelCount(), 0u);
         EXPECT_TRUE(image->width >= 0 && image->height >= 0);
-        image->applyFilterBorder(29, 100);
+        image->applyFilterBorder(Filter::rounded, 100);
         image->addBorder(1 - image->width, 0, 1 - image->height, 0, 10, 20, 30);
         EXPECT_TRUE(image->width == 1 && image->height == 1 && at(*image, 0, 0)[1] == 20);
     }
@@ -118,7 +119,7 @@ TEST(Border, RefusesSidesBeyondAnInt)
 TEST(Border, DrawsCinemaBarsWithoutAnOutline)
 {
     const auto image = imageOf(flatPicture(20, 400, 90, 90, 90));
-    image->applyFilterBorder(8, 1000);
+    image->applyFilterBorder(Filter::cinema, 1000);
     expectColour(*image, 0, 124, 0);
     expectColour(*image, 0, 125, 90);
     expectColour(*image, 19, 274, 90);
@@ -128,13 +129,13 @@ TEST(Border, DrawsCinemaBarsWithoutAnOutline)
 TEST(Border, OutlinesThinMargins)
 {
     const auto image = imageOf(flatPicture(100, 80, 90, 90, 90));
-    image->applyFilterBorder(26, 100); // margins of one pixel, which the outline covers
+    image->applyFilterBorder(Filter::thin, 100); // margins of one pixel, which the outline covers
     expectColour(*image, 0, 0, 200);
     expectColour(*image, 99, 40, 200);
     expectColour(*image, 50, 79, 200);
     expectColour(*image, 1, 1, 90);
     const auto wider = imageOf(flatPicture(100, 80, 90, 90, 90));
-    wider->applyFilterBorder(26, 300);
+    wider->applyFilterBorder(Filter::thin, 300);
     expectColour(*wider, 0, 40, 200);
     expectColour(*wider, 1, 40, 255);
     expectColour(*wider, 3, 40, 255);
@@ -144,7 +145,7 @@ TEST(Border, OutlinesThinMargins)
 TEST(Border, FramesInstantInOffWhite)
 {
     const auto image = imageOf(flatPicture(100, 130, 90, 90, 90));
-    image->applyFilterBorder(4, 100);
+    image->applyFilterBorder(Filter::instant, 100);
     expectColour(*image, 0, 0, 245);
     expectColour(*image, 50, 111, 245);
     expectColour(*image, 50, 110, 90);
@@ -153,7 +154,8 @@ TEST(Border, FramesInstantInOffWhite)
 TEST(Border, DrawsNothingForNumbersWithoutOne)
 {
     const Picture picture = randomPicture(30, 20, 8);
-    for (int border : {14, 0, 11, 12, 13, -1, 99}) {
+    for (int border : std::initializer_list<int>{
+             Filter::original, Filter::colorcross, Filter::customA, Filter::customB, Filter::customC, -1, 99}) {
         const auto image = imageOf(picture);
         image->applyFilterBorder(border, 30);
         expectSame(*image, picture, std::to_string(border));
@@ -162,12 +164,12 @@ TEST(Border, DrawsNothingForNumbersWithoutOne)
 
 TEST(Border, FollowsTheLastEntryOfACustomList)
 {
-    const std::pair<int, void (*)(const GrowArray<int>&)> lists[] = {
-        {11, CharImage::setCustomFilterA}, {12, CharImage::setCustomFilterB}, {13, CharImage::setCustomFilterC}};
+    const std::pair<int, void (*)(const GrowArray<int>&)> lists[] = {{Filter::customA, CharImage::setCustomFilterA},
+        {Filter::customB, CharImage::setCustomFilterB}, {Filter::customC, CharImage::setCustomFilterC}};
     for (const auto& [number, setList] : lists) {
         GrowArray<int> list;
-        list.add(5);
-        list.add(8);
+        list.add(Filter::mono);
+        list.add(Filter::cinema);
         setList(list);
         const auto image = imageOf(flatPicture(20, 40, 90, 90, 90));
         image->applyFilterBorder(number, 40);
@@ -181,7 +183,7 @@ TEST(Border, FollowsTheLastEntryOfACustomList)
 TEST(Border, MasksEverythingOutsideTheFisheyesCircle)
 {
     const auto image = imageOf(flatPicture(300, 200, 250, 250, 250));
-    image->applyFilterBorder(10, 300);
+    image->applyFilterBorder(Filter::fisheye, 300);
     EXPECT_EQ(image->width, 300);
     for (int y = 0; y < 200; y++)
         for (int x = 0; x < 300; x++) {
@@ -270,7 +272,7 @@ TEST(Border, MatchesItsTwin)
             image->fillRoundedBorder(3, 1, 2, 4, radius, colour);
             expectSame(*image, rounded, sample.name + ", radius " + std::to_string(radius));
         }
-        for (int border : {2, 3, 4, 5, 7, 8, 10, 26, 27, 28, 29}) {
+        for (int border = 0; border < Filter::end; border++) {
             float margins[4];
             CharImage::getBorderReqsForFilter(border, &margins[0], &margins[1], &margins[2], &margins[3]);
             // A source three times as large makes thick margins and, from 1000 pixels on, harder corners.

@@ -1,4 +1,5 @@
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 #include "image/framing/BestFit.h"
 
 #include <array>
@@ -39,41 +40,43 @@ GrowArray<int> listOf(std::initializer_list<int> filters)
 
 TEST(CropAspect, TurnsWithThePicture)
 {
-    for (int filter : {6, 7, 24}) {
+    for (int filter : {Filter::look1962, Filter::look1974, Filter::crop7x6}) {
         EXPECT_EQ(CharImage::getFilterAspect(filter, 1.0f), 1.1666666f);
         EXPECT_EQ(CharImage::getFilterAspect(filter, 0.999f), 0.85714287f);
     }
-    for (int filter : {3, 23}) {
+    for (int filter : {Filter::magazine, Filter::crop6x4}) {
         EXPECT_EQ(CharImage::getFilterAspect(filter, 2.0f), 1.5f);
         EXPECT_EQ(CharImage::getFilterAspect(filter, 0.5f), 0.6666667f);
     }
-    EXPECT_EQ(CharImage::getFilterAspect(25, 1.5f), 1.3333334f);
-    EXPECT_EQ(CharImage::getFilterAspect(25, 0.5f), 0.75f);
+    EXPECT_EQ(CharImage::getFilterAspect(Filter::crop4x3, 1.5f), 1.3333334f);
+    EXPECT_EQ(CharImage::getFilterAspect(Filter::crop4x3, 0.5f), 0.75f);
 }
 
 TEST(CropAspect, KeepsSquaresAndWideStrips)
 {
     for (float aspect : {0.5f, 2.0f}) {
-        for (int filter : {21, 1, 4, 2, 10})
+        for (int filter : {Filter::square, Filter::helga, Filter::instant, Filter::lolo, Filter::fisheye})
             EXPECT_EQ(CharImage::getFilterAspect(filter, aspect), 1.0f);
-        for (int filter : {8, 22})
+        for (int filter : {Filter::cinema, Filter::widescreen})
             EXPECT_EQ(CharImage::getFilterAspect(filter, aspect), 1.7777778f);
-        for (int filter : {14, 0, 5, 9, 17, 18, 19, 20, 26, 15, 16, -1, 99})
+        for (int filter : std::initializer_list<int>{Filter::original, Filter::colorcross, Filter::mono,
+                 Filter::infrared, Filter::lightleak, Filter::delicious, Filter::arctic, Filter::blowout, Filter::thin,
+                 Filter::unnamed, Filter::testPattern, -1, 99})
             EXPECT_EQ(CharImage::getFilterAspect(filter, aspect), -1.0f);
     }
 }
 
 TEST(CropAspect, FollowsTheLastEntryOfACustomList)
 {
-    const std::pair<int, void (*)(const GrowArray<int>&)> lists[] = {
-        {11, CharImage::setCustomFilterA}, {12, CharImage::setCustomFilterB}, {13, CharImage::setCustomFilterC}};
+    const std::pair<int, void (*)(const GrowArray<int>&)> lists[] = {{Filter::customA, CharImage::setCustomFilterA},
+        {Filter::customB, CharImage::setCustomFilterB}, {Filter::customC, CharImage::setCustomFilterC}};
     for (const auto& [number, setList] : lists) {
         EXPECT_EQ(CharImage::getFilterAspect(number, 1.5f), -1.0f);
         EXPECT_EQ(margins(number), even(0));
-        setList(listOf({21, 8}));
+        setList(listOf({Filter::square, Filter::cinema}));
         EXPECT_EQ(CharImage::getFilterAspect(number, 0.5f), 1.7777778f);
         EXPECT_EQ(margins(number), (std::array<float, 4>{0, 0, 0.125f, 0.125f}));
-        setList(listOf({8, 25}));
+        setList(listOf({Filter::cinema, Filter::crop4x3}));
         EXPECT_EQ(CharImage::getFilterAspect(number, 1.5f), 1.3333334f);
         EXPECT_EQ(margins(number), even(0));
         setList(listOf({}));
@@ -82,19 +85,20 @@ TEST(CropAspect, FollowsTheLastEntryOfACustomList)
 
 TEST(BorderRequirements, StandInTheTable)
 {
-    for (int filter : {26, 3})
+    for (int filter : {Filter::thin, Filter::magazine})
         EXPECT_EQ(margins(filter), even(0.014285714f));
-    for (int filter : {27, 5})
+    for (int filter : {Filter::medium, Filter::mono})
         EXPECT_EQ(margins(filter), even(0.025f));
-    for (int filter : {28, 2})
+    for (int filter : {Filter::thick, Filter::lolo})
         EXPECT_EQ(margins(filter), even(0.0625f));
-    for (int filter : {29, 7})
+    for (int filter : {Filter::rounded, Filter::look1974})
         EXPECT_EQ(margins(filter), even(0.022222223f));
-    EXPECT_EQ(margins(4), (std::array<float, 4>{0.04f, 0.04f, 0.04f, 0.19999999f}));
-    EXPECT_EQ(double(margins(4)[3]), 0.19999998807907104);
-    EXPECT_EQ(int(3000 * margins(4)[3]), 599);
-    EXPECT_EQ(margins(8), (std::array<float, 4>{0, 0, 0.125f, 0.125f}));
-    for (int filter : {0, 14, 10, 21, -1, 99})
+    EXPECT_EQ(margins(Filter::instant), (std::array<float, 4>{0.04f, 0.04f, 0.04f, 0.19999999f}));
+    EXPECT_EQ(double(margins(Filter::instant)[3]), 0.19999998807907104);
+    EXPECT_EQ(int(3000 * margins(Filter::instant)[3]), 599);
+    EXPECT_EQ(margins(Filter::cinema), (std::array<float, 4>{0, 0, 0.125f, 0.125f}));
+    for (int filter :
+        std::initializer_list<int>{Filter::colorcross, Filter::original, Filter::fisheye, Filter::square, -1, 99})
         EXPECT_EQ(margins(filter), even(0));
 }
 

@@ -1,5 +1,7 @@
 #include "tests/image/looks/LookProperties.h"
 
+using namespace lumora;
+
 namespace {
 
 void arcticLevels(Picture& picture)
@@ -14,22 +16,22 @@ constexpr ByteColour white = {254, 254, 254};
 
 TEST(Arctic, MatchesItsTwin)
 {
-    expectLookMatchesTwin(19, reference::arctic);
+    expectLookMatchesTwin(Filter::arctic, reference::arctic);
 }
 
 TEST(Arctic, KeepsBlackAndWhite)
 {
-    expectBeforeLevels(19, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, white, arcticLevels);
-    expectBeforeLevels(19, {255, 255, 255}, white, {0, 0, 0}, white, arcticLevels);
+    expectBeforeLevels(Filter::arctic, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, white, arcticLevels);
+    expectBeforeLevels(Filter::arctic, {255, 255, 255}, white, {0, 0, 0}, white, arcticLevels);
 }
 
 TEST(Arctic, GivesThePivotItsColdCastAlone)
 {
-    expectBeforeLevels(19, {135, 135, 135}, {92, 92, 118}, {0, 0, 0}, white, arcticLevels);
+    expectBeforeLevels(Filter::arctic, {135, 135, 135}, {92, 92, 118}, {0, 0, 0}, white, arcticLevels);
 }
 
 TEST(Arctic, DarkensAMidGreyIntoBlue)
 {
     // k = 1 - (35/135)^1.1 = 0.773; r1 = g1 = 68.80, b1 = 86.22; saturated: 53.0 and 67.8.
-    expectBeforeLevels(19, {100, 100, 100}, {53, 53, 67}, {0, 0, 0}, white, arcticLevels);
+    expectBeforeLevels(Filter::arctic, {100, 100, 100}, {53, 53, 67}, {0, 0, 0}, white, arcticLevels);
 }

@@ -13,14 +13,14 @@ void blowoutLevels(CharImage& image)
 
 TEST(Blowout, MatchesItsTwin)
 {
-    expectLookMatchesTwin(20, reference::blowout);
+    expectLookMatchesTwin(Filter::blowout, reference::blowout);
 }
 
 TEST(Blowout, BrightensByLightness)
 {
-    EXPECT_EQ(afterLevels(20, {128, 128, 128}, blowoutLevels), (ByteColour{192, 192, 192}));
-    EXPECT_EQ(afterLevels(20, {255, 0, 0}, blowoutLevels), (ByteColour{255, 0, 0}));
-    EXPECT_EQ(afterLevels(20, {20, 20, 20}, blowoutLevels), (ByteColour{21, 21, 21}));
-    EXPECT_EQ(afterLevels(20, {0, 0, 0}, blowoutLevels), (ByteColour{0, 0, 0}));
-    EXPECT_EQ(afterLevels(20, {255, 255, 255}, blowoutLevels), (ByteColour{255, 255, 255}));
+    EXPECT_EQ(afterLevels(Filter::blowout, {128, 128, 128}, blowoutLevels), (ByteColour{192, 192, 192}));
+    EXPECT_EQ(afterLevels(Filter::blowout, {255, 0, 0}, blowoutLevels), (ByteColour{255, 0, 0}));
+    EXPECT_EQ(afterLevels(Filter::blowout, {20, 20, 20}, blowoutLevels), (ByteColour{21, 21, 21}));
+    EXPECT_EQ(afterLevels(Filter::blowout, {0, 0, 0}, blowoutLevels), (ByteColour{0, 0, 0}));
+    EXPECT_EQ(afterLevels(Filter::blowout, {255, 255, 255}, blowoutLevels), (ByteColour{255, 255, 255}));
 }

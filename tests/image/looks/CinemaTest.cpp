@@ -15,18 +15,18 @@ void cinemaLevels(CharImage& image)
 
 TEST(Cinema, MatchesItsTwin)
 {
-    expectLookMatchesTwin(8, reference::cinema);
+    expectLookMatchesTwin(Filter::cinema, reference::cinema);
 }
 
 TEST(Cinema, KeepsTheDarkestBlackAndWhiteWhite)
 {
-    EXPECT_EQ(afterLevels(8, {5, 5, 5}, cinemaLevels), (ByteColour{0, 0, 0}));
-    EXPECT_EQ(afterLevels(8, {255, 255, 255}, cinemaLevels), (ByteColour{255, 255, 255}));
+    EXPECT_EQ(afterLevels(Filter::cinema, {5, 5, 5}, cinemaLevels), (ByteColour{0, 0, 0}));
+    EXPECT_EQ(afterLevels(Filter::cinema, {255, 255, 255}, cinemaLevels), (ByteColour{255, 255, 255}));
 }
 
 TEST(Cinema, TurnsGreyBlue)
 {
-    const ByteColour c = afterLevels(8, {128, 128, 128}, cinemaLevels);
+    const ByteColour c = afterLevels(Filter::cinema, {128, 128, 128}, cinemaLevels);
     EXPECT_EQ(c[0], c[1]);
     EXPECT_NEAR(c[0], 145, 1);
     EXPECT_NEAR(c[2], 162, 1);
@@ -39,18 +39,18 @@ TEST(Cinema, IgnoresAPixelsPlace)
     for (const int x : {1, 399})
         picture.at(x, 0)[1] = 77;
     const auto image = imageOf(picture);
-    image->applyFilter(8);
+    image->applyFilter(Filter::cinema);
     EXPECT_TRUE(std::equal(image->data + 4, image->data + 7, image->data + 4 * 399));
 }
 
 TEST(Cinema, LeavesAnEmptyImageAndTheSpareByteAlone)
 {
     CharImage empty;
-    empty.applyFilter(8);
+    empty.applyFilter(Filter::cinema);
     EXPECT_EQ(empty.data, nullptr);
     const Picture picture = randomPicture(20, 20, 3);
     const auto image = imageOf(picture);
-    image->applyFilter(8);
+    image->applyFilter(Filter::cinema);
     for (int i = 3; i < 1600; i += 4)
         ASSERT_EQ(image->data[i], picture.pixels[i]);
 }

@@ -6,13 +6,13 @@ using namespace lumora;
 
 TEST(Colorcross, MatchesItsTwin)
 {
-    expectLookMatchesTwin(0, reference::colorcross);
+    expectLookMatchesTwin(Filter::colorcross, reference::colorcross);
 }
 
 TEST(Colorcross, StaysOffBlackAndWhite)
 {
-    EXPECT_EQ(underLook(0, {0, 0, 0}), (ByteColour{20, 20, 20}));
-    EXPECT_EQ(underLook(0, {255, 255, 255}), (ByteColour{250, 250, 250}));
+    EXPECT_EQ(underLook(Filter::colorcross, {0, 0, 0}), (ByteColour{20, 20, 20}));
+    EXPECT_EQ(underLook(Filter::colorcross, {255, 255, 255}), (ByteColour{250, 250, 250}));
 }
 
 TEST(Colorcross, KeepsTheMiddleForEveryExponent)
@@ -24,7 +24,7 @@ TEST(Colorcross, KeepsTheMiddleForEveryExponent)
         const auto image = imageOf(flatPicture(1, 1, 128, 128, 128));
         const auto black = imageOf(flatPicture(1, 1, 0, 0, 0)), white = imageOf(flatPicture(1, 1, 255, 255, 255));
         for (CharImage* each : {image.get(), black.get(), white.get()})
-            each->applyFilter(0);
+            each->applyFilter(Filter::colorcross);
         for (int k = 0; k < 3; k++) {
             EXPECT_NEAR(image->data[k], 128, 2);
             EXPECT_EQ(black->data[k], 20);
@@ -36,7 +36,7 @@ TEST(Colorcross, KeepsTheMiddleForEveryExponent)
 TEST(Colorcross, PrintsItsPowers)
 {
     testing::internal::CaptureStdout();
-    underLook(0, {1, 2, 3});
+    underLook(Filter::colorcross, {1, 2, 3});
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "powers 2.839540 2.758001 0.683486\n");
 }
 
@@ -47,14 +47,15 @@ TEST(Colorcross, PrintsPowersThatItSetApart)
     std::fill(std::begin(CharImage::random), std::end(CharImage::random), 0.0f);
     const auto image = imageOf(flatPicture(1, 1, 1, 2, 3));
     testing::internal::CaptureStdout();
-    image->applyFilter(0);
+    image->applyFilter(Filter::colorcross);
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "powers 0.960000 0.600000 0.600000\n");
 }
 
 TEST(Colorcross, IsALookupPerChannel)
 {
     CharImage::useRandom = 0;
-    const ByteColour once = underLook(0, {77, 77, 77}), again = underLook(0, {77, 3, 200});
+    const ByteColour once = underLook(Filter::colorcross, {77, 77, 77}),
+                     again = underLook(Filter::colorcross, {77, 3, 200});
     EXPECT_EQ(once[0], again[0]);
 }
 

@@ -11,13 +11,13 @@ using namespace lumora;
 
 TEST(Delicious, MatchesItsTwin)
 {
-    expectLookMatchesTwin(18, reference::delicious);
+    expectLookMatchesTwin(Filter::delicious, reference::delicious);
 }
 
 TEST(Delicious, FlattensDeepShadows)
 {
     const auto image = imageOf(flatPicture(30, 20, 40, 45, 50));
-    image->applyFilter(18);
+    image->applyFilter(Filter::delicious);
     EXPECT_EQ(image->data[0], image->data[1]);
     EXPECT_EQ(image->data[0], image->data[2]);
     EXPECT_LT(image->data[0], 50);
@@ -26,7 +26,7 @@ TEST(Delicious, FlattensDeepShadows)
 TEST(Delicious, TurnsPureRedGrey)
 {
     const auto image = imageOf(flatPicture(30, 20, 255, 0, 0));
-    image->applyFilter(18);
+    image->applyFilter(Filter::delicious);
     EXPECT_EQ(image->data[0], image->data[1]);
     EXPECT_EQ(image->data[0], image->data[2]);
 }
@@ -102,7 +102,7 @@ TEST(Delicious, BandsTones)
 TEST(Delicious, DrawsNoOutlinesOnOneColour)
 {
     const auto image = imageOf(flatPicture(30, 20, 90, 160, 200));
-    image->applyFilter(18);
+    image->applyFilter(Filter::delicious);
     for (int i = 1; i < 600; i++)
         ASSERT_TRUE(std::equal(image->data, image->data + 3, image->data + 4 * i));
 }
@@ -117,7 +117,7 @@ TEST(Delicious, IsItsColourCoreWithoutShadowsAndEdges)
             picture.at(x, y)[2] = static_cast<unsigned char>(250 - x);
         }
     const auto look = imageOf(picture), core = imageOf(picture);
-    look->applyFilter(18);
+    look->applyFilter(Filter::delicious);
     core->deliciousColorCore2();
     EXPECT_TRUE(std::equal(look->data, look->data + 130 * 70 * 4, core->data));
     EXPECT_FALSE(std::equal(look->data, look->data + 130 * 70 * 4, picture.pixels.begin()));
@@ -127,9 +127,9 @@ TEST(Delicious, IgnoresTheVariation)
 {
     const auto fixed = imageOf(photoLikePicture(90, 70)), varied = imageOf(photoLikePicture(90, 70));
     CharImage::useRandom = 0;
-    fixed->applyFilter(18);
+    fixed->applyFilter(Filter::delicious);
     CharImage::useRandom = 1;
-    varied->applyFilter(18);
+    varied->applyFilter(Filter::delicious);
     EXPECT_TRUE(std::equal(fixed->data, fixed->data + 90 * 70 * 4, varied->data));
 }
 
@@ -137,7 +137,7 @@ TEST(Delicious, PrintsBothKernels)
 {
     const auto image = imageOf(flatPicture(4, 4, 90, 160, 200));
     testing::internal::CaptureStdout();
-    image->applyFilter(18);
+    image->applyFilter(Filter::delicious);
     const std::string out = testing::internal::GetCapturedStdout();
     EXPECT_EQ(out.find("9 gauss kernel values\n   val 0.040000\n"), 0u);
     EXPECT_NE(

@@ -4,7 +4,7 @@ using namespace lumora;
 
 TEST(Fisheye, MatchesItsTwin)
 {
-    expectLookMatchesTwin(10, reference::fisheye);
+    expectLookMatchesTwin(Filter::fisheye, reference::fisheye);
 }
 
 TEST(Fisheye, MatchesItsTwinInOddShapes)

@@ -6,15 +6,15 @@ using namespace lumora;
 
 TEST(Helga, MatchesItsTwin)
 {
-    expectLookMatchesTwin(1, reference::helga);
+    expectLookMatchesTwin(Filter::helga, reference::helga);
 }
 
 TEST(Helga, GivesTheSameBytesTwice)
 {
     CharImage::useRandom = 0;
     const auto first = imageOf(photoLikePicture(61, 43)), second = imageOf(photoLikePicture(61, 43));
-    first->applyFilter(1);
-    second->applyFilter(1);
+    first->applyFilter(Filter::helga);
+    second->applyFilter(Filter::helga);
     EXPECT_TRUE(std::equal(first->data, first->data + 61 * 43 * 4, second->data));
 }
 
@@ -22,7 +22,7 @@ TEST(Helga, NeverGoesBelowItsBlackFloor)
 {
     CharImage::useRandom = 0;
     const auto image = imageOf(randomPicture(80, 60, 17));
-    image->applyFilter(1);
+    image->applyFilter(Filter::helga);
     for (int i = 0; i < 80 * 60 * 4; i++)
         if (i % 4 < 3) {
             ASSERT_GE(image->data[i], 7); // also where a saturation above 1 makes a channel negative
@@ -38,7 +38,7 @@ TEST(Helga, LeavesTheCentreBrighterThanTheCorners)
             picture.at(x, 0)[k] = 150;
     picture.at(203, 0)[0] = 0;
     const auto image = imageOf(picture);
-    image->applyFilter(1);
+    image->applyFilter(Filter::helga);
     EXPECT_GT(image->data[4 * 201], image->data[4]);
     EXPECT_GT(image->data[4 * 201], image->data[4 * 399]);
 }
@@ -47,7 +47,7 @@ TEST(Helga, LiftsABlackCentre)
 {
     CharImage::useRandom = 0;
     const auto image = imageOf(sampledPicture({0, 0, 0}, {255, 255, 255}));
-    image->applyFilter(1);
+    image->applyFilter(Filter::helga);
     for (int k = 0; k < 3; k++)
         EXPECT_GE(image->data[4 * 200 + k], 7);
 }
@@ -58,7 +58,7 @@ TEST(Helga, RendersASinglePixel)
     CharImage::useRandom = 0;
     const auto image = imageOf(expected);
     reference::helga(expected);
-    image->applyFilter(1);
+    image->applyFilter(Filter::helga);
     expectSame(*image, expected, "1x1");
 }
 

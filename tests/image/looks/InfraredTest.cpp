@@ -1,5 +1,7 @@
 #include "tests/image/looks/LookProperties.h"
 
+using namespace lumora;
+
 namespace {
 
 void infraredLevels(Picture& picture)
@@ -17,7 +19,7 @@ ByteColour greyOf(int level)
 
 TEST(Infrared, MatchesItsTwin)
 {
-    expectLookMatchesTwin(9, reference::infrared);
+    expectLookMatchesTwin(Filter::infrared, reference::infrared);
 }
 
 TEST(Infrared, GivesTheReferenceColoursTheirGreys)
@@ -36,7 +38,7 @@ TEST(Infrared, GivesTheReferenceColoursTheirGreys)
                 }
         infraredLevels(before);
         const auto image = imageOf(picture);
-        image->applyFilter(9);
+        image->applyFilter(Filter::infrared);
         expectSame(*image, before, "colour " + std::to_string(i));
     }
 }
@@ -44,7 +46,7 @@ TEST(Infrared, GivesTheReferenceColoursTheirGreys)
 TEST(Infrared, IsNeutral)
 {
     const auto image = imageOf(randomPicture(50, 40, 8));
-    image->applyFilter(9);
+    image->applyFilter(Filter::infrared);
     for (int i = 0; i < 2000; i++) {
         ASSERT_EQ(image->data[4 * i], image->data[4 * i + 1]);
         ASSERT_EQ(image->data[4 * i], image->data[4 * i + 2]);
@@ -56,7 +58,7 @@ TEST(Infrared, BlursASinglePixelByTheLeastKernel)
     Picture twin = flatPicture(1, 1, 0, 255, 0);
     const auto image = imageOf(twin);
     reference::infrared(twin);
-    image->applyFilter(9);
+    image->applyFilter(Filter::infrared);
     expectSame(*image, twin, "1x1");
 }
 
@@ -66,7 +68,7 @@ TEST(Infrared, BlursByAHundredthOfTheLongerSide)
         Picture twin = photoLikePicture(width, height);
         const auto image = imageOf(twin);
         reference::infrared(twin);
-        image->applyFilter(9);
+        image->applyFilter(Filter::infrared);
         expectSame(*image, twin, std::to_string(width) + " x " + std::to_string(height));
     }
 }

@@ -6,7 +6,7 @@ using namespace lumora;
 
 TEST(Instant, MatchesItsTwin)
 {
-    expectLookMatchesTwin(4, reference::instant);
+    expectLookMatchesTwin(Filter::instant, reference::instant);
 }
 
 TEST(Instant, HasNoBlackBeforeItsVignette)
@@ -15,7 +15,7 @@ TEST(Instant, HasNoBlackBeforeItsVignette)
     // centre alone. All three channels at 0 go to the floor of the curves.
     const auto image = imageOf(flatPicture(1, 1, 0, 0, 0));
     CharImage::useRandom = 0;
-    image->applyFilter(4);
+    image->applyFilter(Filter::instant);
     Picture twin = flatPicture(1, 1, 0, 0, 0);
     reference::instant(twin);
     expectSame(*image, twin, "1x1");
@@ -30,14 +30,14 @@ TEST(Instant, IsAFunctionOfEachPixelUpToItsVignette)
     for (const int x : {198, 202})
         picture.at(x, 0)[1] = 77;
     const auto image = imageOf(picture);
-    image->applyFilter(4);
+    image->applyFilter(Filter::instant);
     EXPECT_TRUE(std::equal(image->data + 4 * 198, image->data + 4 * 198 + 3, image->data + 4 * 202));
 }
 
 TEST(Instant, SurvivesAnEmptyImage)
 {
     CharImage empty;
-    empty.applyFilter(4);
+    empty.applyFilter(Filter::instant);
     EXPECT_EQ(empty.data, nullptr);
 }
 

@@ -4,7 +4,7 @@ using namespace lumora;
 
 TEST(Lightleak, MatchesItsTwin)
 {
-    expectLookMatchesTwin(17, reference::lightleak);
+    expectLookMatchesTwin(Filter::lightleak, reference::lightleak);
 }
 
 TEST(Lightleak, DiffersFromRenderToRenderAlsoWithoutVariation)
@@ -12,8 +12,8 @@ TEST(Lightleak, DiffersFromRenderToRenderAlsoWithoutVariation)
     CharImage::useRandom = 0;
     std::srand(5);
     const auto first = imageOf(photoLikePicture(60, 40)), second = imageOf(photoLikePicture(60, 40));
-    first->applyFilter(17);
-    second->applyFilter(17);
+    first->applyFilter(Filter::lightleak);
+    second->applyFilter(Filter::lightleak);
     EXPECT_FALSE(std::equal(first->data, first->data + 60 * 40 * 4, second->data));
 }
 
@@ -22,7 +22,7 @@ TEST(Lightleak, NeverGoesBelow62AtTheCentre)
     // The corner darkening leaves the centre alone, so that it shows the floor of the contrast.
     std::srand(5);
     const auto image = imageOf(flatPicture(61, 41, 0, 0, 0));
-    image->applyFilter(17);
+    image->applyFilter(Filter::lightleak);
     for (int k = 0; k < 3; k++)
         EXPECT_GE(image->data[4 * (20 * 61 + 30) + k], 62);
 }
@@ -33,7 +33,7 @@ TEST(Lightleak, GivesASinglePixelTheFullGlow)
     Picture twin = flatPicture(1, 1, 100, 100, 100);
     const auto image = imageOf(twin);
     reference::lightleak(twin);
-    image->applyFilter(17);
+    image->applyFilter(Filter::lightleak);
     expectSame(*image, twin, "1x1");
     EXPECT_GT(image->data[0], image->data[2]); // the glow is warm
 }
@@ -46,6 +46,6 @@ TEST(Lightleak, DrawsThreeNumbersInOrder)
     const int fourth = std::rand();
     std::srand(11);
     const auto image = imageOf(flatPicture(3, 3, 1, 2, 3));
-    image->applyFilter(17);
+    image->applyFilter(Filter::lightleak);
     EXPECT_EQ(std::rand(), fourth);
 }

@@ -15,18 +15,18 @@ void loloLevels(CharImage& image)
 
 TEST(Lolo, MatchesItsTwin)
 {
-    expectLookMatchesTwin(2, reference::lolo);
+    expectLookMatchesTwin(Filter::lolo, reference::lolo);
 }
 
 TEST(Lolo, WarmsGrey)
 {
-    EXPECT_EQ(afterLevels(2, {128, 128, 128}, loloLevels), (ByteColour{130, 129, 124}));
+    EXPECT_EQ(afterLevels(Filter::lolo, {128, 128, 128}, loloLevels), (ByteColour{130, 129, 124}));
 }
 
 TEST(Lolo, KeepsTheDarkestBlack)
 {
     // The levels hold the darkest at 30; contrast takes 30 to (30 - 128) x 1.5 + 128 = -19.
-    EXPECT_EQ(afterLevels(2, {30, 30, 30}, loloLevels), (ByteColour{0, 0, 0}));
+    EXPECT_EQ(afterLevels(Filter::lolo, {30, 30, 30}, loloLevels), (ByteColour{0, 0, 0}));
 }
 
 TEST(Lolo, HoldsItsVariedBrightLevelAt255)

@@ -15,25 +15,25 @@ void levels1962(CharImage& image)
 
 TEST(Look1962, MatchesItsTwin)
 {
-    expectLookMatchesTwin(6, reference::look1962);
+    expectLookMatchesTwin(Filter::look1962, reference::look1962);
 }
 
 TEST(Look1962, LeavesThePivotAndSpreadsTheRest)
 {
     // The weighted greys are 100.1, 200.1 and 25.1: blue counts one and a half times.
-    EXPECT_EQ(afterLevels(6, {100, 100, 67}, levels1962), (ByteColour{100, 100, 100}));
-    EXPECT_EQ(afterLevels(6, {200, 200, 134}, levels1962)[0], 233);
-    EXPECT_EQ(afterLevels(6, {25, 25, 17}, levels1962)[0], 0);
+    EXPECT_EQ(afterLevels(Filter::look1962, {100, 100, 67}, levels1962), (ByteColour{100, 100, 100}));
+    EXPECT_EQ(afterLevels(Filter::look1962, {200, 200, 134}, levels1962)[0], 233);
+    EXPECT_EQ(afterLevels(Filter::look1962, {25, 25, 17}, levels1962)[0], 0);
 }
 
 TEST(Look1962, MakesSaturatedBlueDark)
 {
-    EXPECT_EQ(afterLevels(6, {0, 0, 255}, levels1962), (ByteColour{22, 22, 22}));
+    EXPECT_EQ(afterLevels(Filter::look1962, {0, 0, 255}, levels1962), (ByteColour{22, 22, 22}));
 }
 
 TEST(Look1962, ClampsAGreyBeyondWhite)
 {
-    EXPECT_EQ(afterLevels(6, {255, 255, 255}, levels1962), (ByteColour{255, 255, 255}));
+    EXPECT_EQ(afterLevels(Filter::look1962, {255, 255, 255}, levels1962), (ByteColour{255, 255, 255}));
 }
 
 TEST(Look1962, VariesWithinItsBands)

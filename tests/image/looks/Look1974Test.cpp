@@ -15,14 +15,14 @@ void levels1974(Picture& picture)
 
 TEST(Look1974, MatchesItsTwin)
 {
-    expectLookMatchesTwin(7, reference::look1974);
+    expectLookMatchesTwin(Filter::look1974, reference::look1974);
 }
 
 TEST(Look1974, WashesBlackInBrownAndClipsWhite)
 {
     const ByteColour black = {10, 0, 0}, white = {255, 255, 255};
-    expectBeforeLevels(7, {0, 0, 0}, black, black, white, levels1974);
-    expectBeforeLevels(7, {255, 255, 255}, white, black, white, levels1974);
+    expectBeforeLevels(Filter::look1974, {0, 0, 0}, black, black, white, levels1974);
+    expectBeforeLevels(Filter::look1974, {255, 255, 255}, white, black, white, levels1974);
 }
 
 TEST(Look1974, VariesItsTint)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"
 

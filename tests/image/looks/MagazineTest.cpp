@@ -18,19 +18,19 @@ constexpr ByteColour white = {254, 254, 254};
 
 TEST(Magazine, MatchesItsTwin)
 {
-    expectLookMatchesTwin(3, reference::magazine);
+    expectLookMatchesTwin(Filter::magazine, reference::magazine);
 }
 
 TEST(Magazine, KeepsBlackAndWhite)
 {
-    expectBeforeLevels(3, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, white, magazineLevels);
-    expectBeforeLevels(3, {255, 255, 255}, white, {0, 0, 0}, white, magazineLevels);
+    expectBeforeLevels(Filter::magazine, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, white, magazineLevels);
+    expectBeforeLevels(Filter::magazine, {255, 255, 255}, white, {0, 0, 0}, white, magazineLevels);
 }
 
 TEST(Magazine, OnlyTintsAndSaturatesThePivot)
 {
     // l = 0.5294, w = 0.3271: red 135 x 0.6729 + 2 x 0.3271 x 122.82 = 171.2, green 137.6, blue 106.1; L2 = 144.2.
-    expectBeforeLevels(3, {135, 135, 135}, {177, 136, 97}, {0, 0, 0}, white, magazineLevels);
+    expectBeforeLevels(Filter::magazine, {135, 135, 135}, {177, 136, 97}, {0, 0, 0}, white, magazineLevels);
 }
 
 TEST(Magazine, IsAFunctionOfEachPixelAlone)
@@ -41,14 +41,14 @@ TEST(Magazine, IsAFunctionOfEachPixelAlone)
         picture.at(x, 0)[1] = 77;
     picture.at(2, 0)[0] = 10; // another neighbour
     const auto image = imageOf(picture);
-    image->applyFilter(3);
+    image->applyFilter(Filter::magazine);
     EXPECT_TRUE(std::equal(image->data + 4, image->data + 7, image->data + 4 * 399));
 }
 
 TEST(Magazine, StretchesAnEmptyImageWithoutAPixelPass)
 {
     CharImage empty;
-    empty.applyFilter(3);
+    empty.applyFilter(Filter::magazine);
     EXPECT_EQ(empty.data, nullptr);
 }
 

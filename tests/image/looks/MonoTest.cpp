@@ -15,15 +15,15 @@ void monoLevels(Picture& picture)
 
 TEST(Mono, MatchesItsTwin)
 {
-    expectLookMatchesTwin(5, reference::mono);
+    expectLookMatchesTwin(Filter::mono, reference::mono);
 }
 
 TEST(Mono, WeakensBlue)
 {
     const ByteColour black = {0, 0, 0}, white = {241, 241, 241};
-    expectBeforeLevels(5, {0, 0, 255}, {14, 14, 14}, black, white, monoLevels);
-    expectBeforeLevels(5, {255, 0, 0}, {76, 76, 76}, black, white, monoLevels);
-    expectBeforeLevels(5, {0, 255, 0}, {150, 150, 150}, black, white, monoLevels);
+    expectBeforeLevels(Filter::mono, {0, 0, 255}, {14, 14, 14}, black, white, monoLevels);
+    expectBeforeLevels(Filter::mono, {255, 0, 0}, {76, 76, 76}, black, white, monoLevels);
+    expectBeforeLevels(Filter::mono, {0, 255, 0}, {150, 150, 150}, black, white, monoLevels);
 }
 
 TEST(Mono, HoldsItsVariedGainsBetween50And255)
@@ -37,7 +37,7 @@ TEST(Mono, IsNeutral)
 {
     CharImage::useRandom = 1;
     const auto image = imageOf(randomPicture(40, 40, 5));
-    image->applyFilter(5);
+    image->applyFilter(Filter::mono);
     for (int i = 0; i < 1600; i++) {
         ASSERT_EQ(image->data[4 * i], image->data[4 * i + 1]);
         ASSERT_EQ(image->data[4 * i], image->data[4 * i + 2]);
