@@ -1,5 +1,6 @@
 #include "app/MainWindowController.h"
 #include "app/Rules.h"
+#include "core/SixPlaces.h"
 #include "photo/FreeMemory.h"
 #include "photo/PhotoLoader.h"
 #include "photo/PhotoSaver.h"
@@ -112,7 +113,8 @@ void MainWindowController::saveFilteredImage()
         size = downsizeNSImage(render, imgOutputSize);
     if (render.isNull())
         return openModalSheetWithText(tr("The photo cannot be saved."), memoryRefusal(bitmapSize(size)));
-    std::printf("downsizing image to %i, ended with %f %f\n", imgOutputSize, size.width(), size.height());
+    std::printf("downsizing image to %i, ended with %s %s\n", imgOutputSize, lumora::sixPlaces(size.width()).c_str(),
+        lumora::sixPlaces(size.height()).c_str());
     m_work.beginStep(tr("Encode"));
     const QByteArray jpeg = encodeJpeg(render, m_photo.metadata);
     if (jpeg.isEmpty())

@@ -2,12 +2,24 @@
 
 #include <algorithm>
 #include <charconv>
+#include <clocale>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 #include <strings.h>
 
 namespace lumora {
+
+namespace {
+
+/// The locale "C": numbers have a point and I is the capital of i, whatever the desktop's language is.
+locale_t plainLocale()
+{
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    return plain;
+}
+
+} // namespace
 
 char const GrowString::staticEmptyString[1] = {0};
 
@@ -116,7 +128,7 @@ bool GrowString::operator==(const GrowString& other) const
 
 bool GrowString::compareNoCase(char const* text) const
 {
-    return strcasecmp(cString(), text) == 0;
+    return strcasecmp_l(cString(), text, plainLocale()) == 0;
 }
 
 bool GrowString::beginsWith(char const* prefix) const
@@ -126,7 +138,7 @@ bool GrowString::beginsWith(char const* prefix) const
 
 double GrowString::toNumber() const
 {
-    return std::strtod(cString(), nullptr);
+    return strtod_l(cString(), nullptr, plainLocale());
 }
 
 bool GrowString::toNumber(double* out) const
@@ -135,7 +147,7 @@ bool GrowString::toNumber(double* out) const
     if (!out || numThings < 1 || text[0] == 0 || text[0] == '\n')
         return false;
     char* end;
-    const double number = std::strtod(text, &end);
+    const double number = strtod_l(text, &end, plainLocale());
     if (end == text || *end != 0)
         return false;
     *out = number;

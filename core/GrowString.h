@@ -35,10 +35,10 @@ public:
     int findLast(char c) const;
 
     bool operator==(const GrowString& other) const;
-    bool compareNoCase(char const* text) const; ///< true when equal but for case
+    bool compareNoCase(char const* text) const; ///< true when equal but for the case of a to z
     bool beginsWith(char const* prefix) const;
 
-    double toNumber() const; ///< the leading number, 0 without one
+    double toNumber() const; ///< the leading number, with a point in every locale; 0 without one
     /// True, and the number, when the whole string is one number; false for an empty string and for a null `out`.
     bool toNumber(double* out) const;
 

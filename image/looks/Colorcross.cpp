@@ -1,5 +1,6 @@
 #include "image/looks/Colorcross.h"
 
+#include "core/SixPlaces.h"
 #include "image/looks/Variation.h"
 #include "image/passes/PixelPass.h"
 
@@ -35,7 +36,8 @@ void setApart(float (&exponent)[3], float choice)
 void CharImage::applyCrossProcessFilter()
 {
     const ColorcrossParameters p = currentParameters<ColorcrossParameters>();
-    std::printf("powers %f %f %f\n", p.exponent[0], p.exponent[1], p.exponent[2]);
+    std::printf("powers %s %s %s\n", sixPlaces(p.exponent[0]).c_str(), sixPlaces(p.exponent[1]).c_str(),
+        sixPlaces(p.exponent[2]).c_str());
     forEachPixel(
         *this, filmCurve(p.exponent[0]), filmCurve(p.exponent[1]), filmCurve(p.exponent[2]), [](Rgb c) { return c; });
 }

@@ -1,5 +1,6 @@
 #include "image/toolkit/MapRows.h"
 
+#include "core/SixPlaces.h"
 #include "image/toolkit/Kernel.h"
 
 #include <cstdio>
@@ -30,7 +31,7 @@ GrowArray<float> printedKernel(int size, float exponent)
     fillKernel(weights, size, exponent, false);
     std::printf("%i gauss kernel values\n", weights.numThings);
     for (int i = 0; i < weights.numThings; i++)
-        std::printf("   val %f\n", weights.theArray[i]);
+        std::printf("   val %s\n", sixPlaces(weights.theArray[i]).c_str());
     return weights;
 }
 

@@ -1,5 +1,6 @@
 #include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
+#include "tests/TurkishLocale.h"
 #include "tests/app/Desk.h"
 
 #include <QDirIterator>
@@ -57,6 +58,16 @@ private slots:
         printed = printedBy([&] { desk.saveAs(path + "2.jpg"); });
         QVERIFY(printed.contains("downsizing image to 800, ended with 800.000000 533.333333\n"));
         QCOMPARE(decoded(path + "2.jpg").size(), QSize(800, 533));
+    }
+
+    void savingPrintsTheSameLineInEveryCountry()
+    {
+        Desk desk(makePhoto(300, 200));
+        desk.choose("btnImgSize", "800");
+        const TurkishLocale turkish;
+        QVERIFY(turkish.isSet());
+        const QByteArray printed = printedBy([&] { desk.saveAs(desk.folder.filePath("out.jpg")); });
+        QVERIFY(printed.contains("downsizing image to 800, ended with 800.000000 533.333333\n"));
     }
 
     void theSavePanelProposesTheNameAndTheBytesAreAlwaysJpeg()
