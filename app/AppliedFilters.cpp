@@ -5,6 +5,8 @@
 #include "ui_MainWindow.h"
 
 #include <QAction>
+#include <QScopeGuard>
+#include <cstdlib>
 
 using namespace lumora;
 
@@ -57,6 +59,7 @@ void MainWindowController::pressFilterButton(int filter)
     filterIDs.press(filter, doMultiFiltering);
     showAppliedFilters();
     applyMultipleFilters();
+    addStep(QString::fromUtf8(CharImage::getFilterName(filter)));
 }
 
 void MainWindowController::applyOriginalFilter()
@@ -66,13 +69,25 @@ void MainWindowController::applyOriginalFilter()
         return showAppliedFilters();
     removeAllFilters();
     applyMultipleFilters();
+    addStep(tr("Original"));
 }
 
 void MainWindowController::applyMultipleFilters()
 {
+    m_renderSeed = unsigned(std::rand());
+    renderPreview();
+}
+
+void MainWindowController::renderPreview()
+{
     const Work work = renderOfPreview();
     if (!work || m_photo.isNull())
         return;
+    // The numbers that are drawn after this render do not depend on its seed: a step taken back and done anew brings
+    // new ones.
+    const unsigned later = unsigned(std::rand());
+    std::srand(m_renderSeed);
+    const auto goOn = qScopeGuard([later] { std::srand(later); });
     QString reason;
     const QImage render = saveMultipleFilters(true, &reason);
     m_ui->mainImageView->setImage(render, reason);
@@ -123,6 +138,7 @@ void MainWindowController::multiFilterToggled()
         applyMultipleFilters();
     }
     updateBreadcrumb();
+    addStep(tr("Multiple looks"));
 }
 
 void MainWindowController::useRandomToggled()
@@ -133,6 +149,7 @@ void MainWindowController::useRandomToggled()
     CharImage::useRandom = m_ui->chkRandomness->isChecked() ? 1 : 0;
     settingChanged();
     updateThumbnailImages();
+    addStep(tr("Randomness"));
 }
 
 void MainWindowController::reExpose()
@@ -145,6 +162,7 @@ void MainWindowController::reExpose()
     CharImage::useRandom = 1;
     settingChanged();
     updateThumbnailImages();
+    addStep(tr("Re-expose"));
 }
 
 /// Buttons and menu entries show which looks are in the list; "Original" stands for an empty one.

@@ -38,6 +38,7 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
     updateThumbnailImages();
     setCurrentFile(path);
     applyMultipleFilters();
+    beginHistory();
     return true;
 }
 
@@ -71,18 +72,16 @@ QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
     return turned;
 }
 
-void MainWindowController::rotateImage(float degrees)
+void MainWindowController::rotateImage(int quarterTurns)
 {
     const Work work = renderOfPreview();
     if (!work || m_photo.isNull())
         return;
-    const QImage turned = rotateNSImage(m_photo.original(), degrees);
-    if (turned.isNull())
-        return openModalSheetWithText(
-            tr("The photo cannot be turned."), memoryRefusal(m_photo.original().size().transposed()));
-    setoriginalImage(turned);
+    if (!turnPhoto(quarterTurns))
+        return;
     applyMultipleFilters();
     updateThumbnailImages();
+    addStep(quarterTurns > 0 ? tr("Rotate left") : tr("Rotate right"), {quarterTurns, {}});
 }
 
 void MainWindowController::flattenImage()
@@ -94,9 +93,12 @@ void MainWindowController::flattenImage()
     const QImage render = saveMultipleFilters(false, &reason);
     if (render.isNull())
         return openModalSheetWithText(tr("The photo cannot be flattened."), reason);
+    const QImage former = m_photo.original();
     setoriginalImage(render);
-    applyOriginalFilter();
+    removeAllFilters();
+    applyMultipleFilters();
     updateThumbnailImages();
+    addStep(tr("Flatten"), {0, former});
 }
 
 void MainWindowController::saveFilteredImage()

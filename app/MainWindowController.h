@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/DragDropImageView.h"
+#include "app/History.h"
 #include "app/LookList.h"
 #include "app/Photo.h"
 #include "app/WorkInProgress.h"
@@ -23,9 +24,9 @@ class MainWindow;
 
 /// The one controller: owns the window, the photo, the list of looks and the work in progress, and brings them
 /// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
-/// Document.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands elsewhere: the state in Photo.h,
-/// LookList.h and WorkInProgress.h, the rules in Rules.h.
-class MainWindowController : public QMainWindow, public DropDelegate, private WorkDisplay {
+/// Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands elsewhere: the state in
+/// Photo.h, LookList.h, History.h and WorkInProgress.h, the rules in Rules.h.
+class MainWindowController : public QMainWindow, public DropDelegate, private WorkDisplay, private HistoryTarget {
     Q_OBJECT
 
 public:
@@ -102,10 +103,12 @@ public slots:
     void reExpose();
     void settingChanged();
     void loadImageButtonPressed();
-    void rotateImageRight() { rotateImage(-90.0f); }
-    void rotateImageLeft() { rotateImage(90.0f); }
+    void rotateImageRight() { rotateImage(-1); }
+    void rotateImageLeft() { rotateImage(1); }
     void flattenImage();
     void saveFilteredImage();
+    void undo(); ///< takes the last step back
+    void redo();
     void openHelp();
     void openAbout();
     void applicationWillTerminate() const;
@@ -122,6 +125,7 @@ private:
     void windowDidLoad();
     void connectControls();
     void buildMenus();
+    void buildEditMenu();
     /// The photo's own work, or the display copy's: small pictures are done before a progress bar could be read.
     static bool takesLong(const QImage& image);
     int stepsOfRender() const;
@@ -135,8 +139,20 @@ private:
     void showWhatCanBeDone();
     void showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality);
     void openWaitingFile();
+    /// Renders the preview with the random numbers of the render before.
+    void renderPreview();
+    static qint64 roomForFormerPhotos(); ///< in bytes
+    Shown shownNow() const;
+    void setShown(const Shown& shown) override;
+    bool turnPhoto(int quarterTurns) override;
+    QImage exchangePhoto(const QImage& picture) override;
+    /// An action that can be taken back ends with this.
+    void addStep(const QString& name, const PhotoChange& change = {});
+    void beginHistory();
+    void travel(void (History::*step)());
+    void showHistory();
     void setCurrentFile(const QByteArray& path);
-    void rotateImage(float degrees);
+    void rotateImage(int quarterTurns); ///< counter-clockwise where positive
     int largerFrameSide() const;
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave();
@@ -145,10 +161,13 @@ private:
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown
+    QAction *m_undoAction = nullptr, *m_redoAction = nullptr; ///< owned by the menu
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 
     WorkInProgress m_work{*this};
     Photo m_photo;
+    History m_history{*this, &MainWindowController::roomForFormerPhotos};
+    unsigned m_renderSeed = 0; ///< of the random numbers that the preview drew while it was rendered
     QImage m_filtersAppliedImage; ///< the latest render
     QByteArray m_waitingFile; ///< to be opened when there is room for it; empty for none
     bool m_wasPainted = false;

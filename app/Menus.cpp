@@ -19,6 +19,8 @@ void MainWindowController::buildMenus()
     QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);
 
+    buildEditMenu();
+
     QMenu* photo = m_ui->menubar->addMenu(tr("&Photo"));
     m_photoActions << photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
     m_photoActions << photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);

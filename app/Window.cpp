@@ -46,6 +46,7 @@ void MainWindowController::awakeFromNib()
     completeNibLoading();
     loadOptions();
     connectControls();
+    beginHistory();
 }
 
 void MainWindowController::completeNibLoading()
@@ -122,8 +123,15 @@ void MainWindowController::connectControls()
     toggle(m_ui->btnMagazine, &Self::applyMagazineFilter);
     toggle(m_ui->chkMultiFilter, &Self::multiFilterToggled);
     toggle(m_ui->chkRandomness, &Self::useRandomToggled);
-    for (QComboBox* popUp : {m_ui->btnBorders, m_ui->btnCropping, m_ui->btnImgSize})
-        connect(popUp, &QComboBox::currentIndexChanged, this, &Self::settingChanged);
+    const auto choose = [this](QComboBox* popUp, const QString& step) {
+        connect(popUp, &QComboBox::currentIndexChanged, this, [this, step] {
+            settingChanged();
+            addStep(step);
+        });
+    };
+    choose(m_ui->btnBorders, tr("Border"));
+    choose(m_ui->btnCropping, tr("Crop"));
+    choose(m_ui->btnImgSize, tr("Size"));
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* lost) {
         if (lost)
             m_ui->mainImageView->setComparing(false);
@@ -169,6 +177,7 @@ void MainWindowController::windowDidResize()
         return;
     setoriginalImage(m_photo.original());
     applyMultipleFilters();
+    m_history.refresh(shownNow());
 }
 
 void MainWindowController::paintEvent(QPaintEvent* event)

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QList>
+#include <array>
+
+/// What a person has chosen beside the photo: everything that a preview depends on. A value.
+struct Choices {
+    QList<int> looks; ///< filter numbers in the order of application
+    bool multi = false; ///< looks are stacked
+    int border = 0, crop = 0, size = 0; ///< the chosen items of the pop-ups, counted from 0
+    bool varied = false; ///< looks vary with `random`
+    std::array<float, 100> random = {};
+
+    bool operator==(const Choices&) const = default;
+    /// Whether the thumbnails look different under the other choices, for the same photo.
+    bool variesUnlike(const Choices& other) const { return varied != other.varied || random != other.random; }
+};
