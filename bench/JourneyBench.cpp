@@ -107,6 +107,17 @@ void measureWindow(const QByteArray& photo)
             press * 1e3, "ms");
     }
     say(QStringLiteral("geometric mean of the looks"), std::exp(logs / looks.numThings) * 1e3, "ms");
+    const double undo = leastOf(pressRounds, [&] {
+        window.applyOriginalFilter();
+        window.pressFilterButton(CharImage::getFilterFromName("Helga"));
+        window.pressFilterButton(CharImage::getFilterFromName("Mono"));
+        paint();
+        return secondsOf([&] {
+            window.undo();
+            paint();
+        });
+    });
+    say(QStringLiteral("undo to the painted preview: Helga"), undo * 1e3, "ms");
     say(QStringLiteral("ten thumbnails, painted"),
         1e3
             * leastOf(rounds,
