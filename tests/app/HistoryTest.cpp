@@ -3,6 +3,7 @@
 #include "app/LookList.h"
 #include "app/Photo.h"
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 #include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
 
@@ -67,7 +68,8 @@ public:
     /// What a preview of it shows.
     QImage render()
     {
-        constexpr int borders[] = {14, 26, 29, 4}, crops[] = {14, 21, 23};
+        constexpr int borders[] = {Filter::original, Filter::thin, Filter::rounded, Filter::instant};
+        constexpr int crops[] = {Filter::original, Filter::square, Filter::crop6x4};
         std::ranges::copy(shown.choices.random, CharImage::random);
         CharImage::useRandom = shown.choices.varied ? 1 : 0;
         std::srand(shown.seed);
@@ -132,7 +134,7 @@ private slots:
     void aRenderBetweenStepsIsWhatUndoBringsBack()
     {
         Model model;
-        model.press(17);
+        model.press(Filter::lightleak);
         model.shown.seed = 7; // rendered anew
         model.history.refresh(model.shown);
         model.shown.seed = 8;

@@ -1,6 +1,7 @@
 #include "tests/app/Desk.h"
 
 #include "image/CharImage.h"
+#include "image/FilterNumber.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -58,7 +59,7 @@ private slots:
         using Step = std::function<void(UndoDesk&)>;
         const auto row = [](const char* name, const Step& step) { QTest::newRow(name) << QString(name) << step; };
         row("Mono", [](UndoDesk& desk) { desk.click("btnMono"); });
-        row("Lightleak", [](UndoDesk& desk) { desk.window.pressFilterButton(17); });
+        row("Lightleak", [](UndoDesk& desk) { desk.window.pressFilterButton(Filter::lightleak); });
         row("Original", [](UndoDesk& desk) { desk.click("btnOriginal"); });
         row("Multiple looks", [](UndoDesk& desk) { desk.click("chkMultiFilter"); });
         row("Border", [](UndoDesk& desk) { desk.choose("btnBorders", "Thin"); });
@@ -132,8 +133,8 @@ private slots:
     {
         UndoDesk desk(makePhoto(60, 40));
         desk.click("btnReExpose");
-        desk.window.pressFilterButton(0); // Colorcross says so each time that it is rendered
-        const QByteArray printed = printedBy([&] { desk.window.pressFilterButton(5); });
+        desk.window.pressFilterButton(Filter::colorcross); // Colorcross says so each time that it is rendered
+        const QByteArray printed = printedBy([&] { desk.window.pressFilterButton(Filter::mono); });
         QVERIFY(!printed.contains("powers"));
         QCOMPARE(printedBy([&] { desk.undo(); }).count("powers"), 1);
     }
