@@ -72,7 +72,6 @@ std::optional<Header> headerOf(QIODevice* device)
 struct Sections {
     QByteArray palette; ///< 256 reds, greens and blues of an indexed picture
     QByteArray profile;
-    bool firstExtraIsAlpha = false; ///< otherwise the channels beyond the colours are kept selections
 };
 
 /// The colour profile among the resources, which end at `end`; empty where there is none.
@@ -115,13 +114,7 @@ std::optional<Sections> readSections(QIODevice& device, const Header& header)
     const qint64 layers = header.big ? readNumber<qint64>(device) : qint64(readNumber<quint32>(device));
     if (!fits(layers))
         return {};
-    const qint64 after = device.pos() + layers;
-    const int sizeBytes = header.big ? 8 : 4;
-    if (layers >= sizeBytes + 2) {
-        device.skip(sizeBytes);
-        sections.firstExtraIsAlpha = readNumber<qint16>(device) < 0;
-    }
-    return device.seek(after) ? std::optional(sections) : std::nullopt;
+    return device.seek(device.pos() + layers) ? std::optional(sections) : std::nullopt;
 }
 
 /// Gives the rows of the picture's channels one after the other.
@@ -286,25 +279,22 @@ bool PsdHandler::read(QImage* image)
     if (picture.isNull())
         return false;
     picture.fill(Qt::white);
-    const bool hasAlpha = sections->firstExtraIsAlpha && header->colours() < 4 && header->channels > header->colours();
-    const int wanted = header->colours() + (hasAlpha ? 1 : 0);
     QByteArray row;
     std::vector<quint16> samples(std::size_t(header->width));
-    for (int channel = 0; channel < wanted; channel++) {
-        const int to = channel < header->colours() ? channel : 3;
+    // The channels beyond the colours are kept selections, or the transparency of a picture that stands on white
+    // already.
+    for (int channel = 0; channel < header->colours(); channel++)
         for (int y = 0; y < header->height; y++) {
             if (!rows.next(row))
                 return false;
             widen(row, *header, samples);
             if (header->isDeep())
-                store<quint16>(samples, picture.scanLine(y), to, header->isGrey());
+                store<quint16>(samples, picture.scanLine(y), channel, header->isGrey());
             else
-                store<uchar>(samples, picture.scanLine(y), to, header->isGrey());
+                store<uchar>(samples, picture.scanLine(y), channel, header->isGrey());
         }
-    }
     finish(picture, *header, *sections);
-    if (!hasAlpha)
-        picture.reinterpretAsFormat(header->isDeep() ? QImage::Format_RGBX64 : QImage::Format_RGBX8888);
+    picture.reinterpretAsFormat(header->isDeep() ? QImage::Format_RGBX64 : QImage::Format_RGBX8888);
     *image = picture;
     return true;
 }

@@ -18,7 +18,7 @@ enum Mode { bitmap = 0, grey = 1, indexed = 2, rgb = 3, cmyk = 4, multichannel =
 struct Kind {
     int mode, bits, channels;
     bool big = false, runLength = false;
-    int layers = 0; ///< below 0: the first channel beyond the colours is the picture's alpha
+    int layers = 0; ///< below 0: the first channel beyond the colours is the picture's transparency
     QByteArray palette = {}, profile = {};
 };
 
@@ -194,19 +194,25 @@ private slots:
         QVERIFY(colour.red() > 250 && colour.green() < 8 && colour.blue() < 8);
     }
 
-    void alphaIsLaidOnWhiteAndSelectionsAreNot()
+    void theMergedColoursStandOnWhiteAlready_data()
     {
-        Kind kind = {.mode = rgb, .bits = 8, .channels = 4};
-        compare(open(psd(kind, ramps)), rampColour);
-        kind.layers = -1;
-        for (int bits : {8, 16}) {
-            kind.bits = bits;
-            const QColor colour = open(psd(kind, ramps)).image.pixelColor(8, 0);
-            QCOMPARE(colour, QColor(255, 204, 204));
-        }
-        kind = {.mode = grey, .bits = 8, .channels = 2, .layers = -2};
-        QCOMPARE(open(psd(kind, [](int c, int, int) { return c == 0 ? 0.0f : 0.2f; })).image.pixelColor(0, 0),
-            QColor(204, 204, 204));
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("bits");
+        for (int bits : {8, 16, 32})
+            for (int mode : {grey, rgb})
+                QTest::addRow("%s, %d bits", mode == grey ? "grey" : "colours", bits) << mode << bits;
+    }
+    void theMergedColoursStandOnWhiteAlready()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, bits);
+        Kind kind = {.mode = mode, .bits = bits, .channels = mode == grey ? 1 : 3};
+        const QImage without = open(psd(kind, ramps)).image;
+        QVERIFY(!without.isNull());
+        kind.channels++;
+        QCOMPARE(open(psd(kind, ramps)).image, without); // the last channel is a kept selection
+        kind.layers = -1; // the picture's transparency
+        QCOMPARE(open(psd(kind, ramps)).image, without);
     }
 
     void aProfileIsConverted()
