@@ -45,7 +45,7 @@ std::optional<Header> parse(const QByteArray& bytes)
         word(14), b[16], b[17] & 15, (b[17] & 16) != 0, (b[17] & 32) != 0};
     const bool mapFits = header.hasMap ? isColourDepth(header.mapBits) && header.mapLength > 0 : !header.mapped;
     const bool depthFits = header.mapped ? header.bits == 8 || header.bits == 16
-        : header.grey                    ? header.bits == 8
+        : header.grey                    ? header.bits == 8 || header.bits == 16 // with alpha
                                          : isColourDepth(header.bits);
     // The two highest bits once meant interleaved rows, which nobody wrote.
     if (!known || !mapFits || !depthFits || header.width == 0 || header.height == 0 || (b[17] & 192) != 0)
@@ -146,7 +146,9 @@ private:
     {
         if (m_header.mapped)
             return m_map.at(m_header.bits == 8 ? b[0] : qFromLittleEndian<quint16>(b));
-        return m_header.grey ? Pixel{b[0], b[0], b[0], 255} : colourAt(b, m_header.bits);
+        if (m_header.grey)
+            return {b[0], b[0], b[0], m_header.bits == 16 ? b[1] : static_cast<unsigned char>(255)};
+        return colourAt(b, m_header.bits);
     }
 
     const Header& m_header;

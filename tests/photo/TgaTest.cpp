@@ -45,7 +45,9 @@ QByteArray pixel(QRgb c, const Kind& kind)
         const int index = int(palette().indexOf(c)) + kind.mapFirst;
         return kind.bits == 8 ? QByteArray(1, char(index)) : word(index);
     }
-    return kind.type % 8 == 3 ? QByteArray(1, char(qGray(c))) : colour(c, kind.bits, kind.alpha);
+    if (kind.type % 8 == 3)
+        return QByteArray(1, char(qGray(c))) + QByteArray(kind.bits / 8 - 1, char(kind.alpha));
+    return colour(c, kind.bits, kind.alpha);
 }
 
 /// Runs that also reach over the ends of rows, as the older writers had them.
@@ -76,7 +78,7 @@ QByteArray tga(const Kind& kind)
     file += char(kind.alphaBits | (kind.fromRight ? 16 : 0) | (kind.fromTop ? 32 : 0));
     file += "text";
     for (QRgb c : mapped ? palette() : QList<QRgb>())
-        file += colour(c, kind.mapBits, 255);
+        file += colour(c, kind.mapBits, kind.alpha);
     QByteArrayList pixels;
     for (int y = 0; y < height; y++)
         for (int x = 0; x < width; x++)
@@ -115,7 +117,8 @@ private slots:
                         << 1 + runLength << bits << mapBits;
             for (int bits : {15, 16, 24, 32})
                 QTest::addRow("colour %d, %d bits", runLength, bits) << 2 + runLength << bits << 0;
-            QTest::addRow("grey %d", runLength) << 3 + runLength << 8 << 0;
+            for (int bits : {8, 16})
+                QTest::addRow("grey %d, %d bits", runLength, bits) << 3 + runLength << bits << 0;
         }
     }
 
@@ -158,6 +161,25 @@ private slots:
         QCOMPARE(topLeft(kind, -1), 0xffffcccc);
         kind.alphaBits = 0;
         QCOMPARE(topLeft(kind, -1), 0xffff0000);
+    }
+
+    void greyHasAlphaInItsSecondByte()
+    {
+        const int grey = qGray(picture[0][0]), onWhite = (grey * 51 + 255 * 204 + 127) / 255;
+        Kind kind = {.type = 3, .bits = 16, .fromTop = true, .alphaBits = 8, .alpha = 51};
+        QCOMPARE(open(tga(kind)).image.pixel(0, 0), qRgb(onWhite, onWhite, onWhite));
+        kind.alphaBits = 0;
+        QCOMPARE(open(tga(kind)).image.pixel(0, 0), qRgb(grey, grey, grey));
+    }
+
+    void aMapOfFourBytesHasAlphaWhereTheHeaderSaysSo()
+    {
+        Kind kind = {.type = 1, .bits = 8, .fromTop = true, .mapBits = 32, .alpha = 0};
+        QCOMPARE(open(tga(kind)).image.pixel(0, 0), 0xffff0000);
+        kind.alpha = 51;
+        QCOMPARE(open(tga(kind)).image.pixel(0, 0), 0xffff0000);
+        kind.alphaBits = 8;
+        QCOMPARE(open(tga(kind)).image.pixel(0, 0), 0xffffcccc);
     }
 
     void aMapMayStandUnusedOrBeTooSmall()
