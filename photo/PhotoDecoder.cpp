@@ -5,27 +5,16 @@
 #include "photo/FreeMemory.h"
 #include "photo/JpegMarkers.h"
 #include "photo/OnWhite.h"
+#include "photo/formats/OwnFormats.h"
 #include "photo/formats/PngColourKey.h"
-#include "photo/formats/PsdHandler.h"
-#include "photo/formats/TgaHandler.h"
+#include "photo/formats/UnsupportedKind.h"
 
 #include <QImageIOHandler>
 #include <QImageReader>
 #include <algorithm>
-#include <memory>
 #include <new>
 
 namespace {
-
-/// The reader of this project that takes the file, to be asked before the platform's; null when none does.
-std::unique_ptr<QImageIOHandler> ownHandler(QIODevice& file)
-{
-    if (PsdHandler::canRead(file))
-        return std::make_unique<PsdHandler>();
-    if (TgaHandler::canRead(file))
-        return std::make_unique<TgaHandler>();
-    return nullptr;
-}
 
 int bytesPerPixel(QImage::Format format)
 {
@@ -49,7 +38,8 @@ QString sizeRefusal(const QSize& size, int bytesPerPixel, qint64 memory)
 /// file claims, and a drawing may take any time to be rendered.
 bool isForPhotos(const QByteArray& format)
 {
-    return format != "icns" && format != "svg" && format != "svgz" && format != "pdf";
+    constexpr const char* others[] = {"icns", "ico", "cur", "svg", "svgz", "pdf"};
+    return std::none_of(std::begin(others), std::end(others), [&](const char* other) { return format == other; });
 }
 
 QString decodeByOwn(QImageIOHandler& handler, qint64 memory, QImage& image)
@@ -78,15 +68,21 @@ QString decodeByPlatform(QIODevice& file, qint64 memory, QImage& image)
         if (!refusal.isEmpty())
             return refusal;
     }
-    return readEveryPixel(reader, image) ? QString() : QStringLiteral("The picture is damaged and cannot be read.");
+    if (readEveryPixel(reader, image))
+        return {};
+    return isUnsupportedKind(file) ? QStringLiteral("The picture is of a kind that is not supported.")
+                                   : QStringLiteral("The picture is damaged and cannot be read.");
 }
 
 /// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
 QString decode(QIODevice& file, qint64 memory, QImage& image)
 {
-    if (const auto handler = ownHandler(file)) {
-        handler->setDevice(&file);
-        return decodeByOwn(*handler, memory, image);
+    const OwnFormat own = ownFormat(file);
+    if (!own.reason.isEmpty())
+        return own.reason;
+    if (own.handler) {
+        own.handler->setDevice(&file);
+        return decodeByOwn(*own.handler, memory, image);
     }
     if (const auto key = findPngColourKey(file)) {
         PngWithoutKey png(file, *key);

@@ -114,7 +114,7 @@ private slots:
     void planesThatTheDecoderDoesNotKnowAreRefused()
     {
         const LoadedPhoto photo = samples::loaded(m_folder, planarTiff(16));
-        QCOMPARE(photo.reason, "The picture is damaged and cannot be read.");
+        QCOMPARE(photo.reason, "The picture is of a kind that is not supported.");
     }
 
     void planesAreRead()

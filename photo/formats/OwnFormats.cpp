@@ -1,0 +1,75 @@
+#include "photo/formats/OwnFormats.h"
+
+#include "photo/formats/PsdHandler.h"
+#include "photo/formats/Signatures.h"
+#include "photo/formats/TgaHandler.h"
+
+#ifdef LUMORA_HEIF
+#include "photo/formats/heif/HeifHandler.h"
+#endif
+#ifdef LUMORA_JXL
+#include "photo/formats/jxl/JxlHandler.h"
+#endif
+#ifdef LUMORA_RAW
+#include "photo/formats/raw/RawHandler.h"
+#endif
+
+#include <QIODevice>
+
+namespace {
+
+[[maybe_unused]] OwnFormat missing(const QString& format, const QString& library)
+{
+    return {
+        nullptr, QStringLiteral("It is %1. This Lumora was built without %2, which reads them.").arg(format, library)};
+}
+
+OwnFormat heif()
+{
+#ifdef LUMORA_HEIF
+    return {std::make_unique<HeifHandler>(), {}};
+#else
+    return missing(QStringLiteral("a HEIC or AVIF photo"), QStringLiteral("libheif"));
+#endif
+}
+
+OwnFormat jxl()
+{
+#ifdef LUMORA_JXL
+    return {std::make_unique<JxlHandler>(), {}};
+#else
+    return missing(QStringLiteral("a JPEG XL photo"), QStringLiteral("libjxl"));
+#endif
+}
+
+OwnFormat raw()
+{
+#ifdef LUMORA_RAW
+    return {std::make_unique<RawHandler>(), {}};
+#else
+    return missing(QStringLiteral("a camera's raw photo"), QStringLiteral("LibRaw"));
+#endif
+}
+
+} // namespace
+
+OwnFormat ownFormat(QIODevice& file)
+{
+    const Signature signature = signatureOf(file);
+    file.seek(0);
+    switch (signature) {
+    case Signature::Heif:
+        return heif();
+    case Signature::Jxl:
+        return jxl();
+    case Signature::Raw:
+        return raw();
+    case Signature::Other:
+        break;
+    }
+    if (PsdHandler::canRead(file))
+        return {std::make_unique<PsdHandler>(), {}};
+    if (TgaHandler::canRead(file))
+        return {std::make_unique<TgaHandler>(), {}};
+    return {};
+}

@@ -1,0 +1,124 @@
+#include "photo/formats/jxl/JxlHandler.h"
+
+#include <QColorSpace>
+#include <QImage>
+#include <QVariant>
+#include <jxl/decode.h>
+#include <memory>
+#include <optional>
+
+namespace {
+
+constexpr JxlPixelFormat pixelFormat = {4, JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0};
+
+struct FreeDecoder {
+    void operator()(JxlDecoder* decoder) const { JxlDecoderDestroy(decoder); }
+};
+using Decoder = std::unique_ptr<JxlDecoder, FreeDecoder>;
+
+/// A decoder of the file that stops at those events. It has no runner, and so no threads.
+Decoder decoderOf(const QByteArray& file, int events)
+{
+    Decoder decoder(JxlDecoderCreate(nullptr));
+    if (!decoder || JxlDecoderSubscribeEvents(decoder.get(), events) != JXL_DEC_SUCCESS
+        || JxlDecoderSetInput(
+               decoder.get(), reinterpret_cast<const std::uint8_t*>(file.constData()), std::size_t(file.size()))
+            != JXL_DEC_SUCCESS)
+        return nullptr;
+    JxlDecoderCloseInput(decoder.get());
+    return decoder;
+}
+
+std::optional<JxlBasicInfo> infoOf(const QByteArray& file)
+{
+    const Decoder decoder = decoderOf(file, JXL_DEC_BASIC_INFO);
+    JxlBasicInfo info;
+    if (!decoder || JxlDecoderProcessInput(decoder.get()) != JXL_DEC_BASIC_INFO
+        || JxlDecoderGetBasicInfo(decoder.get(), &info) != JXL_DEC_SUCCESS || info.xsize > 0x7fffffff
+        || info.ysize > 0x7fffffff)
+        return {};
+    return info;
+}
+
+QColorSpace coloursOf(const JxlDecoder* decoder)
+{
+    std::size_t size = 0;
+    if (JxlDecoderGetICCProfileSize(decoder, &pixelFormat, JXL_COLOR_PROFILE_TARGET_DATA, &size) != JXL_DEC_SUCCESS)
+        return {};
+    QByteArray profile(qsizetype(size), '\0');
+    const bool told = JxlDecoderGetColorAsICCProfile(decoder, &pixelFormat, JXL_COLOR_PROFILE_TARGET_DATA,
+                          reinterpret_cast<std::uint8_t*>(profile.data()), size)
+        == JXL_DEC_SUCCESS;
+    return told ? QColorSpace::fromIccProfile(profile) : QColorSpace();
+}
+
+QImage::Format formatOf(const JxlBasicInfo& info)
+{
+    if (info.alpha_bits == 0)
+        return QImage::Format_RGBX8888;
+    return info.alpha_premultiplied ? QImage::Format_RGBA8888_Premultiplied : QImage::Format_RGBA8888;
+}
+
+/// Goes on to the end of the first frame, whose pixels become those of `picture`. False where it is not whole.
+bool decode(JxlDecoder* decoder, QImage& picture)
+{
+    QColorSpace colours;
+    for (;;) {
+        switch (JxlDecoderProcessInput(decoder)) {
+        case JXL_DEC_COLOR_ENCODING:
+            colours = coloursOf(decoder);
+            break;
+        case JXL_DEC_NEED_IMAGE_OUT_BUFFER: {
+            std::size_t size = 0;
+            if (JxlDecoderImageOutBufferSize(decoder, &pixelFormat, &size) != JXL_DEC_SUCCESS
+                || size != std::size_t(picture.sizeInBytes())
+                || JxlDecoderSetImageOutBuffer(decoder, &pixelFormat, picture.bits(), size) != JXL_DEC_SUCCESS)
+                return false;
+            break;
+        }
+        case JXL_DEC_FULL_IMAGE:
+            picture.setColorSpace(colours);
+            return true;
+        default:
+            return false;
+        }
+    }
+}
+
+} // namespace
+
+QByteArray JxlHandler::bytes() const
+{
+    if (m_bytes.isEmpty() && device())
+        m_bytes = device()->readAll();
+    return m_bytes;
+}
+
+bool JxlHandler::canRead() const
+{
+    return infoOf(bytes()).has_value();
+}
+
+QVariant JxlHandler::option(ImageOption option) const
+{
+    const auto info = infoOf(bytes());
+    if (!info)
+        return {};
+    if (option == Size)
+        return QSize(int(info->xsize), int(info->ysize));
+    // What the decoder itself works in is larger than what comes out.
+    return option == ImageFormat ? QVariant(QImage::Format_RGBA32FPx4) : QVariant();
+}
+
+bool JxlHandler::read(QImage* image)
+{
+    const auto info = infoOf(bytes());
+    if (!info)
+        return false;
+    QImage picture(int(info->xsize), int(info->ysize), formatOf(*info));
+    const Decoder decoder = decoderOf(bytes(), JXL_DEC_COLOR_ENCODING | JXL_DEC_FULL_IMAGE);
+    if (picture.isNull() || !decoder || !decode(decoder.get(), picture))
+        return false;
+    *image = picture;
+    return true;
+}

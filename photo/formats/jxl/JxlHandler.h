@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QImageIOHandler>
+
+/// Reads the first frame of JPEG XL files, upright and with its colour profile. Works on the caller's thread.
+class JxlHandler : public QImageIOHandler {
+public:
+    bool canRead() const override;
+    bool read(QImage* image) override;
+    bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
+    QVariant option(ImageOption option) const override;
+
+private:
+    QByteArray bytes() const;
+
+    mutable QByteArray m_bytes; ///< the file, read once
+};

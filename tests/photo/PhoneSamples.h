@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QImage>
+
+/// Files as phones and cameras write them, made by the libraries themselves. Empty where this program is built without
+/// the library.
+namespace samples {
+
+enum class HeifKind { Hevc, Av1 };
+/// `orientation`: as in EXIF, how a viewer turns the stored picture. The picture's colour profile is kept.
+QByteArray heif(const QImage& stored, HeifKind kind, int orientation = 1);
+
+/// Without loss.
+QByteArray jxl(const QImage& stored, int orientation = 1);
+
+/// A DNG file: a sensor of red, green, green and blue pixels with 16 bits that saw one colour all over. `seen`: what
+/// they say of red, green and blue, on 0 .. 1. `neutral`: what they say of a grey that is as bright as can be.
+QByteArray dng(QSize size, const QList<double>& seen, const QList<double>& neutral, int orientation = 1);
+
+} // namespace samples
