@@ -4,8 +4,20 @@
 
 namespace {
 
-constexpr int startOfImage = 0xD8, endOfImage = 0xD9, startOfScan = 0xDA, app1 = 0xE1;
-constexpr char exifHeading[6] = {'E', 'x', 'i', 'f', 0, 0};
+constexpr int startOfImage = 0xD8, endOfImage = 0xD9, startOfScan = 0xDA, app1 = 0xE1, app13 = 0xED, comment = 0xFE;
+constexpr char exifHeading[] = "Exif\0", xmpHeading[] = "http://ns.adobe.com/xap/1.0/",
+               resourceHeading[] = "Photoshop 3.0";
+constexpr qsizetype longestResources = 4'000'000; ///< bytes
+
+/// Takes what follows the heading, which includes its final zero, unless there is something already.
+template <std::size_t length> bool take(QByteArray& block, const QByteArray& payload, const char (&heading)[length])
+{
+    if (!payload.startsWith(QByteArrayView(heading, length)))
+        return false;
+    if (block.isEmpty())
+        block = payload.mid(length);
+    return true;
+}
 
 /// Reads up to the next marker, over the coded picture with its zero-stuffed bytes and restart markers, and gives its
 /// code; -1 at the end of the file.
@@ -49,8 +61,14 @@ JpegMarkers readJpegMarkers(QIODevice& device)
         const QByteArray payload = device.read(length);
         if (marker == startOfScan)
             found.scans++;
-        else if (marker == app1 && found.exif.isEmpty() && payload.startsWith(QByteArrayView(exifHeading, 6)))
-            found.exif = payload.mid(6);
+        else if (marker == app1)
+            take(found.exif, payload, exifHeading) || take(found.xmp, payload, xmpHeading);
+        else if (marker == app13 && found.resources.size() < longestResources) {
+            QByteArray part;
+            take(part, payload, resourceHeading);
+            found.resources += part; // they go on in the next segment
+        } else if (marker == comment && found.comment.isEmpty())
+            found.comment = payload;
     }
     return found;
 }

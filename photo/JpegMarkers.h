@@ -7,6 +7,9 @@ class QIODevice;
 /// What stands between the pictures of a JPEG file.
 struct JpegMarkers {
     QByteArray exif; ///< the EXIF block without its "Exif" heading; empty where there is none
+    QByteArray xmp; ///< the XMP packet, without what continues it elsewhere
+    QByteArray resources; ///< Photoshop's image resources, of all segments
+    QByteArray comment; ///< the first one
     int scans = 0; ///< the passes in which the picture is stored
 };
 

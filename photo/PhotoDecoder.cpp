@@ -8,6 +8,7 @@
 #include "photo/formats/OwnFormats.h"
 #include "photo/formats/PngColourKey.h"
 #include "photo/formats/UnsupportedKind.h"
+#include "photo/metadata/MetadataReader.h"
 
 #include <QImageIOHandler>
 #include <QImageReader>
@@ -101,7 +102,7 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
     const JpegMarkers markers = readJpegMarkers(file);
     if (markers.scans > maxJpegScans)
         return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
-    photo.metadata.exif = markers.exif;
+    photo.metadata = readMetadata(file, markers);
     file.seek(0);
     QImage image;
     const QString reason = decode(file, memory, image);

@@ -1,19 +1,20 @@
 #include "photo/PhotoSaver.h"
 
-#include "photo/KeptExif.h"
+#include "photo/metadata/JpegMetadata.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageWriter>
 
-QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata)
+QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata, Kept kept)
 {
-    QImage marked = image;
-    if (marked.colorSpace() != QColorSpace(QColorSpace::SRgb))
-        marked.setColorSpace(QColorSpace::SRgb);
+    // The same pixels without the texts of a picture, which the encoder would write as comments.
+    QImage marked(image.constBits(), image.width(), image.height(), image.bytesPerLine(), image.format());
+    marked.setColorTable(image.colorTable());
+    marked.setColorSpace(QColorSpace::SRgb);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     if (!QImageWriter(&buffer, "jpeg").write(marked))
         return {};
-    return metadata.exif.isEmpty() ? buffer.data() : withExif(buffer.data(), metadata.exif, image.size());
+    return withMetadata(buffer.data(), metadata, image.size(), kept);
 }

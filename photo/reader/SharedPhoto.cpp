@@ -13,12 +13,12 @@ constexpr int seals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
 /// What the photo carries beside its picture, as blocks and back.
 QList<QByteArray> blocksOf(const LoadedPhoto& photo)
 {
-    return {photo.metadata.exif};
+    return {photo.metadata.exif, photo.metadata.xmp, photo.metadata.iptc, photo.metadata.comment};
 }
 
 void setBlocks(LoadedPhoto& photo, const QList<QByteArray>& blocks)
 {
-    photo.metadata.exif = blocks.value(0);
+    photo.metadata = {blocks.value(0), blocks.value(1), blocks.value(2), blocks.value(3)};
 }
 
 bool writeAll(int file, const void* data, qint64 size)

@@ -1,0 +1,150 @@
+#include "photo/metadata/MetadataReader.h"
+
+#include "photo/JpegMarkers.h"
+#include "photo/metadata/ExifBlock.h"
+#include "photo/metadata/FittingExif.h"
+
+#include <QBuffer>
+#include <QIODevice>
+#include <QtEndian>
+#include <exception>
+#include <exiv2/exiv2.hpp>
+
+namespace {
+
+constexpr qint64 longestBlock = 4'000'000; ///< bytes; longer ones are not kept
+constexpr int mostChunks = 100'000;
+
+const Exiv2::byte* bytesOf(const QByteArray& data)
+{
+    return reinterpret_cast<const Exiv2::byte*>(data.constData());
+}
+
+/// The IPTC records among Photoshop's image resources.
+QByteArray iptcOf(const QByteArray& resources)
+{
+    const Exiv2::byte* record = nullptr;
+    std::uint32_t heading = 0, size = 0;
+    if (Exiv2::Photoshop::locateIptcIrb(bytesOf(resources), long(resources.size()), &record, &heading, &size) != 0)
+        return {};
+    return QByteArray(reinterpret_cast<const char*>(record) + heading, qsizetype(size));
+}
+
+/// An EXIF block with or without its heading.
+QByteArray exifBlock(QByteArray block)
+{
+    if (block.startsWith(QByteArray("Exif\0\0", 6)))
+        block.remove(0, 6);
+    QBuffer buffer(&block);
+    buffer.open(QIODevice::ReadOnly);
+    return exifOf(buffer);
+}
+
+PhotoMetadata ofJpeg(const JpegMarkers& markers)
+{
+    return {markers.exif, markers.xmp, iptcOf(markers.resources), markers.comment};
+}
+
+PhotoMetadata ofWebP(QIODevice& device)
+{
+    PhotoMetadata metadata;
+    qint64 at = 12;
+    for (int chunk = 0; chunk < mostChunks && device.seek(at); chunk++) {
+        const QByteArray heading = device.read(8);
+        if (heading.size() < 8)
+            break;
+        const qint64 size = qFromLittleEndian<quint32>(heading.constData() + 4);
+        const QByteArray name = heading.left(4);
+        if (name == "EXIF" && size <= longestBlock)
+            metadata.exif = exifBlock(device.read(size));
+        else if (name == "XMP " && size <= longestBlock)
+            metadata.xmp = device.read(size);
+        at += 8 + size + size % 2;
+    }
+    return metadata;
+}
+
+/// The texts of a PNG file as a PNG file of their own, for the library, which would read the picture too. The EXIF
+/// block and the comment, which it would not give as they are, go to `metadata`.
+QByteArray withoutPicture(QIODevice& device, PhotoMetadata& metadata)
+{
+    QByteArray file = device.read(8);
+    qint64 at = 8;
+    for (int chunk = 0; chunk < mostChunks && device.seek(at); chunk++) {
+        const QByteArray heading = device.read(8);
+        if (heading.size() < 8)
+            break;
+        const qint64 size = qFromBigEndian<quint32>(heading.constData());
+        const QByteArray name = heading.mid(4);
+        if (name == "eXIf" && size <= longestBlock)
+            metadata.exif = exifBlock(device.read(size));
+        else if (size <= longestBlock && file.size() < 4 * longestBlock
+            && (name == "IHDR" || name == "tEXt" || name == "zTXt" || name == "iTXt" || name == "IEND")) {
+            const QByteArray data = device.read(size + 4);
+            file += heading + data;
+            if (name == "tEXt" && data.startsWith(QByteArray("Comment\0", 8)))
+                metadata.comment = data.mid(8, size - 8);
+        }
+        at += 12 + size;
+    }
+    return file;
+}
+
+PhotoMetadata ofPng(QIODevice& device)
+{
+    PhotoMetadata metadata;
+    const QByteArray file = withoutPicture(device, metadata);
+    const auto image = Exiv2::ImageFactory::open(bytesOf(file), long(file.size()));
+    image->readMetadata();
+    metadata.xmp = QByteArray::fromStdString(image->xmpPacket());
+    if (metadata.comment.isEmpty())
+        metadata.comment = QByteArray::fromStdString(image->comment());
+    const Exiv2::DataBuf iptc = Exiv2::IptcParser::encode(image->iptcData());
+    metadata.iptc = QByteArray(reinterpret_cast<const char*>(iptc.pData_), qsizetype(iptc.size_));
+    if (metadata.exif.isEmpty() && !image->exifData().empty()) {
+        // Written anew, a maker's note would not stand where it was.
+        Exiv2::ExifData& entries = image->exifData();
+        for (auto entry = entries.begin(); entry != entries.end();)
+            entry = entry->key() == "Exif.Photo.MakerNote" || Exiv2::ExifTags::isMakerGroup(entry->groupName())
+                ? entries.erase(entry)
+                : std::next(entry);
+        Exiv2::Blob blob;
+        Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, entries);
+        metadata.exif = exifBlock(QByteArray(reinterpret_cast<const char*>(blob.data()), qsizetype(blob.size())));
+    }
+    return metadata;
+}
+
+PhotoMetadata ofTiff(QIODevice& device)
+{
+    PhotoMetadata metadata;
+    ExifBlock block = readExifBlock(device);
+    for (const quint16 size : {0x0100, 0x0101}) // of the picture as it is stored, which in a JPEG another place tells
+        ExifBlock::remove(block.image, size);
+    metadata.exif = toBytes(block);
+    metadata.xmp = blockOfTiff(device, 0x02BC, longestBlock);
+    metadata.iptc = blockOfTiff(device, 0x83BB, longestBlock);
+    if (metadata.iptc.isEmpty())
+        metadata.iptc = iptcOf(blockOfTiff(device, 0x8649, longestBlock));
+    return metadata;
+}
+
+} // namespace
+
+PhotoMetadata readMetadata(QIODevice& device, const JpegMarkers& markers)
+{
+    try {
+        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        device.seek(0);
+        const QByteArray start = device.peek(12);
+        if (start.startsWith("\xFF\xD8"))
+            return ofJpeg(markers);
+        if (start.startsWith("\x89PNG\r\n\x1A\n"))
+            return ofPng(device);
+        if (start.startsWith("RIFF") && start.endsWith("WEBP"))
+            return ofWebP(device);
+        return ofTiff(device);
+    } catch (const std::exception&) {
+        return {};
+    }
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "photo/PhotoMetadata.h"
+
+struct JpegMarkers;
+class QIODevice;
+
+/// What the JPEG, PNG, WebP or TIFF file at the device's beginning carries; nothing of another kind of file. `markers`
+/// are the file's, if it is a JPEG. Broken parts are passed over. The device's position is left anywhere.
+PhotoMetadata readMetadata(QIODevice& device, const JpegMarkers& markers);

@@ -1,0 +1,331 @@
+#include "photo/PhotoLoader.h"
+#include "photo/PhotoSaver.h"
+#include "tests/photo/Samples.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <exiv2/exiv2.hpp>
+#include <random>
+
+namespace {
+
+using Image = Exiv2::Image::AutoPtr;
+
+/// A copy of the file's bytes.
+Image opened(const QByteArray& file)
+{
+    Exiv2::BasicIo::AutoPtr copy(new Exiv2::MemIo);
+    copy->write(reinterpret_cast<const Exiv2::byte*>(file.constData()), long(file.size()));
+    Image image = Exiv2::ImageFactory::open(copy);
+    image->readMetadata();
+    return image;
+}
+
+QByteArray written(Image& image)
+{
+    image->writeMetadata();
+    Exiv2::BasicIo& io = image->io();
+    return QByteArray(reinterpret_cast<const char*>(io.mmap()), qsizetype(io.size()));
+}
+
+/// The value under a key of any of the three kinds; "none" without one.
+std::string value(const Image& image, const std::string& key)
+{
+    const auto found = [](const auto& data, const auto& dataKey) {
+        const auto entry = data.findKey(dataKey);
+        return entry == data.end() ? std::string("none") : entry->toString();
+    };
+    if (key.starts_with("Exif."))
+        return found(image->exifData(), Exiv2::ExifKey(key));
+    if (key.starts_with("Xmp."))
+        return found(image->xmpData(), Exiv2::XmpKey(key));
+    return found(image->iptcData(), Exiv2::IptcKey(key));
+}
+
+const std::pair<const char*, const char*> values[] = {
+    {"Exif.Image.Make", "Canon"},
+    {"Exif.Image.Copyright", "A. Person"},
+    {"Exif.Photo.DateTimeOriginal", "2021:06:05 04:03:02"},
+    {"Xmp.dc.title", "lang=\"x-default\" A title"},
+    {"Xmp.xmp.Rating", "4"},
+    {"Xmp.dc.rights", "lang=\"x-default\" All rights"},
+    {"Iptc.Application2.Caption", "A caption"},
+    {"Iptc.Application2.Keywords", "one"},
+};
+
+const std::pair<const char*, const char*> places[] = {
+    {"Exif.GPSInfo.GPSLatitudeRef", "N"},
+    {"Exif.GPSInfo.GPSLatitude", "52/1 30/1 0/1"},
+    {"Xmp.exif.GPSLatitude", "52,30.0N"},
+    {"Xmp.photoshop.City", "Berlin"},
+    {"Xmp.photoshop.Country", "Germany"},
+    {"Xmp.iptc.Location", "Zoo"},
+    {"Iptc.Application2.City", "Berlin"},
+    {"Iptc.Application2.SubLocation", "Zoo"},
+    {"Iptc.Application2.CountryName", "Germany"},
+};
+
+bool canHold(const QByteArray& format, const std::string& key)
+{
+    return format != "webp" || !key.starts_with("Iptc.");
+}
+
+void set(Image& image, const std::string& key, const std::string& text)
+{
+    if (key.starts_with("Exif."))
+        image->exifData()[key] = text;
+    else if (key.starts_with("Xmp."))
+        image->xmpData()[key] = text;
+    else
+        image->iptcData()[key] = text;
+}
+
+/// A photo's file of that format that carries all of the values and the places.
+QByteArray richFile(const QByteArray& format)
+{
+    Image image = opened(samples::encoded(samples::quarters(64, 48), format.constData()));
+    for (const auto& [key, text] : values)
+        set(image, key, text);
+    for (const auto& [key, text] : places)
+        set(image, key, text);
+    image->exifData()["Exif.GPSInfo.GPSLatitude"].setValue("52/1 30/1 0/1");
+    image->xmpData()["Xmp.tiff.Orientation"] = "1";
+    image->xmpData()["Xmp.tiff.ImageWidth"] = "9999";
+    image->xmpData()["Xmp.exif.PixelYDimension"] = "9999";
+    return written(image);
+}
+
+QByteArray withNote(std::size_t size = 0)
+{
+    Image image = opened(richFile("jpeg"));
+    Exiv2::ExifData& exif = image->exifData();
+    exif["Exif.Canon.OwnerName"] = "Somebody with a name of some length";
+    exif["Exif.Canon.SerialNumber"] = std::uint32_t(123456);
+    exif["Exif.Canon.FirmwareVersion"] = "Firmware 1.1.1";
+    if (size > 0) {
+        const QByteArray preview = samples::encoded(samples::flat(64, 64, Qt::red), "jpeg");
+        Exiv2::DataValue data(reinterpret_cast<const Exiv2::byte*>(preview.constData()), long(preview.size()));
+        exif.add(Exiv2::ExifKey("Exif.Canon.0x4242"), &data);
+    }
+    return written(image);
+}
+
+qsizetype picturesIn(const QByteArray& file)
+{
+    return file.count("\xFF\xD8\xFF");
+}
+
+} // namespace
+
+/// What a photo's file carried and what a saved one carries of it.
+class MetadataTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QByteArray saved(const QByteArray& file, Kept kept = Kept::Everything)
+    {
+        const LoadedPhoto photo = samples::loaded(m_folder, file);
+        return encodeJpeg(samples::noise(30, 20), photo.metadata, kept);
+    }
+
+    static void formats()
+    {
+        QTest::addColumn<QByteArray>("format");
+        for (const char* format : {"jpeg", "png", "webp", "tiff"})
+            QTest::newRow(format) << QByteArray(format);
+    }
+
+private slots:
+    void everythingIsKept_data() { formats(); }
+    void everythingIsKept()
+    {
+        QFETCH(QByteArray, format);
+        const Image image = opened(saved(richFile(format)));
+        for (const auto& [key, text] : values)
+            QCOMPARE(value(image, key), canHold(format, key) ? text : std::string("none"));
+        for (const auto& [key, text] : places)
+            QCOMPARE(value(image, key), canHold(format, key) ? text : std::string("none"));
+    }
+
+    void whatNoLongerHoldsIsChanged_data() { formats(); }
+    void whatNoLongerHoldsIsChanged()
+    {
+        QFETCH(QByteArray, format);
+        const Image image = opened(saved(richFile(format)));
+        for (const auto& [key, text] : {std::pair("Exif.Image.Orientation", "1"),
+                 std::pair("Exif.Image.Software", "Lumora"), std::pair("Exif.Photo.PixelXDimension", "30"),
+                 std::pair("Exif.Photo.PixelYDimension", "20"), std::pair("Xmp.tiff.Orientation", "1"),
+                 std::pair("Xmp.tiff.ImageWidth", "30"), std::pair("Xmp.tiff.ImageLength", "none"),
+                 std::pair("Xmp.exif.PixelYDimension", "20"), std::pair("Xmp.xmp.CreatorTool", "Lumora"),
+                 std::pair("Exif.Image.StripOffsets", "none"), std::pair("Exif.Image.Compression", "none")})
+            QCOMPARE(value(image, key), std::string(text));
+    }
+
+    void placeMayStayAway_data() { formats(); }
+    void placeMayStayAway()
+    {
+        QFETCH(QByteArray, format);
+        const QByteArray file = saved(richFile(format), Kept::WithoutPlace);
+        const Image image = opened(file);
+        for (const auto& [key, text] : values)
+            QCOMPARE(value(image, key), canHold(format, key) ? text : std::string("none"));
+        for (const auto& [key, text] : places)
+            QCOMPARE(value(image, key), std::string("none"));
+        for (const char* word : {"Berlin", "Germany", "Zoo", "52,30"})
+            QVERIFY(!file.contains(word));
+    }
+
+    void nothingMayBeKept_data() { formats(); }
+    void nothingMayBeKept()
+    {
+        QFETCH(QByteArray, format);
+        QCOMPARE(saved(richFile(format), Kept::Nothing), encodeJpeg(samples::noise(30, 20), {}));
+    }
+
+    void commentStaysAComment_data()
+    {
+        QTest::addColumn<QByteArray>("comment");
+        QTest::newRow("plain") << QByteArray("A comment");
+        QTest::newRow("like a key and its value") << QByteArray("Key: value");
+        QTest::newRow("any bytes") << QByteArray("\xFF\xD9\0\x80", 4);
+    }
+    void commentStaysAComment()
+    {
+        QFETCH(QByteArray, comment);
+        const QByteArray marker = QByteArray("\xFF\xFE\0", 3) + char(comment.size() + 2) + comment;
+        const QByteArray file = saved(samples::encoded(samples::quarters(64, 48), "jpeg").insert(2, marker));
+        QCOMPARE(file.count(QByteArray("\xFF\xFE\0", 3)), 1);
+        QVERIFY(file.contains(marker));
+    }
+
+    void textsOfAPictureAreNoComments()
+    {
+        QImage picture = samples::noise(30, 20);
+        picture.setText(QStringLiteral("Description"), QStringLiteral("a text"));
+        QCOMPARE(encodeJpeg(picture, {}), encodeJpeg(samples::noise(30, 20), {}));
+        QCOMPARE(picture.text(QStringLiteral("Description")), QStringLiteral("a text"));
+    }
+
+    void pngCarriesItsBlockAndComment()
+    {
+        const QByteArray exif = samples::loaded(m_folder, withNote()).metadata.exif;
+        QByteArray file = samples::encoded(samples::quarters(64, 48), "png");
+        file.insert(33, samples::pngChunk("eXIf", exif) + samples::pngChunk("tEXt", QByteArray("Comment\0said", 12)));
+        const Image image = opened(saved(file));
+        QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
+        QCOMPARE(value(image, "Exif.Canon.SerialNumber"), std::string("123456"));
+        QCOMPARE(image->comment(), std::string("said"));
+    }
+
+    void notesStayWhereTheyWere()
+    {
+        const QByteArray file = withNote();
+        const Image before = opened(file), after = opened(saved(file));
+        for (const char* key : {"Exif.Canon.OwnerName", "Exif.Canon.SerialNumber", "Exif.Canon.FirmwareVersion",
+                 "Exif.MakerNote.Offset", "Exif.Photo.MakerNote"})
+            QCOMPARE(value(after, key), value(before, key));
+        QVERIFY(value(after, "Exif.Canon.SerialNumber") != "none");
+        // It may tell the place.
+        QCOMPARE(value(opened(saved(file, Kept::WithoutPlace)), "Exif.Photo.MakerNote"), std::string("none"));
+    }
+
+    void noteThatWouldBreakIsLeftOut()
+    {
+        // A value of the note stands outside of it.
+        QByteArray file = withNote();
+        const qsizetype block = file.indexOf(QByteArray("Exif\0\0", 6)) + 6;
+        const qsizetype outside = file.indexOf("A. Person") - block, inside = file.indexOf("Somebody") - block;
+        const auto number = [](qsizetype at) {
+            QByteArray bytes(4, 0);
+            qToLittleEndian(quint32(at), bytes.data());
+            return bytes;
+        };
+        file.replace(file.indexOf(number(inside), block), 4, number(outside));
+        const Image image = opened(saved(file));
+        QCOMPARE(value(image, "Exif.Photo.MakerNote"), std::string("none"));
+        QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
+    }
+
+    void noPreviewIsKept()
+    {
+        QByteArray file = withNote(1);
+        Image image = opened(file);
+        const QByteArray preview = samples::encoded(samples::flat(64, 64, Qt::red), "jpeg");
+        Exiv2::ExifThumb(image->exifData())
+            .setJpegThumbnail(reinterpret_cast<const Exiv2::byte*>(preview.constData()), long(preview.size()));
+        const std::string base64 = preview.toBase64().toStdString();
+        image->xmpData()["Xmp.xmp.Thumbnails"] = "";
+        Exiv2::XmpTextValue list;
+        list.setXmpArrayType(Exiv2::XmpValue::xaAlt);
+        image->xmpData().erase(image->xmpData().findKey(Exiv2::XmpKey("Xmp.xmp.Thumbnails")));
+        image->xmpData().add(Exiv2::XmpKey("Xmp.xmp.Thumbnails"), &list);
+        image->xmpData()["Xmp.xmp.Thumbnails[1]/xmpGImg:image"] = base64;
+        image->xmpData()["Xmp.dc.source"] = base64;
+        file = written(image);
+        // Photoshop's, among the resources.
+        const QByteArray resource = QByteArray("8BIM\x04\x0C\0\0", 8) + samples::bigEndian(quint32(28 + preview.size()))
+            + QByteArray(28, 0) + preview;
+        const QByteArray segment = QByteArray("Photoshop 3.0\0", 14) + resource;
+        file.insert(2, QByteArray("\xFF\xED") + samples::bigEndian(quint16(segment.size() + 2)) + segment);
+        QVERIFY(picturesIn(file) >= 4 && file.contains(base64.substr(0, 100).c_str()));
+        const QByteArray after = saved(file);
+        QCOMPARE(picturesIn(after), 1);
+        QVERIFY(!after.contains("/9j/"));
+        QVERIFY(!after.contains("8BIM\x04\x0C"));
+        const Image result = opened(after);
+        QCOMPARE(value(result, "Exif.Photo.MakerNote"), std::string("none"));
+        QCOMPARE(value(result, "Exif.Image.Copyright"), std::string("A. Person"));
+        QCOMPARE(value(result, "Xmp.dc.title"), std::string("lang=\"x-default\" A title"));
+    }
+
+    void blocksThatAreTooLargeAreLeftOut()
+    {
+        LoadedPhoto photo = samples::loaded(m_folder, richFile("jpeg"));
+        photo.metadata.xmp.replace("A title", QByteArray(70000, 't'));
+        photo.metadata.comment = QByteArray(65534, 'c');
+        const QByteArray file = encodeJpeg(samples::quarters(64, 48), photo.metadata);
+        const Image image = opened(file);
+        QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
+        QCOMPARE(value(image, "Xmp.xmp.Rating"), std::string("none"));
+        QCOMPARE(image->comment(), std::string());
+        QVERIFY(samples::showsQuarters(QImage::fromData(file), QSize(64, 48)));
+    }
+
+    void longestValuesGoUntilTheRestFits()
+    {
+        Image image = opened(samples::encoded(samples::quarters(64, 48), "tiff"));
+        image->exifData()["Exif.Image.Copyright"] = "A. Person";
+        image->exifData()["Exif.Image.ImageDescription"] = std::string(50000, 'd');
+        image->exifData()["Exif.Photo.UserComment"] = std::string(40000, 'u');
+        const Image result = opened(saved(written(image)));
+        QCOMPARE(value(result, "Exif.Image.Copyright"), std::string("A. Person"));
+        QCOMPARE(value(result, "Exif.Image.ImageDescription"), std::string("none"));
+        QVERIFY(value(result, "Exif.Photo.UserComment").size() > 40000 - 10);
+    }
+
+    void brokenFilesNeverPreventSaving_data() { formats(); }
+    void brokenFilesNeverPreventSaving()
+    {
+        QFETCH(QByteArray, format);
+        const QByteArray whole = format == "jpeg" ? withNote() : richFile(format);
+        const PhotoMetadata metadata = samples::loaded(m_folder, whole).metadata;
+        const QImage picture = samples::quarters(64, 48);
+        std::mt19937 random(3);
+        const auto broken = [&](QByteArray block) {
+            for (int i = 0; i < 6 && !block.isEmpty(); i++)
+                block[qsizetype(random() % std::uint32_t(block.size()))] = char(random());
+            return random() % 8 == 0 ? block.left(block.size() / 2) : block;
+        };
+        for (int round = 0; round < 200; round++) {
+            const PhotoMetadata blocks = {
+                broken(metadata.exif), broken(metadata.xmp), broken(metadata.iptc), broken(metadata.comment)};
+            for (const Kept kept : {Kept::Everything, Kept::WithoutPlace})
+                QVERIFY(samples::showsQuarters(QImage::fromData(encodeJpeg(picture, blocks, kept)), QSize(64, 48)));
+            samples::loaded(m_folder, broken(whole));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(MetadataTest)
+#include "MetadataTest.moc"
