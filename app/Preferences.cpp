@@ -2,8 +2,12 @@
 
 #include <QFile>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QVariant>
 #include <algorithm>
+#include <cstring>
+#include <memory>
+#include <sys/stat.h>
 
 using namespace lumora;
 
@@ -14,39 +18,80 @@ QString text(const GrowString& string)
     return QString::fromLatin1(string.cString());
 }
 
-bool isSection(const QByteArray& line)
+constexpr off_t longestFile = 1'000'000; ///< bytes; a store has some hundred
+
+/// The file of the store. The platform opens it as soon as it is asked for its name.
+QByteArray fileName()
 {
-    return line.startsWith('[') && line.endsWith(']');
+    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + QStringLiteral("/Dovrel/Lumora.conf"));
 }
 
-/// True for a file that cannot be the store: it does not begin with a section, as a store does even when its end was
-/// lost, and one of its lines is no section, no comment and no "key=value". The store itself tells that only to the
-/// first who opens it.
-bool isForeign(const QString& fileName)
+/// False for a pipe, a device or a folder, which may keep whoever opens them waiting, or never end.
+bool canBeOpened(const QByteArray& path)
 {
-    QFile file(fileName);
+    struct stat status = {};
+    if (stat(path.constData(), &status) != 0)
+        return true; // there is none yet
+    return S_ISREG(status.st_mode) && status.st_size <= longestFile;
+}
+
+/// Whether the store writes names of keys and sections as they are: others would come out changed.
+bool isPlain(const QByteArray& name)
+{
+    return !name.isEmpty() && std::ranges::all_of(name, [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || std::strchr("_-.%\\", c);
+    });
+}
+
+bool isSection(const QByteArray& line)
+{
+    return line.startsWith('[') && line.endsWith(']') && isPlain(line.mid(1, line.size() - 2));
+}
+
+/// True for a file that is somebody else's: one without the section that every store begins with, or with a line that
+/// is no section, no comment and no "key=value" in the store's own words. The last line may have been cut off.
+bool isForeign(const QByteArray& path)
+{
+    QFile file(QFile::decodeName(path));
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    const QByteArrayList lines = file.readAll().trimmed().split('\n');
-    return !isSection(lines.front().trimmed()) && std::ranges::any_of(lines, [](const QByteArray& line) {
+    const QByteArray bytes = file.readAll();
+    QByteArrayList lines = bytes.split('\n');
+    lines.removeLast(); // empty, or cut off
+    const auto isOurs = [](const QByteArray& line) {
         const QByteArray words = line.trimmed();
-        return !words.isEmpty() && !isSection(words) && words.front() != ';' && !words.contains('=');
-    });
+        const qsizetype equals = words.indexOf('=');
+        return words.isEmpty() || words.front() == ';' || isSection(words)
+            || (equals > 0 && isPlain(words.left(equals)));
+    };
+    return !bytes.trimmed().isEmpty()
+        && (!bytes.trimmed().startsWith("[General]") || !std::ranges::all_of(lines, isOurs));
+}
+
+/// The store; none where something else stands in the place of its file, or of the one that it looks into besides.
+std::unique_ptr<QSettings> openStore()
+{
+    const QByteArray path = fileName(), besides = path.left(path.lastIndexOf('/')) + ".conf";
+    if (!canBeOpened(path) || !canBeOpened(besides))
+        return nullptr;
+    return std::make_unique<QSettings>(QStringLiteral("Dovrel"), QStringLiteral("Lumora"));
 }
 
 void store(const GrowString& key, const QVariant& value)
 {
-    QSettings settings(QStringLiteral("Dovrel"), QStringLiteral("Lumora"));
+    const auto settings = openStore();
     // A file that is not a preferences file at all is somebody's: it is not written over.
-    if (isForeign(settings.fileName()))
-        qWarning("%s is not a preferences file: choices are not saved", qUtf8Printable(settings.fileName()));
+    if (!settings || isForeign(fileName()))
+        qWarning("%s is not a preferences file: choices are not saved", fileName().constData());
     else
-        settings.setValue(text(key), value);
+        settings->setValue(text(key), value);
 }
 
 QVariant stored(const GrowString& key)
 {
-    return QSettings(QStringLiteral("Dovrel"), QStringLiteral("Lumora")).value(text(key));
+    const auto settings = openStore();
+    return settings ? settings->value(text(key)) : QVariant();
 }
 
 } // namespace

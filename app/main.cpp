@@ -1,5 +1,6 @@
 #include "app/Appearance.h"
 #include "app/MainWindowController.h"
+#include "app/SessionEnd.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -17,6 +18,7 @@ int main(int argc, char** argv)
     useDarkAppearance();
 
     MainWindowController controller;
+    const SessionEnd sessionEnd;
     // The bytes of the name as they are: it need not be text.
     const int file = argc > 1 && std::strcmp(argv[1], "--") == 0 ? 2 : 1;
     if (argc > file)

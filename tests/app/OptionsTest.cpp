@@ -1,8 +1,13 @@
 #include "app/Preferences.h"
+#include "app/SessionEnd.h"
 #include "image/CharImage.h"
 #include "tests/app/Desk.h"
 
 #include <QCheckBox>
+#include <QTimer>
+#include <csignal>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace lumora;
 
@@ -144,6 +149,110 @@ private slots:
         }
         QVERIFY(QFileInfo(preferencesFile()).isDir());
         QDir().rmdir(preferencesFile());
+    }
+
+    void neitherAPipeNorADeviceKeepsTheWindowWaiting_data()
+    {
+        QTest::addColumn<QByteArray>("device");
+        QTest::newRow("pipe") << QByteArray();
+        QTest::newRow("endless device") << QByteArray("/dev/zero");
+    }
+    void neitherAPipeNorADeviceKeepsTheWindowWaiting()
+    {
+        QFETCH(QByteArray, device);
+        for (const QString& file : {preferencesFile(), configFolder() + "/Dovrel.conf"}) {
+            const QByteArray path = QFile::encodeName(file);
+            QDir().mkpath(QFileInfo(file).path());
+            QVERIFY((device.isEmpty() ? mkfifo(path.constData(), 0600) : symlink(device.constData(), path.constData()))
+                == 0);
+            {
+                Desk desk;
+                QVERIFY(chosen(desk) == defaults);
+                desk.window.applicationWillTerminate();
+            }
+            struct stat status = {};
+            QVERIFY(lstat(path.constData(), &status) == 0 && !S_ISREG(status.st_mode));
+            QVERIFY(QFile::remove(file) || unlink(path.constData()) == 0);
+        }
+    }
+
+    void filesOfOtherProgramsAreLeftAlone_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("XML") << QByteArray("<?xml version=\"1.0\"?>\n<a b=\"c\"/>\n");
+        QTest::newRow("XML in one line") << QByteArray("<a b=\"c\"/>");
+        QTest::newRow("other sections") << QByteArray("[Desktop Entry]\nName=A name\n");
+        QTest::newRow("keys of another kind") << QByteArray("[General]\nName[de]=Ein Name\n");
+        QTest::newRow("sections of another kind") << QByteArray("[General]\nA=b\n[Colors:View]\nC=d\n");
+        QTest::newRow("keys alone") << QByteArray("A=b\n");
+    }
+    void filesOfOtherProgramsAreLeftAlone()
+    {
+        QFETCH(QByteArray, contents);
+        setPreferences(contents);
+        {
+            Desk desk;
+            desk.click("chkMultiFilter");
+            desk.window.applicationWillTerminate();
+        }
+        QCOMPARE(contentsOf(QFile::encodeName(preferencesFile())), contents);
+    }
+
+    void theLastWindowKeepsWhatTheOthersChose()
+    {
+        for (const char* preferences : {"", "[General]\nBorderStyle=1\nOutputSize=2\nPrefsVersion=2\n"}) {
+            setPreferences(preferences);
+            Desk first, second;
+            first.choose("btnBorders", "Rounded");
+            first.click("chkMultiFilter");
+            second.choose("btnCropping", "4x3");
+            first.window.applicationWillTerminate();
+            second.window.applicationWillTerminate();
+            Desk third;
+            QVERIFY(chosen(third) == (Choices{true, false, 4, 4, *preferences ? 2 : 0}));
+        }
+    }
+
+    void anOlderSetIsReplacedAsAWhole()
+    {
+        setPreferences("[General]\nBorderStyle=3\nCroppingStyle=2\nPrefsVersion=1\n");
+        {
+            Desk desk;
+            desk.choose("btnCropping", "4x3");
+            desk.window.applicationWillTerminate();
+        }
+        Desk desk;
+        QVERIFY(chosen(desk) == (Choices{false, false, 0, 4, 0}));
+    }
+
+    void theEndOfASessionKeepsTheChoices_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<bool>("isPanelOpen");
+        for (const bool isPanelOpen : {false, true})
+            for (const int signal : {SIGTERM, SIGHUP, SIGINT})
+                QTest::addRow("%d%s", signal, isPanelOpen ? ", panel" : "") << signal << isPanelOpen;
+    }
+    void theEndOfASessionKeepsTheChoices()
+    {
+        QFETCH(int, signal);
+        QFETCH(bool, isPanelOpen);
+        {
+            Desk desk;
+            const SessionEnd sessionEnd;
+            desk.choose("btnBorders", "Rounded");
+            QTimer::singleShot(0, &desk.window, [&] {
+                if (isPanelOpen) {
+                    QTimer::singleShot(0, &desk.window, [&] { raise(signal); });
+                    desk.window.loadImageButtonPressed();
+                } else
+                    raise(signal);
+            });
+            QCOMPARE(QCoreApplication::exec(), 0);
+        }
+        QCOMPARE(getPreferenceInt("BorderStyle"), 4);
+        struct sigaction action = {};
+        QVERIFY(sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_DFL);
     }
 
     void foreignKeysAreKept()
