@@ -10,6 +10,8 @@ struct PhotoMetadata {
     QByteArray xmp = {}; ///< the XMP packet
     QByteArray iptc = {}; ///< the records of the IPTC
     QByteArray comment = {}; ///< text of any encoding
+
+    bool operator==(const PhotoMetadata&) const = default;
 };
 
 /// How much of it goes into a saved file.
