@@ -157,15 +157,8 @@ private:
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave();
 
-    /// The choices that are remembered, the three pop-ups by position.
-    struct Choices {
-        bool multiFilter = false;
-        int border = 0, cropping = 0, size = 0;
-    };
-    Choices choices() const;
-
     std::unique_ptr<Ui::MainWindow> m_ui;
-    Choices m_choicesAtStart;
+    Choices m_choicesAtStart; ///< as the preferences had them
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown

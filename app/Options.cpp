@@ -35,27 +35,21 @@ void MainWindowController::loadOptions()
     // Variation is a mood of the moment: it is saved, and never restored.
     m_ui->chkRandomness->setChecked(false);
     CharImage::useRandom = 0;
-    m_choicesAtStart = choices();
-}
-
-MainWindowController::Choices MainWindowController::choices() const
-{
-    return {m_ui->chkMultiFilter->isChecked(), m_ui->btnBorders->currentIndex(), m_ui->btnCropping->currentIndex(),
-        m_ui->btnImgSize->currentIndex()};
+    m_choicesAtStart = shownNow().choices;
 }
 
 void MainWindowController::saveOptions() const
 {
     // Another window may have saved its choices since this one was opened: what was not touched here stays as it is.
     const bool saved = getPreferenceInt("PrefsVersion") == prefsVersion;
-    const Choices now = choices(), &before = m_choicesAtStart;
-    if (!saved || now.multiFilter != before.multiFilter)
-        setPreferenceBool("UseMultiFilter", now.multiFilter);
-    setPreferenceBool("UseRandomness", m_ui->chkRandomness->isChecked());
+    const Choices now = shownNow().choices, &before = m_choicesAtStart;
+    if (!saved || now.multi != before.multi)
+        setPreferenceBool("UseMultiFilter", now.multi);
+    setPreferenceBool("UseRandomness", now.varied);
     if (!saved || now.border != before.border)
         setPreferenceInt("BorderStyle", now.border);
-    if (!saved || now.cropping != before.cropping)
-        setPreferenceInt("CroppingStyle", now.cropping);
+    if (!saved || now.crop != before.crop)
+        setPreferenceInt("CroppingStyle", now.crop);
     if (!saved || now.size != before.size)
         setPreferenceInt("OutputSize", now.size);
     setPreferenceInt("PrefsVersion", prefsVersion);
