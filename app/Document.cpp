@@ -1,8 +1,8 @@
 #include "app/MainWindowController.h"
 #include "app/Rules.h"
 #include "core/SixPlaces.h"
+#include "photo/EscapedText.h"
 #include "photo/FreeMemory.h"
-#include "photo/PhotoLoader.h"
 #include "photo/PhotoSaver.h"
 #include "render/Scaled.h"
 #include "ui_MainWindow.h"
@@ -23,14 +23,14 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
     const Work work(m_work, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
     if (!work)
         return false;
-    qInfo("%s", path.constData());
+    qInfo("%s", escaped(path).constData());
     if (m_sheet)
         m_sheet->close(); // what it said is answered by what comes now
-    m_work.beginStep(tr("Decode"));
-    const LoadedPhoto loaded = loadPhoto(path);
+    const LoadedPhoto loaded = readPhoto(path);
     if (loaded.image.isNull()) {
         // Not modal: another photo may be dropped on the window at once.
-        showSheet(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), loaded.reason, Qt::NonModal);
+        if (m_reader->end() != PhotoReader::End::Cancelled)
+            showSheet(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), loaded.reason, Qt::NonModal);
         return false;
     }
     m_photo.metadata = loaded.metadata;
@@ -125,6 +125,6 @@ void MainWindowController::saveFilteredImage()
     const QByteArray path = askWhereToSave();
     if (!path.isEmpty() && !writeFileAtomically(path, jpeg, &reason)) {
         std::puts("didn't work!");
-        qWarning("%s: %s", path.constData(), qUtf8Printable(reason));
+        qWarning("%s: %s", escaped(path).constData(), qUtf8Printable(reason));
     }
 }

@@ -7,6 +7,7 @@
 #include "app/WorkInProgress.h"
 #include "core/GrowArray.h"
 #include "image/FilterNumber.h"
+#include "photo/PhotoReader.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -30,7 +31,8 @@ class MainWindowController : public QMainWindow, public DropDelegate, private Wo
     Q_OBJECT
 
 public:
-    MainWindowController();
+    /// With a reader that may have begun with the first photo.
+    explicit MainWindowController(std::unique_ptr<PhotoReader> reader = nullptr);
     ~MainWindowController() override;
 
     // ---- Options ----
@@ -69,7 +71,8 @@ public:
     void setFiltersAppliedImage(const QImage& image) { m_filtersAppliedImage = image; }
     void setoriginalImage(const QImage& image);
     /// True when the file of that path (any bytes) was taken as the new photo. Otherwise nothing changes, and a sheet
-    /// says why.
+    /// says why where it was not cancelled. Returns when the file has been read; meanwhile the window lives, and of
+    /// what people do only Esc, "Cancel" and closing the window count.
     bool loadImageFromFile(const QByteArray& path) override;
     /// The same as soon as the window has been painted and nothing is worked on; of several the last.
     void openFileWhenShown(const QByteArray& path) { m_waitingFile = path; }
@@ -130,7 +133,7 @@ private:
     static bool takesLong(const QImage& image);
     int stepsOfRender() const;
     Work renderOfPreview(); ///< of the applied list
-    void showStep(const QString& name, int done, int steps) override;
+    void showStep(const QString& name, double done, int steps) override;
     void workEnded(bool closeAsked) override;
     bool takesDrag(QEvent* event); ///< true: it was one
     bool takesKeyPress(QWidget* widget, const QKeyEvent& press); ///< true: `widget` must not see it
@@ -154,6 +157,7 @@ private:
     void setCurrentFile(const QByteArray& path);
     void rotateImage(int quarterTurns); ///< counter-clockwise where positive
     int largerFrameSide() const;
+    LoadedPhoto readPhoto(const QByteArray& path);
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave();
 
@@ -166,6 +170,7 @@ private:
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 
     WorkInProgress m_work{*this};
+    std::unique_ptr<PhotoReader> m_reader;
     Photo m_photo;
     History m_history{*this, &MainWindowController::roomForFormerPhotos};
     unsigned m_renderSeed = 0; ///< of the random numbers that the preview drew while it was rendered

@@ -33,8 +33,9 @@ QString helpDocument()
 
 } // namespace
 
-MainWindowController::MainWindowController()
+MainWindowController::MainWindowController(std::unique_ptr<PhotoReader> reader)
     : m_ui(std::make_unique<Ui::MainWindow>())
+    , m_reader(reader ? std::move(reader) : std::make_unique<PhotoReader>())
 {
     awakeFromNib();
 }
@@ -91,6 +92,10 @@ void MainWindowController::windowDidLoad()
     policy.setRetainSizeWhenHidden(true);
     m_ui->progressBar->setSizePolicy(policy);
     m_ui->progressBar->hide();
+    policy = m_ui->btnCancel->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_ui->btnCancel->setSizePolicy(policy);
+    m_ui->btnCancel->hide();
     m_resizeSettles.setSingleShot(true);
     m_resizeSettles.setInterval(settleTime);
 }
@@ -101,6 +106,7 @@ void MainWindowController::connectControls()
     const auto press = [this](QAbstractButton* button, void (Self::*action)()) {
         connect(button, &QAbstractButton::clicked, this, action);
     };
+    connect(m_ui->btnCancel, &QAbstractButton::clicked, this, [this] { m_reader->cancel(); });
     press(m_ui->btnLoad, &Self::loadImageButtonPressed);
     press(m_ui->btnSave, &Self::saveFilteredImage);
     press(m_ui->btnLeft, &Self::rotateImageLeft);

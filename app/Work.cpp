@@ -1,12 +1,17 @@
+#include "app/CancelOnly.h"
 #include "app/MainWindowController.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QSocketNotifier>
+#include <QTimer>
 
 namespace {
 
 constexpr qint64 largePhoto = 4'000'000; ///< pixels
+constexpr int progressInterval = 100; ///< milliseconds
+constexpr int partsOfStep = 100; ///< on the progress bar
 
 } // namespace
 
@@ -25,13 +30,14 @@ Work MainWindowController::renderOfPreview()
     return Work(m_work, stepsOfRender(), takesLong(m_photo.display()));
 }
 
-void MainWindowController::showStep(const QString& name, int done, int steps)
+void MainWindowController::showStep(const QString& name, double done, int steps)
 {
     if (!isVisible())
         return;
+    m_ui->btnCancel->setVisible(m_reader->descriptor() >= 0);
     m_ui->progressBar->setFormat(name);
-    m_ui->progressBar->setMaximum(steps);
-    m_ui->progressBar->setValue(done);
+    m_ui->progressBar->setMaximum(steps * partsOfStep);
+    m_ui->progressBar->setValue(int(done * partsOfStep));
     m_ui->progressBar->show();
     m_ui->progressBar->repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -40,14 +46,35 @@ void MainWindowController::showStep(const QString& name, int done, int steps)
 void MainWindowController::workEnded(bool closeAsked)
 {
     m_ui->progressBar->hide();
+    m_ui->btnCancel->hide();
     if (closeAsked)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
     else if (!m_waitingFile.isEmpty())
         QMetaObject::invokeMethod(this, &MainWindowController::openWaitingFile, Qt::QueuedConnection);
 }
 
+/// Reads the photo of that path, unless the reader has begun with it already. Meanwhile the window lives.
+LoadedPhoto MainWindowController::readPhoto(const QByteArray& path)
+{
+    if (m_reader->path() != path)
+        m_reader->begin(path);
+    m_work.beginStep(tr("Decode"));
+    if (m_reader->isDone())
+        return m_reader->take();
+    const WorkWaits waits(m_work);
+    const CancelOnly cancelOnly(*m_ui->btnCancel, [this] { m_reader->cancel(); });
+    const QSocketNotifier answer(m_reader->descriptor(), QSocketNotifier::Read); // ends a wait for events
+    QTimer progress;
+    connect(&progress, &QTimer::timeout, this, [this] { m_work.stepGoesOn(); });
+    progress.start(progressInterval);
+    while (!m_reader->isDone())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    return m_reader->take();
+}
+
 void MainWindowController::closeEvent(QCloseEvent* event)
 {
-    // Closed in the middle of work: it is finished first.
+    // Closed in the middle of work: it is finished first. A photo that nobody will see is not waited for.
+    m_reader->cancel();
     event->setAccepted(m_work.mayClose());
 }

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr qint64 moment = 300; ///< milliseconds that nobody needs to be told about
+constexpr double halfway = 2000; ///< milliseconds after which a step of unknown length is shown as half done
 
 } // namespace
 
@@ -22,14 +23,27 @@ WorkInProgress::WorkInProgress(WorkDisplay& display, Clock time)
 {
 }
 
+bool WorkInProgress::isShown() const
+{
+    return m_depth > 0 && (m_isLong || m_time() - m_begun >= moment);
+}
+
 void WorkInProgress::beginStep(const QString& name)
 {
-    const int done = m_stepsDone++;
-    if (m_depth == 0 || (!m_isLong && m_time() - m_begun < moment))
+    m_step = name;
+    m_stepBegun = m_time();
+    m_stepsDone++;
+    stepGoesOn();
+}
+
+void WorkInProgress::stepGoesOn()
+{
+    if (!isShown())
         return;
     m_steps = std::max(m_steps, m_stepsDone);
+    const double time = double(m_time() - m_stepBegun);
     const WorkWaits waits(*this);
-    m_display.showStep(name, done, m_steps);
+    m_display.showStep(m_step, m_stepsDone - 1 + time / (time + halfway), m_steps);
 }
 
 bool WorkInProgress::mayClose()

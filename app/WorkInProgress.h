@@ -5,8 +5,9 @@
 /// Shows the work in progress to people.
 class WorkDisplay {
 public:
-    /// A step has begun, and `done` of `steps` are behind. The window may paint itself before this returns.
-    virtual void showStep(const QString& name, int done, int steps) = 0;
+    /// A step has begun or goes on, and `done` of `steps` are behind: a fraction tells how far this one is. The window
+    /// may paint itself before this returns.
+    virtual void showStep(const QString& name, double done, int steps) = 0;
     /// All work has ended. `closeAsked`: somebody wanted to close the window meanwhile.
     virtual void workEnded(bool closeAsked) = 0;
 
@@ -30,6 +31,9 @@ public:
     bool mayBegin() const { return m_mayBegin; }
     /// Counts a step of the work, and shows it where the work takes long enough to be read about.
     void beginStep(const QString& name);
+    /// Shows that the step goes on; for one that waits for something else. It moves on ever more slowly and never gets
+    /// to its end, as nobody knows how long it will be.
+    void stepGoesOn();
     /// Asks whether the window may close: true when nothing is going on. Otherwise the display hears of it at the end.
     bool mayClose();
 
@@ -37,13 +41,17 @@ private:
     friend class Work;
     friend class WorkWaits;
 
+    bool isShown() const;
+
     WorkDisplay& m_display;
     Clock m_time;
     int m_depth = 0; ///< of work begun by work
     int m_steps = 0;
-    int m_stepsDone = 0;
+    int m_stepsDone = 0; ///< with the one that goes on
+    QString m_step; ///< the name of that one
     bool m_isLong = false;
     qint64 m_begun = 0; ///< by the clock
+    qint64 m_stepBegun = 0;
     bool m_mayBegin = true;
     bool m_closeAsked = false;
 };

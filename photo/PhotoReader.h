@@ -34,6 +34,8 @@ public:
     /// format, not its name; of several frames the first is taken. Only a regular file is read, and nothing is waited
     /// for.
     void begin(const QByteArray& path);
+    /// What was begun last and not taken yet; empty after that.
+    const QByteArray& path() const;
     /// Whether the photo, or the reason, is there. Waits so many milliseconds for it.
     bool isDone(int milliseconds = 0);
     /// Can be read from when isDone() would be true without a wait; -1 when it is.

@@ -7,6 +7,7 @@
 
 class PhotoReader::Private {
 public:
+    QByteArray path;
     LoadedPhoto photo;
 };
 
@@ -19,7 +20,13 @@ PhotoReader::~PhotoReader() = default;
 
 void PhotoReader::begin(const QByteArray& path)
 {
+    m->path = path;
     m->photo = loadPhoto(path);
+}
+
+const QByteArray& PhotoReader::path() const
+{
+    return m->path;
 }
 
 bool PhotoReader::isDone(int)
@@ -36,6 +43,7 @@ void PhotoReader::cancel() { }
 
 LoadedPhoto PhotoReader::take()
 {
+    m->path.clear();
     return std::exchange(m->photo, {});
 }
 

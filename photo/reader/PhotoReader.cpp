@@ -50,6 +50,7 @@ public:
     std::unique_ptr<ReaderProcess> reading; ///< null when nothing is read
     QElapsedTimer clock;
     qint64 allowed = 0; ///< milliseconds of the processor
+    QByteArray path;
     LoadedPhoto photo;
     End end = End::Answered;
 
@@ -100,6 +101,7 @@ PhotoReader::~PhotoReader() = default;
 void PhotoReader::begin(const QByteArray& path)
 {
     m->finish(End::Answered, {});
+    m->path = path;
     QFile file;
     const QString reason = openPhotoFile(path, file);
     if (!reason.isEmpty())
@@ -109,6 +111,11 @@ void PhotoReader::begin(const QByteArray& path)
     // The reader's own limit is for one whom nobody watches any more.
     if (!m->handOver(file.handle(), {freeMemory(), m->allowed / 1000 + 2}))
         m->finish(End::NotStarted);
+}
+
+const QByteArray& PhotoReader::path() const
+{
+    return m->path;
 }
 
 bool PhotoReader::isDone(int milliseconds)
@@ -145,6 +152,7 @@ LoadedPhoto PhotoReader::take()
         ;
     if (!m->waiting)
         m->waiting = std::make_unique<ReaderProcess>(readerProgram());
+    m->path.clear();
     return std::exchange(m->photo, {});
 }
 

@@ -1,5 +1,7 @@
 #include "tests/app/Desk.h"
 
+#include "photo/PhotoReader.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorSpace>
@@ -195,6 +197,7 @@ int runTest(int argc, char** argv, const std::function<QObject*()>& makeTest)
 {
     const QTemporaryDir config;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(config.path()));
+    PhotoReader::setProgram(READER);
     QApplication application(argc, argv);
     const std::unique_ptr<QObject> test(makeTest());
     return QTest::qExec(test.get(), argc, argv);

@@ -238,8 +238,8 @@ private slots:
         Desk desk;
         auto* bar = desk.find<QProgressBar>("progressBar");
         Watch watch(desk.window, *bar);
-        watch.closes = true;
         QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "large.png", makePhoto(2600, 1700))));
+        watch.closes = true;
         QVERIFY(desk.window.isVisible());
         desk.click("btnMono");
         desk.window.flattenImage();

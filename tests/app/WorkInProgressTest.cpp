@@ -13,7 +13,7 @@ private:
         QStringList notes;
         std::function<void()> meanwhile = [] {};
 
-        void showStep(const QString& name, int done, int steps) override
+        void showStep(const QString& name, double done, int steps) override
         {
             notes << QStringLiteral("%1 %2/%3").arg(name).arg(done).arg(steps);
             meanwhile();
@@ -65,6 +65,23 @@ private slots:
         m_shown.notes.clear();
         progress.beginStep("Fit");
         QCOMPARE(m_shown.notes, QStringList());
+    }
+
+    void aStepThatWaitsMovesOnAndNeverEnds()
+    {
+        WorkInProgress progress(m_shown, time);
+        const Work work(progress, 3, false);
+        progress.beginStep("Decode");
+        now += 299;
+        progress.stepGoesOn();
+        QCOMPARE(m_shown.notes, QStringList());
+        for (const int more : {1701, 4000, 1000000000}) {
+            now += more;
+            progress.stepGoesOn();
+        }
+        QCOMPARE(m_shown.notes, QStringList({"Decode 0.5/3", "Decode 0.75/3", "Decode 0.999998/3"}));
+        progress.beginStep("Fit");
+        QCOMPARE(m_shown.notes.last(), QString("Fit 1/3"));
     }
 
     void workThatIsBegunByWorkIsAPartOfIt()
