@@ -1,6 +1,7 @@
 #include "photo/JpegMarkers.h"
 
 #include <QIODevice>
+#include <QtEndian>
 
 namespace {
 
@@ -17,6 +18,13 @@ template <std::size_t length> bool take(QByteArray& block, const QByteArray& pay
     if (block.isEmpty())
         block = payload.mid(length);
     return true;
+}
+
+bool isFrame(int marker)
+{
+    constexpr int huffmanTables = 0xC4, reserved = 0xC8, arithmeticTables = 0xCC;
+    return marker >= 0xC0 && marker <= 0xCF && marker != huffmanTables && marker != reserved
+        && marker != arithmeticTables;
 }
 
 /// Reads up to the next marker, over the coded picture with its zero-stuffed bytes and restart markers, and gives its
@@ -49,6 +57,8 @@ JpegMarkers readJpegMarkers(QIODevice& device)
     if (device.peek(2) != "\xFF\xD8")
         return found;
     for (int marker = nextMarker(device); marker != -1 && marker != endOfImage; marker = nextMarker(device)) {
+        if (++found.markers > maxJpegMarkers)
+            break;
         if (marker == startOfImage)
             continue;
         const QByteArray lengthBytes = device.read(2);
@@ -61,6 +71,9 @@ JpegMarkers readJpegMarkers(QIODevice& device)
         const QByteArray payload = device.read(length);
         if (marker == startOfScan)
             found.scans++;
+        else if (isFrame(marker) && payload.size() >= 5)
+            found.pixels = qint64(qFromBigEndian<quint16>(payload.constData() + 1))
+                * qFromBigEndian<quint16>(payload.constData() + 3);
         else if (marker == app1)
             take(found.exif, payload, exifHeading) || take(found.xmp, payload, xmpHeading);
         else if (marker == app13 && found.resources.size() < longestResources) {

@@ -2,6 +2,7 @@
 
 #include "photo/ColorProfile.h"
 #include "photo/EveryPixel.h"
+#include "photo/FileBounds.h"
 #include "photo/FreeMemory.h"
 #include "photo/JpegMarkers.h"
 #include "photo/OnWhite.h"
@@ -17,14 +18,19 @@
 
 namespace {
 
+/// What a picture must fit to.
+struct Room {
+    qint64 memory; ///< bytes that there are for it
+    qint64 fileBytes; ///< bytes that it is told in
+};
+
 int bytesPerPixel(QImage::Format format)
 {
     return std::max(QImage::toPixelFormat(format).bitsPerPixel() / 8, 4);
 }
 
-/// Why a picture of that size is not decoded; empty when it is. `bytesPerPixel` is what its decoder makes of it,
-/// `memory` what there is.
-QString sizeRefusal(const QSize& size, int bytesPerPixel, qint64 memory)
+/// Why a picture of that size is not decoded; empty when it is. `bytesPerPixel` is what its decoder makes of it.
+QString sizeRefusal(const QSize& size, int bytesPerPixel, const Room& room)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
     if (pixels > maxPhotoPixels)
@@ -32,7 +38,11 @@ QString sizeRefusal(const QSize& size, int bytesPerPixel, qint64 memory)
             .arg(size.width())
             .arg(size.height())
             .arg(maxPhotoPixels / 1000000);
-    return pixels * bytesPerPixel > memory / blocksPerPhoto ? memoryRefusal(size) : QString();
+    if (pixels > maxPixelsOfTinyFile && pixels / maxPixelsPerByte > room.fileBytes)
+        return QStringLiteral("The picture is damaged: the file is too small for %1 x %2 pixels.")
+            .arg(size.width())
+            .arg(size.height());
+    return pixels * bytesPerPixel > room.memory / blocksPerPhoto ? memoryRefusal(size) : QString();
 }
 
 /// Formats of the platform that hold drawings and icons rather than photos. The icons' decoder allocates whatever a
@@ -43,20 +53,20 @@ bool isForPhotos(const QByteArray& format)
     return std::none_of(std::begin(others), std::end(others), [&](const char* other) { return format == other; });
 }
 
-QString decodeByOwn(QImageIOHandler& handler, qint64 memory, QImage& image)
+QString decodeByOwn(QImageIOHandler& handler, const Room& room, QImage& image)
 {
     const QString refusal = sizeRefusal(handler.option(QImageIOHandler::Size).toSize(),
-        bytesPerPixel(QImage::Format(handler.option(QImageIOHandler::ImageFormat).toInt())), memory);
+        bytesPerPixel(QImage::Format(handler.option(QImageIOHandler::ImageFormat).toInt())), room);
     if (!refusal.isEmpty())
         return refusal;
     return handler.read(&image) ? QString()
                                 : QStringLiteral("The picture is damaged or of a kind that cannot be read.");
 }
 
-QString decodeByPlatform(QIODevice& file, qint64 memory, QImage& image)
+QString decodeByPlatform(QIODevice& file, const Room& room, QImage& image)
 {
     // For decoders that do not tell the size first.
-    const qint64 limit = std::min(maxPhotoPixels * 8, memory / blocksPerPhoto);
+    const qint64 limit = std::min(maxPhotoPixels * 8, room.memory / blocksPerPhoto);
     QImageReader::setAllocationLimit(std::max(int(limit >> 20), 1));
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
@@ -65,7 +75,7 @@ QString decodeByPlatform(QIODevice& file, qint64 memory, QImage& image)
         return QStringLiteral("The file is not a picture of a kind that can be read.");
     const QSize size = reader.size();
     if (size.isValid()) {
-        const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()), memory);
+        const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()), room);
         if (!refusal.isEmpty())
             return refusal;
     }
@@ -76,36 +86,40 @@ QString decodeByPlatform(QIODevice& file, qint64 memory, QImage& image)
 }
 
 /// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
-QString decode(QIODevice& file, qint64 memory, QImage& image)
+QString decode(QIODevice& file, const Room& room, QImage& image)
 {
     const OwnFormat own = ownFormat(file);
     if (!own.reason.isEmpty())
         return own.reason;
     if (own.handler) {
         own.handler->setDevice(&file);
-        return decodeByOwn(*own.handler, memory, image);
+        return decodeByOwn(*own.handler, room, image);
     }
     if (const auto key = findPngColourKey(file)) {
         PngWithoutKey png(file, *key);
-        const QString reason = decodeByPlatform(png, memory, image);
+        const QString reason = decodeByPlatform(png, room, image);
         if (!reason.isEmpty() || applyColourKey(image, *key))
             return reason;
         return QStringLiteral("The picture is damaged or of a kind that cannot be read.");
     }
     file.seek(0);
-    return decodeByPlatform(file, memory, image);
+    return decodeByPlatform(file, room, image);
 }
 
 LoadedPhoto load(QIODevice& file, qint64 memory)
 {
     LoadedPhoto photo;
     const JpegMarkers markers = readJpegMarkers(file);
-    if (markers.scans > maxJpegScans)
+    if (markers.markers > maxJpegMarkers || markers.scans > maxJpegScans
+        || markers.scans * markers.pixels > maxJpegScanPixels)
         return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
+    QString reason = boundsRefusal(file);
+    if (!reason.isEmpty())
+        return refusedPhoto(reason);
     photo.metadata = readMetadata(file, markers);
     file.seek(0);
     QImage image;
-    const QString reason = decode(file, memory, image);
+    reason = decode(file, {memory, file.size()}, image);
     if (!reason.isEmpty())
         return refusedPhoto(reason);
     photo.image = onWhiteInEitherOrder(inSRgb(std::move(image)));
