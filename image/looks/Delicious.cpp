@@ -39,11 +39,11 @@ ChannelCurve bandedLightness()
 /// Gives each pixel of a row its lightness and a stronger colour. `lightnessAt(x)` is that of a block.
 template <class LightnessAt> void recolourRow(CharImage& image, int y, LightnessAt lightnessAt)
 {
-    Trial<Steps<Recoloured>, KnownWeights, NoLevels> trial(Steps{Recoloured()}, Recoloured::error, {});
+    Trial trial(Steps{Recoloured()}, Recoloured::error, NoLevels());
     forEachBlockOfRow(image, y, [&](Block& block, int x) {
         block.fillPlanes();
         const Plane lightness = lightnessAt(x);
-        trial.work(block, {lightness.at});
+        trial.work(block, lightness.at);
     });
     trial.finish();
 }

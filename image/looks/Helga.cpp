@@ -3,6 +3,7 @@
 #include "image/looks/Variation.h"
 #include "image/numbers/Disc.h"
 #include "image/numbers/Hues.h"
+#include "image/numbers/Power.h"
 #include "image/passes/PixelPass.h"
 #include "image/passes/RadialPass.h"
 
@@ -54,10 +55,10 @@ void CharImage::applyHelgaFilter()
 
     const float halfWidth = float(width * 0.5), halfHeight = float(height * 0.5);
     const float reach = float(1.49 * std::sqrt(double(halfWidth * halfWidth + halfHeight * halfHeight)));
-    const auto fallOffAt = [=](Raise toPower, float* fallOff, const int* across, const int* down, int count) {
+    const auto fallOffAt = [=](float* fallOff, const int* across, const int* down, int count) {
         for (int i = 0; i < count; i++)
             fallOff[i] = distance(float(across[i]), float(down[i])) / reach;
-        applySCurve(fallOff, count, p.edgeExponent, toPower);
+        applySCurve(fallOff, count, p.edgeExponent);
     };
     const auto contrasted = [=](auto c) {
         c = eachChannel(c, [=](auto v) { return withContrast(v, p.contrast); });
@@ -74,7 +75,7 @@ void CharImage::applyHelgaFilter()
     const float floor = float(p.blackFloor) + 0.5f;
     const auto floored = [=](auto c) { return eachChannel(c, [=](auto v) { return notBelow(v, floor); }); };
     forEachPixelAround(
-        *this, width / 2, height / 2, nearSCurve(), fallOffAt, Steps(contrasted, lifted, darkened, floored));
+        *this, width / 2, height / 2, {0.0, 1.0}, fallOffAt, Steps(contrasted, lifted, darkened, floored));
 }
 
 } // namespace lumora

@@ -1,3 +1,4 @@
+#include "image/numbers/Power.h"
 #include "image/passes/RadialPass.h"
 
 #include <cstdlib>
@@ -21,7 +22,7 @@ struct Leak {
     }
 
     /// The glow's weights, 0 .. 0.15, of pixels that stand so far from the place.
-    void glowAt(Raise toPower, float* glow, const int* across, const int* down, int count) const
+    void glowAt(float* glow, const int* across, const int* down, int count) const
     {
         for (int i = 0; i < count; i++) {
             const double dx = across[i], dy = down[i];
@@ -29,14 +30,13 @@ struct Leak {
             const float q = 1.0f - d / radius;
             glow[i] = q < 0.0f ? 0.0f : q > 1.0f ? 1.0f : q;
         }
-        toPower(glow, count, exponent);
+        raise(glow, count, 1.5f);
         for (int i = 0; i < count; i++)
             glow[i] = float(glow[i] * heaviest);
     }
-    static ErrorBound glow() { return rounded(nearPower() * heaviest); }
+    static ErrorBound glow() { return {0.0, float(heaviest)}; }
 
 private:
-    static constexpr float exponent = 1.5f;
     static constexpr double heaviest = 0.15;
 };
 
@@ -83,9 +83,7 @@ void CharImage::applyLightleakFilter()
     };
     forEachPixelAround(
         *this, leak.x, leak.y, Leak::glow(),
-        [=](Raise toPower, float* glow, const int* across, const int* down, int count) {
-            leak.glowAt(toPower, glow, across, down, count);
-        },
+        [=](float* glow, const int* across, const int* down, int count) { leak.glowAt(glow, across, down, count); },
         Steps(shaded, violet, muted, glowing, contrasted));
 
     const float halfWidth = width * 0.5f, halfHeight = height * 0.5f;

@@ -21,10 +21,6 @@ namespace {
 constexpr double twoOverLog2 = 2.8853900817779268; ///< 2 / ln 2
 constexpr double log2 = 0.6931471805599453;
 
-/// By how much a result of raiseNearly may be off. Its logarithm is good to 7 x 2^-24 of itself, of which at most 2.6 x
-/// 2^-24 is left in the power, as y 2^-y stays below 0.54; its power of 2 is good to 2.7 x 2^-24 of itself.
-constexpr double nearPowerError = 0x1p-22;
-
 struct Power {
     double value;
     double unsure; ///< the part of the value by which the library's may be another before it is rounded
@@ -67,10 +63,10 @@ inline float mantissa(float base)
 }
 
 /// The polynomial of these coefficients, the highest power's first, by Horner's rule.
-template <class Value, class... Coefficients> inline Value polynomial(Value x, double highest, Coefficients... others)
+template <class... Coefficients> inline double polynomial(double x, double highest, Coefficients... others)
 {
-    Value sum = Value(highest);
-    ((sum = sum * x + Value(others)), ...);
+    double sum = highest;
+    ((sum = sum * x + others), ...);
     return sum;
 }
 
@@ -98,14 +94,19 @@ template <class Product> Power productOf(float base, double exponent, Product pr
     return {product(double(base)), libraryError(exponent * (std::abs(wholeLog(base)) + 0.5))};
 }
 
-// Those of the recipes, in double and, for a trial, in single precision.
-constexpr auto sesqui = [](auto x) { return x * std::sqrt(x); };
-constexpr auto cubed = [](auto x) { return x * x * x; };
-constexpr auto toTheFifth = [](auto x) { return x * x * (x * x) * x; };
-
 inline Power sesquiPowerOf(float base)
 {
-    return productOf(base, 1.5, sesqui);
+    return productOf(base, 1.5, [](double x) { return x * std::sqrt(x); });
+}
+
+inline Power cubeOf(float base)
+{
+    return productOf(base, 3.0, [](double x) { return x * x * x; });
+}
+
+inline Power fifthPowerOf(float base)
+{
+    return productOf(base, 5.0, [](double x) { return x * x * (x * x) * x; });
 }
 
 /// Both ends of where the library's result may lie. They round to the same float unless the middle between two lies
@@ -150,30 +151,6 @@ template <class Function> void raiseBy(float* values, int count, float exponent,
     std::copy_n(result.at, count, values);
 }
 
-/// 2^-n, n from 0 up to 126, times 2^f, f on -1/2 .. 1/2.
-inline float powerOfTwoOf(float y)
-{
-    constexpr float rounder = 12582912.0f; // 1.5 x 2^23, which leaves the whole part in the lowest bits
-    const float shifted = y + rounder, f = (y - (shifted - rounder)) * float(log2);
-    const float e = polynomial(f, 1.0 / 5040.0, 1.0 / 720.0, 1.0 / 120.0, 1.0 / 24.0, 1.0 / 6.0, 0.5, 1.0, 1.0);
-    return e * std::bit_cast<float>((std::bit_cast<std::uint32_t>(shifted) + 127u) << 23);
-}
-
-/// As powerOf, with as many steps of its series as a float has use for. What is less than 2^-126 stays about there.
-inline float nearPowerOf(float base, float exponent)
-{
-    const float m = mantissa(base), z = (m - 1.0f) / (m + 1.0f), z2 = z * z;
-    const float series = polynomial(z2, 1.0 / 9.0, 1.0 / 7.0, 1.0 / 5.0, 1.0 / 3.0, 1.0);
-    const float y = exponent * (float(wholeLog(base)) + z * series * float(twoOverLog2));
-    return powerOfTwoOf(larger(y, -126.0f));
-}
-
-template <class Function> void raiseNearlyBy(float* values, int count, Function power)
-{
-    for (int i = 0; i < count; i++)
-        values[i] = power(values[i]);
-}
-
 } // namespace
 
 void raise(float* values, int count, float exponent)
@@ -182,28 +159,11 @@ void raise(float* values, int count, float exponent)
     if (exponent == 1.5f)
         raiseBy(values, count, exponent, [](float base) { return sesquiPowerOf(base); });
     else if (exponent == 3.0f)
-        raiseBy(values, count, exponent, [](float base) { return productOf(base, 3.0, cubed); });
+        raiseBy(values, count, exponent, [](float base) { return cubeOf(base); });
     else if (exponent == 5.0f)
-        raiseBy(values, count, exponent, [](float base) { return productOf(base, 5.0, toTheFifth); });
+        raiseBy(values, count, exponent, [](float base) { return fifthPowerOf(base); });
     else
         raiseBy(values, count, exponent, [=](float base) { return powerOf(base, exponent); });
-}
-
-void raiseNearly(float* values, int count, float exponent)
-{
-    if (exponent == 1.5f)
-        raiseNearlyBy(values, count, sesqui);
-    else if (exponent == 3.0f)
-        raiseNearlyBy(values, count, cubed);
-    else if (exponent == 5.0f)
-        raiseNearlyBy(values, count, toTheFifth);
-    else
-        raiseNearlyBy(values, count, [=](float base) { return nearPowerOf(base + 0.0f, exponent); }); // no -0
-}
-
-ErrorBound nearPower()
-{
-    return {-nearPowerError, 1.0 + nearPowerError, nearPowerError};
 }
 
 float sesquiPower(float value)
@@ -213,23 +173,18 @@ float sesquiPower(float value)
     return sure ? rounded.below : std::pow(value, 1.5f);
 }
 
-void applySCurve(float* values, int count, float exponent, Raise toPower)
+void applySCurve(float* values, int count, float exponent)
 {
     float power[blockPixels];
     for (int i = 0; i < count; i++) {
         const float x = values[i];
         power[i] = x < 0.5f ? x + x : float(2.0 - 2.0 * x);
     }
-    toPower(power, count, exponent);
+    raise(power, count, exponent);
     for (int i = 0; i < count; i++) {
         const float p = power[i], lower = p * 0.5f, upper = float(1.0 - 0.5 * p);
         values[i] = values[i] < 0.5f ? lower : upper;
     }
-}
-
-ErrorBound nearSCurve()
-{
-    return rounded(1.0 - 0.5 * nearPower());
 }
 
 } // namespace lumora

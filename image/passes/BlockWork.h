@@ -26,24 +26,23 @@ void workBlock(Block& block, const Recipe& recipe, const float* weights = nullpt
 }
 
 /// Works a recipe into the bytes of one block after another, with a trial where that is worth while.
-template <class Recipe, class Weights, class ToByte = NoLevels> class BlockWork {
+template <class Recipe, class ToByte> class BlockWork {
 public:
     /// `error` is that of errorOfTrial.
-    BlockWork(const Recipe& recipe, double error, ToByte toByte = {})
+    BlockWork(const Recipe& recipe, double error, ToByte toByte)
         : m_isTried(error < tolerableError)
         , m_trial(recipe, error, toByte)
     {
     }
 
-    bool isTried() const { return m_isTried; }
-
-    /// The planes of the block are filled. Pixels of it may wait for finish().
-    void on(Block& block, const Weights& weights)
+    /// The planes of the block are filled; `weights` are those of its pixels, if any. Pixels of it may wait for
+    /// finish().
+    void on(Block& block, const float* weights)
     {
         if constexpr (isMadeFor<Single, Recipe>)
             if (m_isTried)
                 return m_trial.work(block, weights);
-        workBlock(block, m_trial.recipe, weights.at, m_trial.toByte);
+        workBlock(block, m_trial.recipe, weights, m_trial.toByte);
     }
     void finish()
     {
@@ -53,7 +52,7 @@ public:
 
 private:
     const bool m_isTried;
-    Trial<Recipe, Weights, ToByte> m_trial;
+    Trial<Recipe, ToByte> m_trial;
 };
 
 } // namespace lumora

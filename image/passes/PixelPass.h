@@ -14,8 +14,8 @@ namespace lumora {
 template <class Source, class Recipe, class ToByte = NoLevels>
 void passOver(CharImage& image, Source& source, const Recipe& recipe, double error, ToByte toByte = {})
 {
-    BlockWork<Recipe, KnownWeights, ToByte> work(recipe, error, toByte);
-    forEachBlock(image, [&](Block& block) { work.on(block, {source.fill(block)}); });
+    BlockWork work(recipe, error, toByte);
+    forEachBlock(image, [&](Block& block) { work.on(block, source.fill(block)); });
     work.finish();
 }
 

@@ -26,25 +26,8 @@ inline constexpr auto inParts = [](float v) {
 /// Pixels on which a trial does not decide are evaluated so many at a time.
 inline constexpr int groupPixels = 8;
 
-/// The weights of a block's pixels, which a trial has exactly: tones and the like, or none.
-struct KnownWeights {
-    const float* at = nullptr;
-
-    /// Whether the recipe does nothing to the pixel.
-    bool keep(int) const { return false; }
-
-    /// Those of a group.
-    struct Group {
-        float weight[groupPixels] = {};
-
-        void set(int j, const KnownWeights& weights, int i) { weight[j] = weights.at ? weights.at[i] : 0.0f; }
-        void evaluate(float* exact) const { std::copy_n(weight, groupPixels, exact); }
-    };
-};
-
-/// A recipe that is tried on one block after another. `Weights` has a block's weights as the trial takes them (`at`),
-/// which of its pixels the recipe leaves alone (`keep`), and the exact weights of a group (`Group`).
-template <class Recipe, class Weights, class ToByte> class Trial {
+/// A recipe that is tried on one block after another.
+template <class Recipe, class ToByte> class Trial {
 public:
     const Recipe recipe;
     const ToByte toByte;
@@ -60,9 +43,9 @@ public:
     Trial(const Trial&) = delete;
     Trial& operator=(const Trial&) = delete;
 
-    /// Works the recipe into the bytes of a block, whose planes stay as they were, and closes it. Pixels of it may wait
-    /// for finish().
-    void work(Block& block, const Weights& weights)
+    /// Works the recipe into the bytes of a block, whose planes stay as they were, and closes it. `weights` are those
+    /// of its pixels, if any. Pixels of it may wait for finish().
+    void work(Block& block, const float* weights)
     {
         Planes trial;
         const Planes* from = &block;
@@ -70,7 +53,7 @@ public:
             for (int i = 0; i < blockPixels; i++) {
                 const Rgb before = from->colour(i);
                 const Colour<Single> c =
-                    applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights.at}, i);
+                    applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights}, i);
                 trial.setColour(i, {c.r.value, c.g.value, c.b.value});
             }
             from = &trial;
@@ -79,8 +62,7 @@ public:
         block.storeBytes([&, reach = m_reach](int i) {
             const Colour<int> parts = eachChannel(trial.colour(i), inParts);
             const Colour<int> beyondWhole = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
-            const unsigned char doubt = smallest(beyondWhole) < 2 * reach ? 1 : 0;
-            unsure[i] = weights.keep(i) ? 0 : doubt;
+            unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
             return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
         });
         block.close();
@@ -95,14 +77,14 @@ public:
     }
 
 private:
-    void wait(Block& block, const Weights& weights, int i)
+    void wait(Block& block, const float* weights, int i)
     {
         const int j = m_waiting++;
         m_bytes[j] = block.pixel(i);
         m_r[j] = block.r.at[i];
         m_g[j] = block.g.at[i];
         m_b[j] = block.b.at[i];
-        m_weights.set(j, weights, i);
+        m_weight[j] = weights ? weights[i] : 0.0f;
         if (m_waiting == groupPixels)
             decide();
     }
@@ -110,15 +92,14 @@ private:
     /// Where a group has less than all its pixels, former ones stand for those that are missing.
     void decide()
     {
-        float r[groupPixels], g[groupPixels], b[groupPixels], weight[groupPixels];
+        float r[groupPixels], g[groupPixels], b[groupPixels];
         std::copy_n(m_r, groupPixels, r);
         std::copy_n(m_g, groupPixels, g);
         std::copy_n(m_b, groupPixels, b);
-        m_weights.evaluate(weight);
         recipe.forEach([&](const auto& step) {
 #pragma GCC unroll 1 // eight iterations written out would not become vector code
             for (int j = 0; j < groupPixels; j++) {
-                const Rgb c = applied(step, Rgb{r[j], g[j], b[j]}, weight, j);
+                const Rgb c = applied(step, Rgb{r[j], g[j], b[j]}, m_weight, j);
                 r[j] = c.r;
                 g[j] = c.g;
                 b[j] = c.b;
@@ -132,8 +113,7 @@ private:
     const int m_reach;
     int m_waiting = 0;
     unsigned char* m_bytes[groupPixels];
-    float m_r[groupPixels] = {}, m_g[groupPixels] = {}, m_b[groupPixels] = {};
-    typename Weights::Group m_weights;
+    float m_r[groupPixels] = {}, m_g[groupPixels] = {}, m_b[groupPixels] = {}, m_weight[groupPixels] = {};
 };
 
 } // namespace lumora

@@ -2,6 +2,7 @@
 
 #include "image/CharImage.h"
 #include "image/numbers/Disc.h"
+#include "image/numbers/Power.h"
 #include "image/passes/RadialPass.h"
 
 #include <algorithm>
@@ -46,10 +47,10 @@ struct Shade {
     }
 
     /// How far pixels at these places are darkened, 0 .. 1: `t` becomes it. Within the inner radius it is 0.
-    void becomeDarkness(float* t, int count, Raise toPower = raise) const
+    void becomeDarkness(float* t, int count) const
     {
         for (int first = 0; first < count; first += partPixels)
-            becomeDarknessOfPart(t + first, std::min(partPixels, count - first), toPower);
+            becomeDarknessOfPart(t + first, std::min(partPixels, count - first));
     }
 
     template <class Channel> Colour<Channel> darkened(Colour<Channel> c, Channel level, Channel dark) const
@@ -61,14 +62,12 @@ struct Shade {
 
     void darken(CharImage& image) const
     {
-        const auto darknessAt = [this](Raise toPower, float* weights, const int* across, const int* down, int count) {
+        const auto darknessAt = [this](float* weights, const int* across, const int* down, int count) {
             placeAt(weights, across, down, count);
-            becomeDarkness(weights, count, toPower);
+            becomeDarkness(weights, count);
         };
-        const double error = canBeTriedOn(image) ? curve(ErrorBound(0.0, 1.0), nearPower(), nearPower()).error
-                                                 : std::numeric_limits<double>::infinity();
         forEachPixelAround(
-            image, image.width / 2, image.height / 2, {0.0, 1.0, error}, darknessAt,
+            image, image.width / 2, image.height / 2, {0.0, 1.0}, darknessAt,
             [*this](auto c, auto dark) { return darkened(c, byteLuminance(c), dark); }, true);
     }
 
@@ -82,7 +81,7 @@ struct Shade {
             for (int dx = columnsWithin(innerRadius, dy); dx <= last; dx += partPixels) {
                 float dark[partPixels];
                 placeRowAt(dark, dx, dy, partPixels);
-                becomeDarknessOfPart(dark, partPixels, raise);
+                becomeDarknessOfPart(dark, partPixels);
                 for (int i = 0; i < partPixels && dx + i <= last; i++) {
                     if (cx + dx + i < image.width)
                         darkenPixel(centre + (dx + i) * 4, dark[i]);
@@ -105,19 +104,7 @@ private:
     /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
     static constexpr int partPixels = 32;
 
-    /// Whether raiseNearly is good for the places of all pixels: beyond the outer radius the curve may even be no
-    /// number.
-    bool canBeTriedOn(const CharImage& image) const
-    {
-        const float furthest = distance(float(image.width / 2), float(image.height / 2));
-        return (std::min(furthest, end) - innerRadius) / (outerRadius - innerRadius) <= 1.0f
-            && outerRadius > innerRadius && exponent >= 1.0f && exponent <= 60.0f;
-    }
-
-    /// The blend of the two powers of a place, 1.5 and the exponent.
-    template <class Value> Value curve(Value t, Value a, Value e) const { return ((1.0f - a) * e + t * a) * strength; }
-
-    void becomeDarknessOfPart(float* t, int count, Raise toPower) const
+    void becomeDarknessOfPart(float* t, int count) const
     {
         int reached = 0;
         for (int i = 0; i < count; i++)
@@ -129,11 +116,11 @@ private:
         float a[partPixels], e[partPixels];
         for (int i = 0; i < count; i++)
             a[i] = e[i] = t[i] < 0.0f ? 1.0f : t[i];
-        toPower(a, count, 1.5f);
-        toPower(e, count, exponent);
+        raise(a, count, 1.5f);
+        raise(e, count, exponent);
         for (int i = 0; i < count; i++) {
-            const float dark = curve(t[i], a[i], e[i]);
-            const float held = dark < 0.0f ? 0.0f : dark > 1.0f ? 1.0f : dark;
+            const float dark = ((1.0f - a[i]) * e[i] + t[i] * a[i]) * strength;
+            const float held = dark < 0.0f ? 0.0f : dark < 1.0f ? dark : 1.0f; // what is no number is black, too
             t[i] = t[i] < 0.0f ? 0.0f : held;
         }
     }

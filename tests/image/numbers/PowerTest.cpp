@@ -48,26 +48,6 @@ TEST(Power, IsThatOfTheLibrary)
         expectPowers(exponent, 1e-38f, 1e38f, 100003);
 }
 
-TEST(Power, IsNearlyThatInSinglePrecision)
-{
-    const ErrorBound promised = nearPower();
-    for (float exponent : {1.0f, 1.2f, 1.5f, 2.0f, 3.0f, 5.0f, 7.9f, 60.0f})
-        for (std::uint32_t bits = 0, last = std::bit_cast<std::uint32_t>(1.0f); bits <= last;) {
-            Plane bases, values;
-            for (float& base : bases.at) {
-                base = std::bit_cast<float>(std::min(bits, last));
-                bits += bits < (64u << 23) ? 1000003 : 1009; // sparsely where powers are next to nothing
-            }
-            values = bases;
-            raiseNearly(values.at, blockPixels, exponent);
-            for (int i = 0; i < blockPixels; i++) {
-                const double off = std::fabs(double(values.at[i]) - double(std::pow(bases.at[i], exponent)));
-                ASSERT_LE(off, promised.error) << bases.at[i] << " to the power of " << exponent;
-                ASSERT_TRUE(values.at[i] >= promised.low && values.at[i] <= promised.high) << bases.at[i];
-            }
-        }
-}
-
 TEST(Power, LeavesOddBasesToTheLibrary)
 {
     const float infinity = std::numeric_limits<float>::infinity();
@@ -98,22 +78,6 @@ TEST(Power, RaisesAsManyAsItIsToldTo)
         for (int i = 0; i < blockPixels; i++)
             EXPECT_EQ(values.at[i], i < 40 ? std::pow(0.7f, exponent) : 0.7f) << i;
     }
-}
-
-TEST(Power, CurvesNearlyInSinglePrecision)
-{
-    const ErrorBound promised = nearSCurve();
-    for (float exponent : {1.0f, 3.0f, 4.4f, 5.0f, 8.0f})
-        for (int first = 0; first <= 100000; first += blockPixels) {
-            Plane values;
-            for (int i = 0; i < blockPixels; i++)
-                values.at[i] = std::min(float(first + i) / 100000.0f, 1.0f);
-            const Plane before = values;
-            applySCurve(values.at, blockPixels, exponent, raiseNearly);
-            for (int i = 0; i < blockPixels; i++)
-                ASSERT_LE(std::fabs(double(values.at[i]) - double(sCurve(before.at[i], exponent))), promised.error)
-                    << before.at[i];
-        }
 }
 
 TEST(Power, CurvesABlockAsItCurvesOneValue)

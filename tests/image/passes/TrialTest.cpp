@@ -1,4 +1,5 @@
 #include "image/numbers/Hues.h"
+#include "image/numbers/Power.h"
 #include "image/passes/Levels.h"
 #include "image/passes/PixelPass.h"
 #include "image/passes/RadialPass.h"
@@ -209,10 +210,10 @@ TEST(Trial, DecidesOnPixelsOfManyBlocksTogether)
     const auto isDoubtful = [](int i) { return i % 100 == 7 || i == pixels - 1; };
     for (int i = 0; i < pixels; i++)
         image.data[4 * i] = isDoubtful(i) ? 67 : 30;
-    Trial<Steps<DoubtfulOf67>, KnownWeights, NoLevels> trial(Steps{DoubtfulOf67()}, 1e-4, {});
+    Trial trial(Steps{DoubtfulOf67()}, 1e-4, NoLevels());
     forEachBlock(image, [&](Block& block) {
         block.fillPlanes();
-        trial.work(block, {});
+        trial.work(block, nullptr);
     });
     trial.finish();
     for (int i = 0; i < pixels; i++) {
@@ -221,27 +222,45 @@ TEST(Trial, DecidesOnPixelsOfManyBlocksTogether)
     }
 }
 
-TEST(Trial, DecidesWithTheExactWeights)
+TEST(Trial, DecidesWithTheWeightsOfItsPixels)
 {
     constexpr int width = 600, height = 9, centreX = 411, centreY = 2;
-    for (bool zeroKeeps : {false, true}) {
+    for (const bool keepsPixels : {false, true}) {
         CharImage image(new unsigned char[width * height * 4], width, height);
         std::fill_n(image.data, width * height * 4, static_cast<unsigned char>(100));
-        // Nearly 0 or 1, so that all is in doubt; exactly a number of the place.
-        const auto weightAt = [](int across, int down) { return float(across % 7 + 10 * (down % 3)); };
+        // Whole numbers: every pixel is in doubt. The last columns on the left have none but 0.
+        const auto weightAt = [](int across, int down) {
+            return across < 150 ? float(across % 7 + 10 * (down % 3)) : 0;
+        };
         forEachPixelAround(
             image, centreX, centreY, {0.0, 30.0},
-            [=](Raise toPower, float* weights, const int* across, const int* down, int count) {
+            [=](float* weights, const int* across, const int* down, int count) {
                 for (int i = 0; i < count; i++)
-                    weights[i] = toPower == Raise(raise) ? weightAt(across[i], down[i]) : float(across[i] % 2);
+                    weights[i] = weightAt(across[i], down[i]);
             },
-            [](auto c, auto weight) { return eachChannel(c, [=](auto v) { return v + weight; }); }, zeroKeeps);
+            [](auto c, auto weight) { return eachChannel(c, [=](auto v) { return v + weight; }); }, keepsPixels);
         for (int y = 0; y < height; y++)
-            for (int x = 0; x < width; x++) {
-                const int across = std::abs(x - centreX), down = std::abs(y - centreY);
-                const bool kept = zeroKeeps && across % 2 == 0;
-                const int expected = kept ? 100 : 100 + int(weightAt(across, down));
-                ASSERT_EQ(image.data[(y * width + x) * 4], expected) << x << ", " << y;
-            }
+            for (int x = 0; x < width; x++)
+                ASSERT_EQ(
+                    image.data[(y * width + x) * 4], 100 + int(weightAt(std::abs(x - centreX), std::abs(y - centreY))))
+                    << x << ", " << y;
+    }
+}
+
+TEST(Trial, PassesOverBlocksWhoseWeightsAllKeepTheirPixels)
+{
+    // A recipe that does not keep them shows which blocks are visited.
+    constexpr int width = 2 * blockPixels + 5;
+    for (const bool keepsPixels : {false, true}) {
+        CharImage image(new unsigned char[width * 4](), width, 1);
+        forEachPixelAround(
+            image, 0, 0, {0.0, 1.0},
+            [](float* weights, const int* across, const int*, int count) {
+                for (int i = 0; i < count; i++)
+                    weights[i] = across[i] == blockPixels + 9 ? 1.0f : 0.0f;
+            },
+            [](auto c, auto) { return eachChannel(c, [](auto v) { return v + 9.5f; }); }, keepsPixels);
+        for (int x = 0; x < width; x++)
+            ASSERT_EQ(image.data[4 * x], !keepsPixels || x / blockPixels == 1 ? 9 : 0) << x;
     }
 }
