@@ -36,8 +36,9 @@ struct Recoloured {
         return withSaturation(relit, 2.0f);
     }
 
-    /// The same without the way over the hue: each channel keeps its distance from the lightness, in proportion to the
-    /// room that there is for it. Gives a whole number, on which no trial decides, where the room grows too much.
+    /// The same without hues: each channel keeps its distance from the lightness, in proportion to the room that there
+    /// is between the lightness and the nearer one of black and white. Where the room grows too much the result is a
+    /// whole number, which leaves the pixel to the exact recipe.
     Colour<Single> operator()(Colour<Single> c, Single lightness) const
     {
         const float sum = largest(c).value + smallest(c).value, l = lightness.value;
@@ -46,7 +47,8 @@ struct Recoloured {
         const Colour<Single> relit =
             eachChannel(c, [=](Single v) { return Single(l * 255.0f + (v.value + v.value - sum) * (growth * 0.5f)); });
         const Colour<Single> doubled = withSaturation(relit, 2.0f);
-        // What comes out grey would be whole, too, but its exact way is short; half a step more is no other byte.
+        // What comes out grey would be a whole number, too, but can be decided here: its exact way is short. Half a
+        // step is added to the byte, so that the trial is in no doubt.
         const bool isGrey = (c.g.value == c.b.value) & !(c.r.value < c.g.value);
         const Single certain = float(truncateAndClamp(withSaturation(grey(l * 255.0f), 2.0f).r)) + 0.5f;
         return eachChannel(
@@ -55,12 +57,8 @@ struct Recoloured {
 
     static constexpr float mostGrowth = 4.0f;
 
-    /// How far the short way may be off. With a growth g, everything as shares of 1, and e = 2^-25, half a last place
-    /// below 1: the exact way has the bytes' shares off by e each, the distance of the extremes by 3e and what it is
-    /// divided by for the saturation by 4e; half the new distance is then off by 3.5e g + e, the largest channel by 4e
-    /// and the smallest by 5e more. The hue, in sextants, is off by 6e over the old distance and by 24e of its own
-    /// roundings; with it the middle channel is off by 17e g + 47e at most. For g = 4 that is 115e, or 0.0009 of 255;
-    /// doubling the saturation triples it. All roundings of values below 1024, here and there, add less than 0.0003.
+    /// How far the short way may be off in a channel. It grows with the growth of the room, which is why that has a
+    /// limit. A test holds it to every colour of bytes.
     static constexpr double error = 0.0035;
 };
 

@@ -23,17 +23,20 @@ constexpr double log2 = 0.6931471805599453;
 
 struct Power {
     double value;
-    double unsure; ///< the part of the value by which the library's may be another before it is rounded
+    double unsure; ///< how far the library's unrounded result may be from it, as a part of the value
 };
 
-/// The part of a result of this logarithm, to the base 2, by which the library may err before it rounds: its logarithm
-/// is good to 1.83 x 2^-33, of which ln 2 times as much is left in the power, and its power of 2 to 1.69 x 2^-34.
+/// How far the library's result may be off before it is rounded, as a part of the result. `log` is the result's
+/// logarithm to the base 2. The library finds that logarithm to 1.83 x 2^-33 of itself, which moves the power by ln 2
+/// times as much, and the power of 2 to 1.69 x 2^-34. A test compares the outcome with the library's for all floats
+/// that matter.
 inline double libraryError(double log)
 {
     return 0x1p-33 + std::fabs(log) * (1.3 * 0x1p-33);
 }
 
-/// The bases whose powers are made here: those from 2^-n to 2^n, positive and normal, whose results are not extreme.
+/// The bases whose powers are made here: those from 2^-n to 2^n, where n is so small that the powers are neither tiny
+/// nor huge.
 struct Bases {
     float lowest, highest;
 
@@ -88,7 +91,7 @@ inline Power powerOf(float base, double exponent)
     return {e * scale, libraryError(y) + 0x1p-33};
 }
 
-/// The same for an exponent that takes a product or two: `product(base)` is good to almost all of a double.
+/// The same for an exponent that one or two products are enough for: `product(base)`, which is nearly exact.
 template <class Product> Power productOf(float base, double exponent, Product product)
 {
     return {product(double(base)), libraryError(exponent * (std::abs(wholeLog(base)) + 0.5))};

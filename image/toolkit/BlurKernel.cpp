@@ -32,10 +32,9 @@ int multiplierFor(float weight)
 /// Lists the bytes whose float arithmetic goes beyond their share.
 void listCarries(float weight, std::uint16_t multiplier, std::vector<BlurCarry>& carries)
 {
-    constexpr double safeFraction = 1.0 - 1.0 / 32768;
     for (int byte = 1; byte < 256; byte++) {
         const double product = double(byte) * weight;
-        if (product - int(product) < safeFraction)
+        if (product - int(product) < blurSafeFraction)
             continue;
         const auto value = static_cast<unsigned char>(byte);
         const int share = blurShare(value, multiplier);

@@ -11,17 +11,15 @@ namespace lumora {
 //
 //     sum = truncateAndWrap(sum + byte * weight)
 //
-// For weights of 0 or more and below 1 that is whole-number arithmetic. Let n be the whole part of the exact
-// byte * weight. The float product lies in n .. n + 1, and so does its float sum with the running sum s in
-// s + n .. s + n + 1, because rounding never passes a number that a float can hold. A tap therefore adds n, or n + 1
-// when rounding reached the next whole number. Products stay below 256 and sums below 512, so the two roundings move
-// the value by 2^-17 and 2^-16 at most: only a fraction of 1 - 2^-15 or more can carry. Such bytes are rare and are
-// listed one by one. The larger the sum, the coarser the floats around it: a byte that carries at one sum carries at
-// every larger one.
+// For weights of 0 or more and below 1 that is whole-number arithmetic. A tap adds the whole part of byte * weight, the
+// byte's share, which a multiplication gives: (byte * multiplier) >> 16. Rarely it adds 1 more: where the product lies
+// so near to the next whole number that a sum in floats is rounded up to it. A product that does so for one sum does so
+// for every larger sum, as floats are coarser there. Such bytes are listed one by one.
 //
-// What remains is n, which a multiplication gives: (byte * multiplier) >> 16. There is such a 16-bit multiplier unless
-// the weight is within 2^-16 of 1: the fractions n / byte and (n + 1) / byte that bound it from both sides differ by
-// 1 / (255 * 254) at least, which is more than 2^-16.
+// Weights for which that does not hold are rare (next to 1, or no numbers); the blur then adds floats.
+
+/// A product whose fraction is less is never rounded up.
+inline constexpr double blurSafeFraction = 1.0 - 1.0 / 32768;
 
 /// A byte that adds 1 more than its share to a running sum of `leastSum` or more.
 struct BlurCarry {

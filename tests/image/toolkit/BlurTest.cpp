@@ -5,6 +5,7 @@
 #include "tests/reference/Toolkit.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -232,6 +233,26 @@ TEST(Blur, KnowsItsBoxes)
     // Every share is 0: the picture turns black.
     EXPECT_TRUE(isWhole(301, 0.0f, &box) && !box);
     expectBlurMatchesTwin(randomPicture(9, 9, 1), 301, 0.0f);
+}
+
+TEST(Blur, RoundsUpOnlyFromASafeFractionOnAndThenEveryLargerSum)
+{
+    // All products below 256 whose fraction is the safe one or more, and all sums. Sums with a smaller product are no
+    // larger than those with the first one.
+    for (int whole = 0; whole < 256; whole++) {
+        const auto first = float(whole + blurSafeFraction);
+        ASSERT_EQ(double(first), whole + blurSafeFraction);
+        for (float product = first; product < float(whole + 1); product = std::nextafter(product, 256.0f)) {
+            bool roundsUp = false;
+            for (int sum = 0; sum < 256; sum++) {
+                const int more = int(float(sum) + product) - sum - whole;
+                ASSERT_TRUE(more == 0 || more == 1) << sum << " + " << product;
+                ASSERT_FALSE(roundsUp && more == 0) << sum << " + " << product;
+                roundsUp = more == 1;
+            }
+            ASSERT_FALSE(roundsUp && product == first) << product;
+        }
+    }
 }
 
 TEST(Blur, HasAMultiplierForEveryTap)
