@@ -71,7 +71,7 @@ void CharImage::applyHelgaFilter()
     };
     // Saturation may pass 1: the black floor catches it.
     const auto darkened = [](auto c, auto e) { return withSaturationAndValueTimes(c, 1.0 + 0.4 * e, 1.0 - e); };
-    // Half a step more than the floor makes no other byte, and no trial can be in doubt of it.
+    // Half a step above the floor gives the same byte, and is too far from a whole number to leave a trial in doubt.
     const float floor = float(p.blackFloor) + 0.5f;
     const auto floored = [=](auto c) { return eachChannel(c, [=](auto v) { return notBelow(v, floor); }); };
     forEachPixelAround(

@@ -75,8 +75,8 @@ void CharImage::applyLightleakFilter()
         const auto l = brightness(c);
         return Colour{castBy(c.r, g, l, 255.0f), castBy(c.g, g, l, 130.0f), c.b * (1.0f - g)};
     };
-    // It never goes below 62, on purpose. Up to half a step more makes no other byte, and no trial can be in doubt of
-    // it.
+    // It never goes below 62, on purpose. 62.5 gives the same byte, and is too far from a whole number to leave a trial
+    // in doubt.
     const auto contrasted = [](auto c) {
         const auto p = sesquiPower(brightness(c));
         return eachChannel(c, [=](auto v) { return notBelow(withShareTimes(v, p, 1.1f) * 1.35f, 62.5f); });

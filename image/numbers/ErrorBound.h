@@ -35,16 +35,17 @@ struct ErrorBound {
 
     double magnitude() const { return std::max(std::fabs(low), std::fabs(high)); }
 
-    /// After so many roundings to a float in one or the other evaluation. A rounding in double, and one of the smallest
-    /// floats, hide in what is added.
+    /// The same value after the two evaluations together have rounded it to a float so many times. What is added for
+    /// each is a little more than half a last place: it also covers a rounding in double, and one of the smallest
+    /// floats.
     ErrorBound roundedTimes(int times) const
     {
         const double lost = magnitude() * 0x1.001p-24 + 0x1p-149;
         return {low - lost, high + lost, error + times * lost, isDouble};
     }
 
-    /// After steps whose results, each as often as it is rounded in either evaluation, are `results` in sum at most.
-    /// The exact evaluation without its roundings lies on `lowest` .. `highest`.
+    /// The result of several steps at once. Without roundings it lies on `lowest` .. `highest`, and the two evaluations
+    /// are `apart`. `results` is the sum of the magnitudes of all results that one of them or the other rounds.
     static ErrorBound afterSteps(double lowest, double highest, double apart, double results)
     {
         const double error = apart + results * 0x1.001p-24 + 0x1p-140;
@@ -80,7 +81,8 @@ inline ErrorBound rounded(ErrorBound v)
     return single;
 }
 
-/// Whether a value lies below another when that may depend on the pixel. Both evaluations must know it exactly.
+/// The outcome of a comparison, which may differ from pixel to pixel. The two evaluations must not disagree on it, so
+/// both need the exact value.
 struct MayBe {
     double error; ///< infinite if they do not
 };
@@ -102,7 +104,8 @@ inline ErrorBound byteLuminance(Colour<ErrorBound> c)
     return {level.low, level.high, bytes ? 0.0 : std::numeric_limits<double>::infinity()};
 }
 
-/// By the exact form and the one of Single together, more closely than the intervals of the exact steps would have it.
+/// The exact form and the one in Single.h differ, so their roundings are added up here. The bound is closer than the
+/// one that the single steps would give.
 template <class Gain> ErrorBound withShareTimes(ErrorBound v, ErrorBound share, Gain constantGain)
 {
     const double gain = constantGain, gainError = ErrorBound(gain).error;

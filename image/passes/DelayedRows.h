@@ -7,9 +7,9 @@
 
 namespace lumora {
 
-/// New rows of a picture, for a look that reads around the pixel that it writes: each is made aside and replaces the
-/// former one when others were begun, so that the picture can be read as it was for as long. That spares the memory of
-/// a whole copy.
+/// New rows of a picture, for a look that reads around the pixel that it writes. A new row is kept aside until some
+/// more rows are begun; only then it replaces the old one, which can be read until then. A copy of the whole picture
+/// would take more memory.
 class DelayedRows {
 public:
     /// A row waits until `count` more are begun, 1 at least.

@@ -5,8 +5,8 @@
 
 namespace lumora {
 
-/// The levels stretch of fillHistogram for one picture: what a channel's whole value 0 .. 255 becomes, a whole value
-/// too. A pass that takes it on the way in saves a pass of its own over the picture.
+/// The levels stretch of fillHistogram for one picture: each whole value of a channel, 0 .. 255, becomes another one. A
+/// pass can stretch the colours as it reads them, which saves a pass over the picture.
 struct Levels {
     float offset; ///< dark cut-off and darkest sample together
     float scale; ///< infinite for a flat picture; what follows is then what the arithmetic gives
@@ -21,7 +21,7 @@ struct Levels {
     }
     float operator()(float v) const { return float(byteOf(v)); }
 
-    /// Whether every value lands on a number that is held within 0 .. 255, so that half of byteOf's care is not needed.
+    /// Whether every value lands on a number of 0 .. 255. ordinaryByteOf, which is quicker, is then the same as byteOf.
     bool isOrdinary() const
     {
         return std::isfinite(scale) && std::isfinite(lowLevel) && floor >= 0.0f && floor <= ceiling && ceiling < 256.0f;
@@ -37,7 +37,7 @@ private:
     float placeOf(float v) const { return scale * (v - offset) + lowLevel; }
 };
 
-/// Calls `function(byteOf)` with the quickest function that these levels are.
+/// Calls `function(byteOf)`, where `byteOf(value)` is what these levels make of a value, in its quickest form.
 template <class Function> void withByteOf(const Levels& levels, Function function)
 {
     if (levels.isOrdinary())

@@ -24,8 +24,8 @@ template <class Source, class Recipe> void passOver(CharImage& image, Source& so
     passOver(image, source, recipe, errorOfTrial(recipe, source.inputs()));
 }
 
-/// A pass and fillHistogram after it, in one walk over the picture: the levels ask only for every tenth pixel, so that
-/// the pass over those comes first.
+/// A pass and fillHistogram after it, in one walk over the picture. The levels depend on every tenth pixel only: these
+/// are worked first, in a copy, to find the levels.
 template <class Source, class Recipe>
 void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stretch& stretch)
 {
@@ -39,8 +39,8 @@ void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stre
         [&](auto byteOf) { passOver(image, source, recipe, error, LevelsOnBytes<decltype(byteOf)>{byteOf}); });
 }
 
-/// Each pixel becomes `function(colour)`; `function` may be Steps. With a Stretch at the end, of this and the one with
-/// tones, the levels follow.
+/// Each pixel becomes `function(colour)`; `function` may be Steps. `finish` is nothing or a Stretch, to which the
+/// levels of the result are stretched then.
 template <class Function, class... Finish> void forEachPixel(CharImage& image, Function function, Finish... finish)
 {
     Colours source;
@@ -63,7 +63,7 @@ void forEachPixel(
     passOver(image, source, stepsOf(function));
 }
 
-/// Each pixel becomes `function(colour, tone)`, the tone looked up by the pixel's luminance.
+/// Each pixel becomes `function(colour, tone)`, the tone looked up by the pixel's luminance. `finish` is as above.
 template <class Function, class... Finish>
 void forEachPixel(CharImage& image, const ToneTable& tones, Function function, Finish... finish)
 {

@@ -17,10 +17,10 @@ public:
     /// `function` gets the luminance, 0 .. 255.
     template <class Function>
     explicit ToneTable(Function function)
-        : values(std::make_unique<float[]>(tones))
+        : m_values(std::make_unique<float[]>(tones))
     {
         for (int n = 0; n < tones; n++)
-            values[n] = function(luminanceOf(n));
+            m_values[n] = function(luminanceOf(n));
     }
 
     /// The luminance of the pixels with that whole number, exactly as luminance() gives it.
@@ -29,7 +29,7 @@ public:
     /// From the least value to the greatest.
     ErrorBound range() const
     {
-        const auto [lowest, highest] = std::minmax_element(values.get(), values.get() + tones);
+        const auto [lowest, highest] = std::minmax_element(m_values.get(), m_values.get() + tones);
         return {*lowest, *highest};
     }
 
@@ -40,11 +40,11 @@ public:
         for (int i = 0; i < blockPixels; i++)
             index[i] = int(block.r.at[i] * 30.0f + block.g.at[i] * 59.0f + block.b.at[i] * 11.0f);
         for (int i = 0; i < blockPixels; i++)
-            plane.at[i] = values[index[i]];
+            plane.at[i] = m_values[index[i]];
     }
 
 private:
-    std::unique_ptr<float[]> values;
+    std::unique_ptr<float[]> m_values;
 };
 
 } // namespace lumora

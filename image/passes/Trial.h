@@ -23,7 +23,7 @@ inline constexpr auto inParts = [](float v) {
     return notBelow < 255 * partsOfOne + partsOfOne / 2 ? notBelow : 255 * partsOfOne + partsOfOne / 2;
 };
 
-/// Pixels on which a trial does not decide are evaluated so many at a time.
+/// Pixels on which the trial does not decide are collected, and evaluated exactly in groups of this size.
 inline constexpr int groupPixels = 8;
 
 /// A recipe that is tried on one block after another.
@@ -36,7 +36,7 @@ public:
     Trial(const Recipe& tried, double error, ToByte bytes)
         : recipe(tried)
         , toByte(bytes)
-        // One part more for what is cut off, and one for the error's own.
+        // Two parts more: one that the result may lose when it is cut to whole parts, and one that the error loses.
         , m_reach(int(std::min(error, tolerableError) * partsOfOne) + 2)
     {
     }
@@ -89,7 +89,8 @@ private:
             decide();
     }
 
-    /// Where a group has less than all its pixels, former ones stand for those that are missing.
+    /// Works a whole group, also when fewer pixels wait: the other places still hold pixels of former groups, whose
+    /// results are not stored.
     void decide()
     {
         float r[groupPixels], g[groupPixels], b[groupPixels];

@@ -50,82 +50,82 @@ public:
     WaitingRows(const CharImage& image, int channels, int radius)
         : height(image.height)
         , length(std::size_t(image.width) * channels)
-        , kept(std::size_t(std::min(2 * radius + 2, height)))
-        , bytes(kept * length)
+        , m_kept(std::size_t(std::min(2 * radius + 2, height)))
+        , m_bytes(m_kept * length)
     {
     }
 
-    unsigned char* operator[](int y) { return &bytes[std::size_t(y) % kept * length]; }
+    unsigned char* operator[](int y) { return &m_bytes[std::size_t(y) % m_kept * length]; }
     /// The rows beyond the first and the last are these again.
     const unsigned char* clamped(int y) { return (*this)[std::clamp(y, 0, height - 1)]; }
 
 private:
-    const std::size_t kept;
-    std::vector<unsigned char> bytes;
+    const std::size_t m_kept;
+    std::vector<unsigned char> m_bytes;
 };
 
 /// The blur of any weights: every tap of every pixel is weighed.
 class WeightedBlur {
 public:
-    WeightedBlur(const BlurKernel& k, const WaitingRows& waiting)
-        : kernel(k)
-        , rows(k.taps.size())
-        , result(waiting.length)
+    WeightedBlur(const BlurKernel& kernel, const WaitingRows& waiting)
+        : m_kernel(kernel)
+        , m_rows(kernel.taps.size())
+        , m_result(waiting.length)
     {
     }
 
     void across(unsigned char* padded, int width, unsigned char* to)
     {
-        for (std::size_t t = 0; t < rows.size(); t++)
-            rows[t] = padded + kernel.radius + kernel.taps[t].offset;
-        weighRows(kernel.taps, rows.data(), std::size_t(width), to);
+        for (std::size_t t = 0; t < m_rows.size(); t++)
+            m_rows[t] = padded + m_kernel.radius + m_kernel.taps[t].offset;
+        weighRows(m_kernel.taps, m_rows.data(), std::size_t(width), to);
     }
 
     const unsigned char* down(WaitingRows& waiting, int y)
     {
-        for (std::size_t t = 0; t < rows.size(); t++)
-            rows[t] = waiting.clamped(y + kernel.taps[t].offset);
-        weighRows(kernel.taps, rows.data(), result.size(), result.data());
-        return result.data();
+        for (std::size_t t = 0; t < m_rows.size(); t++)
+            m_rows[t] = waiting.clamped(y + m_kernel.taps[t].offset);
+        weighRows(m_kernel.taps, m_rows.data(), m_result.size(), m_result.data());
+        return m_result.data();
     }
 
 private:
-    const BlurKernel& kernel;
-    std::vector<const unsigned char*> rows;
-    std::vector<unsigned char> result;
+    const BlurKernel& m_kernel;
+    std::vector<const unsigned char*> m_rows;
+    std::vector<unsigned char> m_result;
 };
 
 /// The blur of equal weights: a byte's share is the same at every tap, and sums of shares move along.
 class BoxBlur {
 public:
     BoxBlur(const BlurKernel& kernel, const WaitingRows& waiting)
-        : radius(kernel.radius)
-        , multiplier(kernel.taps[0].multiplier)
-        , sums(waiting.length)
+        : m_radius(kernel.radius)
+        , m_multiplier(kernel.taps[0].multiplier)
+        , m_sums(waiting.length)
     {
     }
 
     /// Leaves the shares of the second pass.
     void across(unsigned char* padded, int width, unsigned char* to)
     {
-        takeShares(padded, std::size_t(width) + 2 * std::size_t(radius), multiplier);
-        sumWindows(padded, std::size_t(width), 2 * radius + 1, to);
-        takeShares(to, std::size_t(width), multiplier);
+        takeShares(padded, std::size_t(width) + 2 * std::size_t(m_radius), m_multiplier);
+        sumWindows(padded, std::size_t(width), 2 * m_radius + 1, to);
+        takeShares(to, std::size_t(width), m_multiplier);
     }
 
     const unsigned char* down(WaitingRows& waiting, int y)
     {
-        // It begins with the sums of a row above the first, which moves into place as every other does.
-        for (int offset = -radius; y == 0 && offset <= radius; offset++)
-            addRow(sums.data(), waiting.clamped(offset - 1), sums.size());
-        replaceRow(sums.data(), waiting.clamped(y - 1 - radius), waiting.clamped(y + radius), sums.size());
-        return sums.data();
+        // The first row, too, is made from the sums of the row before it: those stand above the picture.
+        for (int offset = -m_radius; y == 0 && offset <= m_radius; offset++)
+            addRow(m_sums.data(), waiting.clamped(offset - 1), m_sums.size());
+        replaceRow(m_sums.data(), waiting.clamped(y - 1 - m_radius), waiting.clamped(y + m_radius), m_sums.size());
+        return m_sums.data();
     }
 
 private:
-    const int radius;
-    const std::uint16_t multiplier;
-    std::vector<unsigned char> sums;
+    const int m_radius;
+    const std::uint16_t m_multiplier;
+    std::vector<unsigned char> m_sums;
 };
 
 /// Both passes in one walk down the image: a row is blurred across as soon as a row above needs it, and overwritten in

@@ -29,7 +29,7 @@ void addTap(Strip& sums, const unsigned char* row, std::uint16_t multiplier, int
         sums[i] += blurShare(row[i], multiplier);
 }
 
-/// Four taps at once spare the sums three ways out to memory and back.
+/// Four taps at once: the sums are loaded and stored once instead of four times.
 void addFourTaps(Strip& sums, const unsigned char* const* rows, std::size_t at, const BlurTap* taps, int count)
 {
     const unsigned char *const a = rows[0] + at, *const b = rows[1] + at, *const c = rows[2] + at,

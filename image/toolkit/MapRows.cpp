@@ -43,8 +43,8 @@ inline float settled(float sum, float value, float keptChange)
     return float(int(settling) & 255);
 }
 
-/// The smoothed values of a block whose weighted values stand `x` after each source, in one loop without ways to memory
-/// in between.
+/// The smoothed values of a block, whose values begin `x` after the start of each source. For a fixed number of taps,
+/// so that sums need not be stored between them.
 template <int taps> void smooth(float* to, const float* const* sources, const float* weights, float keptChange, int x)
 {
     const float* values[taps];
