@@ -2,9 +2,9 @@
 
 #include "image/CharImage.h"
 #include "image/framing/BestFit.h"
-#include "image/framing/Resample.h"
 #include "photo/OnWhite.h"
 #include "render/LargePages.h"
+#include "render/Resample.h"
 
 #include <QTransform>
 #include <QtEndian>

@@ -1,12 +1,10 @@
 #include "render/Scaled.h"
 
-#include "image/framing/Resample.h"
 #include "photo/OnWhite.h"
+#include "render/Resample.h"
 
 #include <QColorSpace>
 #include <utility>
-
-using namespace lumora;
 
 QImage scaledTo(const QImage& image, const QSize& size)
 {

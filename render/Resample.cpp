@@ -1,4 +1,4 @@
-#include "image/framing/Resample.h"
+#include "render/Resample.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,8 +7,6 @@
 #include <limits>
 #include <type_traits>
 #include <vector>
-
-namespace lumora {
 
 namespace {
 
@@ -290,6 +288,11 @@ void draw(const PixelRows& source, const Side& columns, const Side& rows, unsign
 
 } // namespace
 
+// Made twice by GCC on Linux, with all that it calls: for every x86-64 processor, and for those with AVX2, where it
+// takes a sixth less time. The program takes the one that the processor can run; the bytes are the same.
+#if defined(__x86_64__) && defined(__linux__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
+__attribute__((target_clones("avx2", "default"), flatten))
+#endif
 void drawScaled(
     const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth, int outHeight)
 {
@@ -310,5 +313,3 @@ void drawScaled(
     else
         draw<std::uint32_t>(source, columns, rows, out, outWidth);
 }
-
-} // namespace lumora

@@ -4,8 +4,6 @@
 
 #include <cstddef>
 
-namespace lumora {
-
 /// A picture in memory that is only read: 4 bytes a pixel, rows top first, `bytesPerRow` apart.
 struct PixelRows {
     const unsigned char* data;
@@ -28,5 +26,3 @@ struct PlacedRect {
 /// alone.
 LUMORA_API void drawScaled(
     const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth, int outHeight);
-
-} // namespace lumora

@@ -1,12 +1,10 @@
-#include "image/framing/Resample.h"
+#include "render/Resample.h"
 #include "tests/reference/Picture.h"
 
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <utility>
-
-using namespace lumora;
 
 namespace {
 
