@@ -35,8 +35,9 @@ Subject& subjectOf(const Size& size)
     return *subject;
 }
 
-/// Measured on the small photo alone, as the twins are slow. Their time per pixel hardly depends on the size, but for
-/// the looks whose blur grows with the photo: at the large size these stand worse beside their twin than they are.
+/// The twins are slow, so that they are measured on the small photo alone, and compared with the engine at both sizes.
+/// That is fair where a twin's time per pixel is the same at any size. The blur of some looks grows with the photo:
+/// their twins would be slower on the large one, and the gain that is shown for it is too small.
 double twinNanoseconds(const Row& row)
 {
     static std::map<std::string, double> known;

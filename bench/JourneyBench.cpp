@@ -1,7 +1,7 @@
 // Measures what a person waits for, with a photo of 24 megapixels, on a real display: journey_bench LUMORA FOLDER
 //
-// LUMORA is the program, FOLDER takes the photo. A time is the least of a few measurements, but opening is measured
-// once; it is a person's time unless it says that it is the processor's.
+// LUMORA is the program, FOLDER takes the photo. Opening is measured once, everything else a few times,
+// of which the shortest is shown. Times are those of a clock on the wall unless they say that they are the processor's.
 
 #include "app/MainWindowController.h"
 #include "bench/Measure.h"

@@ -2,6 +2,6 @@
 
 #include "tests/reference/Picture.h"
 
-/// A picture that asks of the engine what a photo asks: a bright sky, a dark ground, shapes with edges, every tone and
+/// A picture that costs as much as a photo: a bright sky, a dark ground, shapes with edges, every tone and
 /// fine grain. The same at every size but for the grain; byte 3 is 255.
 Picture benchPhoto(int width, int height);

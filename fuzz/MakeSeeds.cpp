@@ -1,6 +1,7 @@
 // Makes the inputs that the fuzz targets start from: make_seeds FOLDER
 //
-// One folder per target, named after it. Small, and between them with every feature of the formats.
+// There is one folder for each target, named after it. The files are small, and together they use every feature of the
+// formats.
 
 #include "image/FilterNumber.h"
 

@@ -1,7 +1,7 @@
 // A window that files are dragged out of, as a file manager's is: journey_drag_source FILE...
 //
 // Tells on standard output that the pointer has "entered" it, then what the target under the pointer answers: "copy" or
-// "nothing" while the drag goes on, and "over" at its end. What the target made of the drop it does not hear.
+// "nothing" while the drag goes on, and "over" at its end. It is not told what the target made of the drop.
 
 #include <QApplication>
 #include <QDrag>

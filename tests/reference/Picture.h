@@ -22,7 +22,7 @@ struct Picture {
 /// Every byte at random between the bounds, byte 3 too.
 Picture randomPicture(int width, int height, unsigned seed, int lowest = 0, int highest = 255);
 Picture flatPicture(int width, int height, int red, int green, int blue);
-/// Slopes, rings, a bright sun and a little noise: what a photo asks of the levels and of the edges.
+/// Slopes, rings, a bright sun and a little noise: a picture with tones and edges as a photo has them.
 Picture photoLikePicture(int width, int height);
 
 struct NamedPicture {

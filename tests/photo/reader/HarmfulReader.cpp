@@ -1,5 +1,5 @@
-// The reader with decoders that do harm, each to files that begin with its name: what hostile files would make of
-// others.
+// The reader with decoders that do harm. Each takes the files that begin with its name, and does what a hostile file
+// might bring a real decoder to do.
 
 #include "photo/reader/Reader.h"
 
