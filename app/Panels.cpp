@@ -26,6 +26,15 @@ private:
     }
 };
 
+/// Whatever opens, by the names that such files have. The content decides, not the name.
+QString allPhotos()
+{
+    return QStringLiteral(
+        "All photos (*.jpg *.jpeg *.jpe *.gif *.png *.psd *.psb *.tga *.bmp *.tif *.tiff *.webp *.heic *.heif *.hif "
+        "*.avif *.jxl *.ppm *.pgm *.dng *.3fr *.arw *.cr2 *.cr3 *.crw *.dcr *.erf *.iiq *.kdc *.mef *.mos *.mrw *.nef "
+        "*.nrw *.orf *.pef *.raf *.rw2 *.rwl *.sr2 *.srw *.x3f)");
+}
+
 /// What both panels share: the six types, and the folder where the last one was left.
 void prepare(QFileDialog& panel, const QString& folder)
 {
@@ -58,6 +67,7 @@ void MainWindowController::loadImageButtonPressed()
         panel.setFileMode(QFileDialog::ExistingFile);
         panel.setWindowOpacity(0.95);
         prepare(panel, m_panelFolder);
+        panel.setNameFilters(panel.nameFilters() << allPhotos());
         if (runPanel(panel))
             chosen = panel.selectedFiles();
     }

@@ -182,6 +182,10 @@ private slots:
                 QVERIFY(qAbs(panel.windowOpacity() - 0.95) < 0.005); // the platform keeps 8 bits
                 QCOMPARE(panel.fileMode(), QFileDialog::ExistingFile);
                 QVERIFY(panel.nameFilters().first().endsWith("(*.jpg *.jpeg *.gif *.png *.psd *.tga)"));
+                QCOMPARE(panel.selectedNameFilter(), panel.nameFilters().first());
+                QCOMPARE(panel.nameFilters().size(), qsizetype(2));
+                QVERIFY(panel.nameFilters().last().startsWith("All photos (")
+                    && panel.nameFilters().last().contains("*.heic"));
                 typeName(panel, desk.folder.filePath("one.png"));
             },
             [&] { desk.click("btnLoad"); });
