@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Exact.h"
+
 #include <charconv>
 #include <string>
 

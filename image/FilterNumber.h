@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Exact.h"
+
 namespace lumora {
 
 /// The filter numbers: looks, lists, crop and border styles share them. A number is stored and passed round as a plain

@@ -2,7 +2,8 @@
 """Holds the includes to the house: includes.py ROOT
 
 A floor or a room includes only itself and what lies below it, and no file includes itself by way of others. A source and
-its header, which share their name, count as one file there. Prints what is wrong and fails if anything is."""
+its header, which share their name, count as one file there. Every file of the engine includes the guard of its
+arithmetic. Prints what is wrong and fails if anything is."""
 
 import pathlib
 import re
@@ -23,6 +24,7 @@ BELOW = {
 }
 # Of all operations, and of the catalogue's rows: every room may include these.
 DECLARATIONS = ["image/CharImage.h", "image/FilterCatalogue.h", "image/FilterNumber.h"]
+GUARD = "core/Exact.h"  # of the engine's arithmetic: before any code of the engine
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*["<]([^">]+)', re.MULTILINE)
 
@@ -47,6 +49,15 @@ def wrong_includes(includes):
             allowed = [place, *BELOW[place]]
             if place_of(other) not in allowed and not (other in DECLARATIONS and place in ROOMS):
                 yield f"{file} includes {other}, but {place} may include only {', '.join(allowed)}"
+
+
+def unguarded(includes):
+    """The files of the engine that do not reach the guard. Where all do, it comes first in whatever order they include
+    one another, as includes stand above a file's own code."""
+    guarded = {GUARD}
+    while more := {file for file, others in includes.items() if file not in guarded and guarded.intersection(others)}:
+        guarded |= more
+    return [file for file in includes if place_of(file) in [*ENGINE, "image"] and file not in guarded]
 
 
 def first_circle(includes):
@@ -96,6 +107,7 @@ def main(root):
             for other in others
             if not (root / other).is_file() and (path.parent / other).is_file()
         ]
+    faults += [f"{file} does not include {GUARD}, nor does anything that it includes" for file in unguarded(includes)]
     if circle := first_circle(includes):
         faults.append("a circle of includes: " + " -> ".join(circle))
     print("\n".join([*faults, f"{len(files)} files read, {len(faults)} faults"]))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Exact.h"
+
 namespace lumora {
 
 struct InstantParameters {

@@ -1,13 +1,9 @@
 #pragma once
 
+#include "core/Exact.h"
+
 #include <climits>
 #include <cmath>
-
-// GCC 12 drops the rounding to float between two double steps when it packs neighbouring scalars into a vector (its
-// straight-line vectoriser; loops are unharmed). Every look rounds there, so that vectoriser stays off.
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC optimize("no-tree-slp-vectorize")
-#endif
 
 namespace lumora {
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Exact.h"
+
 namespace lumora {
 
 /// Raises `count` values, a multiple of 8 and at most a block of them, to `exponent`: each result is exactly what
