@@ -1,6 +1,6 @@
 #include "photo/FileBounds.h"
 
-#include "photo/PhotoDecoder.h"
+#include "photo/PhotoLimits.h"
 
 #include <QIODevice>
 #include <QtEndian>
