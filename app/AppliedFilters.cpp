@@ -107,6 +107,7 @@ QImage MainWindowController::saveMultipleFilters(bool preview, QString* reason)
 QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail, QString* reason)
 {
     updateFromSettings();
+    doCropping = doBorders = true;
     RenderSettings settings;
     settings.filter = usingFilter;
     settings.filterIDs = &filterIDs;

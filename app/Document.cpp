@@ -9,7 +9,9 @@
 
 #include <QColorSpace>
 #include <QFileInfo>
+#include <QPainter>
 #include <QTransform>
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -44,9 +46,9 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
 
 void MainWindowController::setCurrentFile(const QByteArray& path)
 {
-    m_photo.fileName = fileNameOf(path);
+    m_photo.filePath = path;
     // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
-    const QString name = shownName(m_photo.fileName).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    const QString name = shownName(m_photo.fileName()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(QStringLiteral("Lumora - ") + name);
 }
 
@@ -67,7 +69,16 @@ QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
 QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
 {
     // The platform's y axis points down, so that its positive angles turn clockwise. Turning drops the colour space.
-    QImage turned = image.transformed(QTransform().rotate(-double(degrees)));
+    const double angle = -double(std::remainder(degrees, 360.0f));
+    const QImage whole = image.transformed(QTransform().rotate(angle), Qt::SmoothTransformation);
+    QImage turned = whole;
+    if (!whole.isNull() && whole.size() != image.size().transposed()) {
+        turned = QImage(image.size().transposed(), QImage::Format_RGB32);
+        turned.fill(Qt::white);
+        if (!turned.isNull())
+            QPainter(&turned).drawImage(
+                (turned.width() - whole.width()) / 2, (turned.height() - whole.height()) / 2, whole);
+    }
     turned.setColorSpace(image.colorSpace());
     return turned;
 }

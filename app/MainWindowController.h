@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/DocumentSlots.h"
 #include "app/DragDropImageView.h"
 #include "app/History.h"
 #include "app/LookList.h"
@@ -27,7 +28,11 @@ class MainWindow;
 /// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
 /// Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands elsewhere: the state in
 /// Photo.h, LookList.h, History.h and WorkInProgress.h, the rules in Rules.h.
-class MainWindowController : public QMainWindow, public DropDelegate, private WorkDisplay, private HistoryTarget {
+class MainWindowController : public QMainWindow,
+                             public DropDelegate,
+                             public DocumentSlots,
+                             private WorkDisplay,
+                             private HistoryTarget {
     Q_OBJECT
 
 public:
@@ -38,6 +43,8 @@ public:
     // ---- Options ----
     int cropFilter = lumora::Filter::original; ///< filter number whose crop is applied
     int borderFilter = lumora::Filter::original; ///< filter number whose border is drawn
+    bool doCropping = true; ///< off only between updateFromSettings and the render that it begins
+    bool doBorders = true; ///< the same
     int imgOutputSize = -1; ///< longest side of the exported picture in pixels; -1: the photo's own
     bool doMultiFiltering = false; ///< follows the check box at each render and at each click on it
     void loadOptions();
@@ -70,6 +77,8 @@ public:
     const QImage& getFiltersAppliedImage() const { return m_filtersAppliedImage; }
     void setFiltersAppliedImage(const QImage& image) { m_filtersAppliedImage = image; }
     void setoriginalImage(const QImage& image);
+    const QByteArray& currentFilePath() const { return m_photo.filePath; } ///< of the last loaded file, any bytes
+    QByteArray currentFileName() const { return m_photo.fileName(); } ///< its last component
     /// True when the file of that path (any bytes) was taken as the new photo. Otherwise nothing changes, and a sheet
     /// says why where it was not cancelled. Returns when the file has been read; meanwhile the window lives, and of
     /// what people do only Esc, "Cancel" and closing the window count.
@@ -78,7 +87,9 @@ public:
     void openFileWhenShown(const QByteArray& path) { m_waitingFile = path; }
     /// Scales to the longer side `maxSide`, also upwards; gives the exact size before it was rounded to pixels.
     static QSizeF downsizeNSImage(QImage& image, int maxSide);
-    /// A copy turned by quarter turns; positive degrees turn counter-clockwise.
+    /// A copy whose width is the picture's height and the other way round, with the picture turned about its middle;
+    /// positive degrees turn counter-clockwise. It is meant for quarter turns: at other angles corners are cut off, and
+    /// what the picture does not cover is white. Null where there is no memory for it.
     static QImage rotateNSImage(const QImage& image, float degrees);
 
     // ---- Window ----

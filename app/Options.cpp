@@ -57,6 +57,7 @@ void MainWindowController::saveOptions() const
 
 void MainWindowController::updateFromSettings()
 {
+    doCropping = doBorders = false;
     doMultiFiltering = m_ui->chkMultiFilter->isChecked();
     cropFilter = chosenFilter(*m_ui->btnCropping, filterIDs);
     borderFilter = chosenFilter(*m_ui->btnBorders, filterIDs);

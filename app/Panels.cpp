@@ -85,7 +85,7 @@ QByteArray MainWindowController::askWhereToSave()
     prepare(panel, m_panelFolder);
     // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
     // is what it asks about: a name that cannot be shown is not taken back.
-    const QString proposed = shownName(m_photo.fileName).replace(u'"', u'\'');
+    const QString proposed = shownName(m_photo.fileName()).replace(u'"', u'\'');
     panel.selectFile(proposed); // after the types, which would change the name's extension to theirs
     if (!runPanel(panel))
         return {};

@@ -21,6 +21,11 @@ QImage middleOf(const QImage& image)
 
 } // namespace
 
+QByteArray Photo::fileName() const
+{
+    return fileNameOf(filePath);
+}
+
 void Photo::setOriginal(const QImage& image, int displayRes, qreal density)
 {
     m_original = image;

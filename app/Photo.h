@@ -20,7 +20,8 @@ public:
     void setOriginal(const QImage& image, int displayRes, qreal density);
 
     PhotoMetadata metadata; ///< of the file
-    QByteArray fileName; ///< the last component of the file's path, any bytes
+    QByteArray filePath; ///< any bytes
+    QByteArray fileName() const; ///< the path's last component
 
 private:
     QImage m_original, m_display, m_thumb;

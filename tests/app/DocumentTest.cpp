@@ -81,6 +81,74 @@ private slots:
         QCOMPARE(desk.window.getoriginalImage().pixel(0, 0), photo.pixel(2999, 0));
     }
 
+    void turningByAnyAngleExchangesWidthAndHeight()
+    {
+        const QImage photo = makePhoto(60, 40);
+        const auto turned = [&](float degrees) {
+            return pixelsOf(MainWindowController::rotateNSImage(photo, degrees));
+        };
+        for (float degrees : {0.0f, 30.0f, 45.0f, 90.0f, 180.0f, 270.0f, -90.0f, 450.0f})
+            QCOMPARE(turned(degrees).size(), QSize(40, 60));
+        QCOMPARE(turned(90), turned(-270));
+        QCOMPARE(turned(90), turned(450));
+        QCOMPARE(turned(90).pixel(0, 59), photo.pixel(0, 0)); // counter-clockwise
+        QCOMPARE(turned(-90).pixel(39, 0), photo.pixel(0, 0));
+        // The middle stays the middle, the sides are cut off, and above and below is nothing.
+        QCOMPARE(turned(0).copy(0, 10, 40, 40), photo.copy(10, 0, 40, 40));
+        QCOMPARE(turned(180).copy(0, 10, 40, 40), photo.copy(10, 0, 40, 40).mirrored(true, true));
+        QCOMPARE(turned(0).pixel(20, 9), 0xFFFFFFFF);
+        QCOMPARE(turned(0).pixel(20, 50), 0xFFFFFFFF);
+        // A mark that stands right of the middle goes up by 45 degrees.
+        QImage marked(61, 41, QImage::Format_RGB32);
+        marked.fill(Qt::black);
+        for (int y = 18; y < 23; y++)
+            for (int x = 42; x < 47; x++)
+                marked.setPixel(x, y, 0xFFFFFFFF);
+        const QImage up = MainWindowController::rotateNSImage(marked, 45);
+        QCOMPARE(up.pixel(20 + 10, 30 - 10), 0xFFFFFFFF);
+        QCOMPARE(up.pixel(20 + 10, 30 + 10), 0xFF000000);
+    }
+
+    void theDocumentKnowsItsFile()
+    {
+        Desk desk;
+        QCOMPARE(desk.window.currentFilePath(), QByteArray());
+        const QByteArray path = writePhoto(desk.folder, "100%s.png", makePhoto(60, 40));
+        QVERIFY(desk.window.loadImageFromFile(path));
+        QCOMPARE(desk.window.currentFilePath(), path);
+        QCOMPARE(desk.window.currentFileName(), QByteArray("100%s.png"));
+        QVERIFY(!desk.window.loadImageFromFile("/nowhere/other.png"));
+        QCOMPARE(desk.window.currentFilePath(), path);
+    }
+
+    void cropAndBorderAreOffOnlyBeforeARender()
+    {
+        Desk desk(makePhoto(60, 40));
+        desk.click("btnMono");
+        QVERIFY(desk.window.doCropping && desk.window.doBorders);
+        desk.window.updateFromSettings();
+        QVERIFY(!desk.window.doCropping && !desk.window.doBorders);
+        desk.window.updateThumbnailImages();
+        QVERIFY(desk.window.doCropping && desk.window.doBorders);
+    }
+
+    void theDocumentKeepsWhatIsLeftInItsSlots()
+    {
+        Desk desk;
+        QCOMPARE(desk.window.getPicData(), QByteArray());
+        desk.window.setPicData("data");
+        QCOMPARE(desk.window.getPicData(), QByteArray("data"));
+        QCOMPARE(desk.window.getLocalChar(), nullptr);
+        auto* image = new CharImage(new unsigned char[3 * 2 * 4], 3, 2);
+        desk.window.setLocalChar(image);
+        desk.window.setLocalChar(image);
+        QCOMPARE(desk.window.getLocalChar()->width, 3);
+        desk.window.setLocalChar(new CharImage(new unsigned char[5 * 4 * 4], 5, 4));
+        QCOMPARE(desk.window.getLocalChar()->width, 5);
+        desk.window.setLocalChar(nullptr);
+        QCOMPARE(desk.window.getLocalChar(), nullptr);
+    }
+
     void theColourSpaceSurvivesTurningAndFlattening()
     {
         Desk desk(makePhoto(60, 40));

@@ -13,7 +13,7 @@ private slots:
     {
         const Photo photo;
         QVERIFY(photo.isNull() && photo.original().isNull() && photo.display().isNull() && photo.thumb().isNull());
-        QVERIFY(photo.fileName.isEmpty() && photo.metadata.exif.isEmpty());
+        QVERIFY(photo.filePath.isEmpty() && photo.fileName().isEmpty() && photo.metadata.exif.isEmpty());
     }
 
     void thePictureIsKeptAndCopied()
@@ -66,10 +66,11 @@ private slots:
     {
         Photo photo;
         photo.metadata.exif = "what the camera wrote";
-        photo.fileName = "a.jpg";
+        photo.filePath = "/photos/a \xff.jpg";
         photo.setOriginal(makePhoto(30, 20), 800, 1);
         QCOMPARE(photo.metadata.exif, QByteArray("what the camera wrote"));
-        QCOMPARE(photo.fileName, QByteArray("a.jpg"));
+        QCOMPARE(photo.filePath, QByteArray("/photos/a \xff.jpg"));
+        QCOMPARE(photo.fileName(), QByteArray("a \xff.jpg"));
     }
 
     void itsOwnPictureCanBeTakenAgain()
