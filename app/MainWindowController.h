@@ -140,6 +140,8 @@ private:
     void connectControls();
     void buildMenus();
     void buildEditMenu();
+    void loadWindow();
+    void saveWindow() const;
     /// The photo's own work, or the display copy's: small pictures are done before a progress bar could be read.
     static bool takesLong(const QImage& image);
     int stepsOfRender() const;
@@ -188,5 +190,5 @@ private:
     QImage m_filtersAppliedImage; ///< the latest render
     QByteArray m_waitingFile; ///< to be opened when there is room for it; empty for none
     bool m_wasPainted = false;
-    QString m_panelFolder; ///< where a panel was left; empty before the first
+    QString m_panelFolder; ///< where a panel was left, also in a former run; empty before the first
 };

@@ -3,6 +3,9 @@
 #include "image/CharImage.h"
 #include "ui_MainWindow.h"
 
+#include <QFile>
+#include <QScreen>
+
 using namespace lumora;
 
 namespace {
@@ -53,6 +56,27 @@ void MainWindowController::saveOptions() const
     if (!saved || now.size != before.size)
         setPreferenceInt("OutputSize", now.size);
     setPreferenceInt("PrefsVersion", prefsVersion);
+}
+
+/// Size and state of the window, and where its panels stood: a group of their own, which no version counts.
+void MainWindowController::loadWindow()
+{
+    const QSize saved(getPreferenceInt("Window/Width"), getPreferenceInt("Window/Height"));
+    const QSize room = screen()->availableSize() - QSize(0, 40); // for the title bar
+    resize((saved.isEmpty() ? size() : saved).boundedTo(room));
+    if (getPreferenceBool("Window/Maximised"))
+        setWindowState(Qt::WindowMaximized);
+    m_panelFolder = QFile::decodeName(QByteArray::fromPercentEncoding(getPreferenceString("Window/Folder").cString()));
+}
+
+void MainWindowController::saveWindow() const
+{
+    const QSize size = isMaximized() ? normalGeometry().size() : this->size();
+    setPreferenceInt("Window/Width", size.width());
+    setPreferenceInt("Window/Height", size.height());
+    setPreferenceBool("Window/Maximised", isMaximized());
+    // Of any bytes, where preferences are ASCII.
+    setPreferenceString("Window/Folder", QFile::encodeName(m_panelFolder).toPercentEncoding("/ ").constData());
 }
 
 void MainWindowController::updateFromSettings()

@@ -10,20 +10,28 @@
 
 namespace {
 
-/// Keeps the platform's own panel from writing its history into the user's configuration when it goes: while this
-/// lives, settings are written nowhere.
-class NoPanelHistory {
+/// While this lives, settings are written nowhere, or to the user's configuration; afterwards the other way round. The
+/// platform's own panel would write its history there when it goes. While it is up, the program may be quit, which
+/// saves the choices.
+class SettingsAreWritten {
 public:
-    NoPanelHistory() { setFolder(QStringLiteral("/dev/null")); }
-    ~NoPanelHistory() { setFolder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)); }
-    NoPanelHistory(const NoPanelHistory&) = delete;
-    NoPanelHistory& operator=(const NoPanelHistory&) = delete;
+    explicit SettingsAreWritten(bool written)
+        : m_written(written)
+    {
+        set(m_written);
+    }
+    ~SettingsAreWritten() { set(!m_written); }
+    SettingsAreWritten(const SettingsAreWritten&) = delete;
+    SettingsAreWritten& operator=(const SettingsAreWritten&) = delete;
 
 private:
-    static void setFolder(const QString& folder)
+    static void set(bool written)
     {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+            written ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+                    : QStringLiteral("/dev/null"));
     }
+    const bool m_written;
 };
 
 /// Whatever opens, by the names that such files have. The content decides, not the name.
@@ -50,6 +58,7 @@ bool MainWindowController::runPanel(QFileDialog& panel)
 {
     m_ui->progressBar->hide(); // nothing is worked on while the panel waits
     const WorkWaits waits(m_work);
+    const SettingsAreWritten meanwhile(true);
     const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
     if (confirmed)
         m_panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
@@ -62,7 +71,7 @@ void MainWindowController::loadImageButtonPressed()
         return;
     QStringList chosen;
     {
-        const NoPanelHistory noHistory;
+        const SettingsAreWritten noHistory(false);
         QFileDialog panel(this, tr("Select a file to open"));
         panel.setFileMode(QFileDialog::ExistingFile);
         panel.setWindowOpacity(0.95);
@@ -78,7 +87,7 @@ void MainWindowController::loadImageButtonPressed()
 /// Asks for the path of the JPEG; empty when the panel was cancelled.
 QByteArray MainWindowController::askWhereToSave()
 {
-    const NoPanelHistory noHistory;
+    const SettingsAreWritten noHistory(false);
     QFileDialog panel(this, tr("Save as JPEG"));
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setDefaultSuffix(QStringLiteral("jpg"));

@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QScreen>
 #include <QUrl>
 #include <cstdlib>
 #include <ctime>
@@ -84,8 +83,7 @@ void MainWindowController::completeNibLoading()
 
 void MainWindowController::windowDidLoad()
 {
-    const QSize room = screen()->availableSize() - QSize(0, 40); // for the title bar
-    resize(size().boundedTo(room));
+    loadWindow();
     displayRes = displayResAtLoad(largerFrameSide());
 
     QSizePolicy policy = m_ui->progressBar->sizePolicy();
@@ -217,5 +215,6 @@ void MainWindowController::openAbout()
 
 void MainWindowController::applicationWillTerminate() const
 {
+    saveWindow();
     saveOptions();
 }

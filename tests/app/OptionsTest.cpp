@@ -3,7 +3,10 @@
 #include "image/CharImage.h"
 #include "tests/app/Desk.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QScreen>
+#include <QSettings>
 #include <QTimer>
 #include <csignal>
 #include <sys/stat.h>
@@ -81,6 +84,129 @@ private slots:
         QVERIFY(chosen(desk) == (Choices{true, false, 4, 4, 7}));
         QCOMPARE(CharImage::useRandom, 0);
         QCOMPARE(desk.window.doMultiFiltering, false); // until the next render or click
+    }
+
+    void theWindowComesBackAsItWas()
+    {
+        {
+            Desk desk;
+            desk.window.resize(900, 620);
+            desk.window.applicationWillTerminate();
+        }
+        {
+            Desk desk;
+            QCOMPARE(desk.window.size(), QSize(900, 620));
+            QVERIFY(!desk.window.isMaximized());
+            desk.window.showMaximized();
+            QTRY_VERIFY(desk.window.isMaximized() && desk.window.size() != QSize(900, 620));
+            desk.window.close();
+            desk.window.applicationWillTerminate();
+        }
+        Desk desk;
+        QVERIFY(desk.window.isMaximized());
+        desk.window.showNormal();
+        QTRY_COMPARE(desk.window.size(), QSize(900, 620));
+        desk.window.applicationWillTerminate();
+        Desk normal;
+        QVERIFY(!normal.window.isMaximized());
+    }
+
+    void aWindowsSizeIsMadeToFit_data()
+    {
+        QTest::addColumn<QByteArray>("saved");
+        QTest::addColumn<bool>("isFirstSize");
+        QTest::newRow("nothing") << QByteArray() << true;
+        QTest::newRow("no height") << QByteArray("Width=950\n") << true;
+        QTest::newRow("words") << QByteArray("Width=wide\nHeight=high\n") << true;
+        QTest::newRow("negative") << QByteArray("Width=-950\nHeight=-650\n") << true;
+        QTest::newRow("tiny") << QByteArray("Width=1\nHeight=1\n") << false;
+        QTest::newRow("huge") << QByteArray("Width=2147483647\nHeight=2147483647\n") << true;
+    }
+    void aWindowsSizeIsMadeToFit()
+    {
+        QFETCH(QByteArray, saved);
+        QFETCH(bool, isFirstSize);
+        const QSize first = MainWindowController().size();
+        setPreferences("[Window]\n" + saved);
+        const MainWindowController window;
+        QCOMPARE(window.size() == first, isFirstSize);
+        QVERIFY(window.height() <= window.screen()->availableSize().height());
+        QCOMPARE(window.size(), window.size().expandedTo(window.minimumSize()));
+    }
+
+    void thePanelsFolderComesBack()
+    {
+        QTemporaryDir folder;
+        const QString photos = folder.filePath(QString::fromUtf8("50% of [é]; photos"));
+        QVERIFY(QDir().mkpath(photos));
+        const auto standsAt = [](Desk& desk) {
+            QString place;
+            desk.withPanel(
+                [&](QFileDialog& panel) {
+                    place = panel.directory().absolutePath();
+                    panel.reject();
+                },
+                [&] { desk.click("btnLoad"); });
+            return place;
+        };
+        {
+            Desk desk(makePhoto(60, 40));
+            desk.saveAs(photos + "/saved.jpg");
+            desk.window.applicationWillTerminate();
+        }
+        {
+            Desk desk;
+            QCOMPARE(standsAt(desk), photos);
+            desk.window.applicationWillTerminate();
+        }
+        QVERIFY(QDir(photos).removeRecursively());
+        Desk desk;
+        QVERIFY(standsAt(desk) != photos);
+    }
+
+    void theWindowsKeysAreAGroupOfTheirOwn()
+    {
+        {
+            Desk desk;
+            desk.window.applicationWillTerminate();
+        }
+        QSettings file(preferencesFile(), QSettings::IniFormat);
+        QCOMPARE(file.childGroups(), QStringList("Window"));
+        QCOMPARE(file.childKeys(),
+            QStringList(
+                {"BorderStyle", "CroppingStyle", "OutputSize", "PrefsVersion", "UseMultiFilter", "UseRandomness"}));
+        // Another version of the choices does not make the window forget.
+        setPreferences("[General]\nPrefsVersion=1\n\n[Window]\nWidth=900\nHeight=620\n");
+        QCOMPARE(MainWindowController().size(), QSize(900, 620));
+    }
+
+    void quittingBehindAPanelSavesTheChoices_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        QTest::newRow("open") << QByteArray("btnLoad");
+        QTest::newRow("save") << QByteArray("btnSave");
+    }
+
+    void quittingBehindAPanelSavesTheChoices()
+    {
+        QFETCH(QByteArray, button);
+        Desk desk(makePhoto(60, 40));
+        desk.choose("btnBorders", "Rounded");
+        QTimer::singleShot(0, &desk.window, [&] { desk.click(button); });
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, [&] {
+            if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+                watch.stop();
+                desk.window.applicationWillTerminate(); // some desktops say it while the panel is up
+                QCOMPARE(getPreferenceInt("BorderStyle"), 4);
+                setPreferences({});
+                QCoreApplication::quit();
+            }
+        });
+        watch.start(0);
+        QCOMPARE(QApplication::exec(), 0);
+        QCOMPARE(getPreferenceInt("PrefsVersion"), 2);
+        QCOMPARE(getPreferenceInt("BorderStyle"), 4);
     }
 
     void anotherVersionIsIgnored_data()
