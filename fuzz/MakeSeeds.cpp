@@ -4,6 +4,7 @@
 // formats.
 
 #include "image/FilterNumber.h"
+#include "photo/reader/Message.h"
 
 #include <QColorSpace>
 #include <QDir>
@@ -108,6 +109,25 @@ bool makePictures(const QString& folder)
     return made;
 }
 
+/// Answers of a reader behind the size of the memory that came with them, and the limits that it gets.
+bool makeMessages(const QString& folder)
+{
+    const auto sized = [](qint64 sharedBytes, const QByteArray& message) {
+        return QByteArray(reinterpret_cast<const char*>(&sharedBytes), sizeof sharedBytes) + message;
+    };
+    ReaderAnswer photo;
+    photo.size = QSize(30, 20);
+    photo.format = QImage::Format_RGB32;
+    bool made = write(folder, "photo", sized(2400, packed(photo)));
+    photo.format = QImage::Format_RGBX8888;
+    photo.blocks = {5, 0, 70};
+    made = made && write(folder, "blocks", sized(2475, packed(photo)));
+    ReaderAnswer refusal;
+    refusal.reason = QStringLiteral("It is “broken”.");
+    return made && write(folder, "reason", sized(0, packed(refusal)))
+        && write(folder, "limits", sized(0, packed(ReadingLimits{1 << 30, 3})));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -116,7 +136,7 @@ int main(int argc, char** argv)
     if (argc != 2)
         return 2;
     const QString folder = QFile::decodeName(argv[1]);
-    bool made = makePictures(folder);
+    bool made = makePictures(folder) && makeMessages(folder + "/ReaderMessageFuzz");
     made = made
         && write(folder + "/PreferencesFuzz", "whole",
             "[General]\nBorderStyle=3\nCroppingStyle=2\nName=\"a, \\x41\"\nOutputSize=@Size(1 2)\nPrefsVersion=2\n"

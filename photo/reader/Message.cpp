@@ -2,7 +2,6 @@
 
 #include "photo/PhotoDecoder.h"
 
-#include <QStringDecoder>
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -56,10 +55,9 @@ quint32 markOf(const QByteArray& bytes)
 std::optional<ReaderAnswer> unpackedRefusal(const QByteArray& message)
 {
     const QByteArray text = message.mid(sizeof refusalMark);
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     ReaderAnswer answer;
-    answer.reason = decoder(text);
-    if (answer.reason.isEmpty() || decoder.hasError() || text.size() > maxReasonBytes)
+    answer.reason = QString::fromUtf8(text);
+    if (text.isEmpty() || text.size() > maxReasonBytes || answer.reason.toUtf8() != text)
         return {};
     return answer;
 }

@@ -118,6 +118,7 @@ private slots:
         row("a reason beside memory", text, bytes);
         row("an empty reason", text.left(4), 0);
         row("a reason that is no text", text + '\xFF', 0);
+        row("a reason that begins with a mark of its order", text.left(4) + "\xEF\xBB\xBFno", 0);
         row("a reason cut within a character", text + '\xE2', 0);
         row("a reason longer than may be", text + QByteArray(maxReasonBytes - 1, 'x'), 0);
     }
