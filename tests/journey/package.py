@@ -20,7 +20,10 @@ subprocess.run(["cpack", "--config", os.path.join(build, "CPackConfig.cmake"), "
 subprocess.run(["dpkg-deb", "--extract", package, root], check=True)
 
 depends = subprocess.check_output(["dpkg-deb", "--field", package, "Depends"], text=True)
-for library in ("libqt6widgets6", "libqt6gui6", "libexiv2", "libc6"):
+with open(os.path.join(build, "CMakeCache.txt")) as cache:
+    settings = cache.read()
+confined = "LUMORA_READER_PROCESS:BOOL=ON" in settings
+for library in ("libqt6widgets6", "libqt6gui6", "libexiv2", "libc6") + (("libseccomp2",) if confined else ()):
     assert library in depends, (library, depends)
 
 share = os.path.join(root, "usr", "share")
@@ -33,8 +36,7 @@ with open(help_document, "rb") as document:
     assert document.read(5) == b"%PDF-"
 
 # The engine, for each level of x86-64 processors. Elsewhere, and with sanitizers, the program holds it.
-with open(os.path.join(build, "CMakeCache.txt")) as cache:
-    sanitised = "LUMORA_SANITIZE:BOOL=ON" in cache.read()
+sanitised = "LUMORA_SANITIZE:BOOL=ON" in settings
 engine = None
 if platform.machine() == "x86_64" and not sanitised:
     (engine,) = glob.glob(os.path.join(root, "usr", "lib", "**", "lumora", "liblumora_engine.so"), recursive=True)
@@ -59,6 +61,12 @@ with Lumora(build, photo, program=os.path.join(root, "usr", "bin", "lumora")) as
     lumora.wait_for_title("Lumora - " + os.path.basename(photo))
     with open(f"/proc/{lumora.process.pid}/maps") as maps:
         assert engine is None or os.path.realpath(engine) in maps.read(), engine
+    # The photo was read by the package's own reader, and the next one waits.
+    if confined:
+        reader = os.path.join(root, "usr", "libexec", "lumora", "lumora-reader")
+        with open(f"/proc/{lumora.process.pid}/task/{lumora.process.pid}/children") as children:
+            programs = [os.path.realpath(f"/proc/{child}/exe") for child in children.read().split()]
+        assert os.path.realpath(reader) in programs, programs
     key("F1")
     wait_for("the viewer to be asked", lambda: os.path.exists(asked))
     with open(asked) as answer:
