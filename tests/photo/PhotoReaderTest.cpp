@@ -1,5 +1,6 @@
 #include "photo/PhotoReader.h"
 #include "photo/PhotoLoader.h"
+#include "tests/photo/PhoneSamples.h"
 #include "tests/photo/Samples.h"
 
 #include <QColorSpace>
@@ -83,6 +84,10 @@ private slots:
         QTest::newRow("transparent") << samples::encoded(
             noise.convertToFormat(QImage::Format_RGBA64).mirrored(), "png");
         QTest::newRow("cmyk") << samples::jpeg(samples::JpegKind::Cmyk, 64, 32, QByteArray(64 * 32 * 4, '\x55'));
+        QTest::newRow("heic") << samples::heif(noise, samples::HeifKind::Hevc);
+        QTest::newRow("avif") << samples::heif(noise, samples::HeifKind::Av1);
+        QTest::newRow("jpeg xl") << samples::jxl(noise);
+        QTest::newRow("camera raw") << samples::dng(QSize(64, 48), {0.2, 0.5, 0.3}, {0.5, 1, 0.6});
         QTest::newRow("not a picture") << QByteArray("Dear diary");
         QTest::newRow("damaged") << samples::encoded(noise, "png").left(3000);
     }
