@@ -129,7 +129,7 @@ void MainWindowController::saveFilteredImage()
     std::printf("downsizing image to %i, ended with %s %s\n", imgOutputSize, lumora::sixPlaces(size.width()).c_str(),
         lumora::sixPlaces(size.height()).c_str());
     m_work.beginStep(tr("Encode"));
-    const QByteArray jpeg = encodeJpeg(render, m_photo.metadata);
+    const QByteArray jpeg = encodeJpeg(render, m_photo.metadata, kept());
     if (jpeg.isEmpty())
         return openModalSheetWithText(tr("The photo cannot be saved."),
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));

@@ -174,8 +174,11 @@ private:
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave();
 
+    Kept kept() const; ///< how much of what the photo carried is saved with it
+
     std::unique_ptr<Ui::MainWindow> m_ui;
     Choices m_choicesAtStart; ///< as the preferences had them
+    QList<QAction*> m_keptActions; ///< one for each Kept, one of them checked
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown

@@ -1,8 +1,10 @@
 #include "app/MainWindowController.h"
+#include "app/Preferences.h"
 #include "app/Rules.h"
 #include "image/CharImage.h"
 #include "ui_MainWindow.h"
 
+#include <QActionGroup>
 #include <QMenu>
 #include <algorithm>
 
@@ -15,6 +17,15 @@ void MainWindowController::buildMenus()
     QMenu* file = m_ui->menubar->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
     m_photoActions << file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
+    // What a saved photo carries besides its picture, in the order of Kept.
+    QMenu* kept = file->addMenu(tr("&Keep with the photo"));
+    auto* levels = new QActionGroup(kept);
+    for (const QString& level : {tr("&Everything it carried"), tr("Everything but the &place"), tr("&Nothing")}) {
+        QAction* action = levels->addAction(kept->addAction(level));
+        action->setCheckable(true);
+        m_keptActions << action;
+        connect(action, &QAction::triggered, this, [this] { setPreferenceInt("Saving/Kept", int(this->kept())); });
+    }
     file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);

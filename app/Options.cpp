@@ -3,8 +3,10 @@
 #include "image/CharImage.h"
 #include "ui_MainWindow.h"
 
+#include <QAction>
 #include <QFile>
 #include <QScreen>
+#include <algorithm>
 
 using namespace lumora;
 
@@ -38,7 +40,13 @@ void MainWindowController::loadOptions()
     // Variation is a mood of the moment: it is saved, and never restored.
     m_ui->chkRandomness->setChecked(false);
     CharImage::useRandom = 0;
+    m_keptActions[std::clamp(getPreferenceInt("Saving/Kept"), 0, int(Kept::Nothing))]->setChecked(true);
     m_choicesAtStart = shownNow().choices;
+}
+
+Kept MainWindowController::kept() const
+{
+    return Kept(std::ranges::find_if(m_keptActions, &QAction::isChecked) - m_keptActions.begin());
 }
 
 void MainWindowController::saveOptions() const

@@ -18,6 +18,7 @@ QString text(const GrowString& string)
     return QString::fromLatin1(string.cString());
 }
 
+constexpr const char* ownSections[] = {"[General]", "[Saving]", "[Window]"}; ///< one for each group of keys
 constexpr off_t longestFile = 1'000'000; ///< bytes; a store has some hundred
 
 /// The file of the store. The platform opens it as soon as it is asked for its name.
@@ -49,7 +50,7 @@ bool isSection(const QByteArray& line)
     return line.startsWith('[') && line.endsWith(']') && isPlain(line.mid(1, line.size() - 2));
 }
 
-/// True for a file that is somebody else's: one without the section that every store begins with, or with a line that
+/// True for a file that is somebody else's: one that does not begin with a section of ours, or with a line that
 /// is no section, no comment and no "key=value" in the store's own words. The last line may have been cut off.
 bool isForeign(const QByteArray& path)
 {
@@ -65,8 +66,10 @@ bool isForeign(const QByteArray& path)
         return words.isEmpty() || words.front() == ';' || isSection(words)
             || (equals > 0 && isPlain(words.left(equals)));
     };
-    return !bytes.trimmed().isEmpty()
-        && (!bytes.trimmed().startsWith("[General]") || !std::ranges::all_of(lines, isOurs));
+    const QByteArray text = bytes.trimmed();
+    const bool beginsAsOurs =
+        std::ranges::any_of(ownSections, [&](const char* section) { return text.startsWith(section); });
+    return !text.isEmpty() && (!beginsAsOurs || !std::ranges::all_of(lines, isOurs));
 }
 
 /// The store; none where something else stands in the place of its file, or of the one that it looks into besides.

@@ -1,8 +1,10 @@
+#include "app/Preferences.h"
 #include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
 #include "tests/TurkishLocale.h"
 #include "tests/app/Desk.h"
 
+#include <QAction>
 #include <QDirIterator>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -28,7 +30,51 @@ private:
         return pixelsOf(QImage::fromData(encodeJpeg(render, {}), "JPEG"));
     }
 
+    static QAction* entry(Desk& desk, const QString& text)
+    {
+        for (QAction* action : desk.window.findChildren<QAction*>())
+            if (action->text().remove('&') == text)
+                return action;
+        qFatal("there is no %s", qPrintable(text));
+    }
+
 private slots:
+    void whatThePhotoCarriedIsKeptAsChosen()
+    {
+        setPreferences({});
+        QTemporaryDir folder;
+        const QString name = folder.filePath("photo.jpg");
+        QVERIFY(makePhoto(60, 40).save(name, "JPEG"));
+        const QByteArray path = QFile::encodeName(name);
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QByteArray carried("\xFF\xFE\0\x0A"
+                                 "carried!",
+            12),
+            photo = file.readAll();
+        file.seek(0);
+        file.write(QByteArray(photo).insert(2, carried));
+        file.close();
+        for (const bool kept : {true, false, false, true}) { // the third finds what the second chose
+            Desk desk;
+            QVERIFY(desk.window.loadImageFromFile(path));
+            QAction* const nothing = entry(desk, "Nothing");
+            if (!kept && !nothing->isChecked())
+                nothing->trigger();
+            else if (kept && nothing->isChecked())
+                entry(desk, "Everything it carried")->trigger();
+            const QString saved = desk.folder.filePath("out.jpg");
+            printedBy([&] { desk.saveAs(saved); });
+            QCOMPARE(contentsOf(QFile::encodeName(saved)).contains(carried), kept);
+            desk.window.applicationWillTerminate();
+            QCOMPARE(getPreferenceInt("Saving/Kept"), kept ? 0 : 2);
+            QCOMPARE(getPreferenceInt("PrefsVersion"), 2);
+        }
+        setPreferences("[Saving]\nKept=1\n");
+        Desk desk;
+        QVERIFY(entry(desk, "Everything but the place")->isChecked());
+    }
+
     void init() { setPreferences({}); }
 
     void savingWritesTheFullSizeRender()
