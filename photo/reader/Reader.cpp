@@ -8,7 +8,6 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QImageReader>
 #include <csignal>
 #include <cstdio>
 #include <ctime>
@@ -23,16 +22,15 @@ void printMessage(QtMsgType, const QMessageLogContext&, const QString& message)
     std::fprintf(stderr, "%s\n", escaped(message.toUtf8()).constData());
 }
 
-/// Loads the platform's decoders, which is not possible any more when the file is there: each is asked about a file
-/// that none takes.
+/// Loads the platform's decoders and has the libraries find their files, which is not possible any more when the photo
+/// is there: each decoder is asked about a file that none takes, and one about a damaged file.
 void loadDecoders()
 {
-    QByteArray nothing(64, '\0');
-    QBuffer buffer(&nothing);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    reader.canRead();
+    for (QByteArray file : {QByteArray(64, '\0'), "\x89PNG\r\n\x1a\n" + QByteArray(64, '\0')}) {
+        QBuffer buffer(&file);
+        buffer.open(QIODevice::ReadOnly);
+        decodePhoto(buffer, 1 << 24);
+    }
     tzset(); // colour profiles are dated
 }
 
@@ -50,8 +48,9 @@ int runReader(int channel)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     mallopt(M_ARENA_MAX, 1); // each further one would take addresses, which are limited
-    qInstallMessageHandler(printMessage);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     loadDecoders();
+    qInstallMessageHandler(printMessage);
 
     const Packet request = receivePacket(channel);
     const auto limits = unpackedLimits(request.bytes);
