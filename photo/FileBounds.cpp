@@ -47,6 +47,8 @@ public:
             const auto tag = int(number(2)), type = int(number(2));
             const quint64 count = number(m_wide ? 8 : 4);
             const QByteArray value = m_file.read(m_wide ? 8 : 4);
+            if (value.size() < (m_wide ? 8 : 4))
+                return;
             constexpr int byte = 1, shortNumber = 3, longNumber = 4, longestNumber = 16;
             const int size = type == byte ? 1 : type == shortNumber ? 2 : type == longestNumber ? 8 : 4;
             if (type != byte && type != shortNumber && type != longNumber && type != longestNumber)
