@@ -1,7 +1,9 @@
 #include "photo/reader/Reader.h"
 
 #include "photo/EscapedText.h"
+#include "photo/JpegMarkers.h"
 #include "photo/PhotoDecoder.h"
+#include "photo/metadata/MetadataReader.h"
 #include "photo/reader/Channel.h"
 #include "photo/reader/Confinement.h"
 #include "photo/reader/SharedPhoto.h"
@@ -23,14 +25,15 @@ void printMessage(QtMsgType, const QMessageLogContext&, const QString& message)
 }
 
 /// Loads the platform's decoders and has the libraries find their files, which is not possible any more when the photo
-/// is there: each decoder is asked about a file that none takes, and one about a damaged file.
+/// is there: each decoder is asked about a file that none takes, and the metadata's library about a damaged one.
 void loadDecoders()
 {
-    for (QByteArray file : {QByteArray(64, '\0'), "\x89PNG\r\n\x1a\n" + QByteArray(64, '\0')}) {
-        QBuffer buffer(&file);
-        buffer.open(QIODevice::ReadOnly);
-        decodePhoto(buffer, 1 << 24);
-    }
+    QByteArray nothing(64, '\0'), damaged = "\x89PNG\r\n\x1a\n" + nothing;
+    QBuffer unknownFile(&nothing), damagedFile(&damaged);
+    unknownFile.open(QIODevice::ReadOnly);
+    damagedFile.open(QIODevice::ReadOnly);
+    decodePhoto(unknownFile, 1 << 24);
+    readMetadata(damagedFile, {});
     tzset(); // colour profiles are dated
 }
 
