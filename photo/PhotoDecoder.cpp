@@ -111,7 +111,7 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
     LoadedPhoto photo;
     const JpegMarkers markers = readJpegMarkers(file);
     if (markers.markers > maxJpegMarkers || markers.scans > maxJpegScans
-        || markers.scans * markers.pixels > maxJpegScanPixels)
+        || markers.scans * std::min(markers.pixels, maxPhotoPixels) > maxJpegScanPixels)
         return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
     QString reason = boundsRefusal(file);
     if (!reason.isEmpty())
