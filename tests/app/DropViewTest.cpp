@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
+#include <QPointer>
 #include <QUrl>
 
 class DropViewTest : public QObject {
@@ -214,12 +215,12 @@ private slots:
     {
         Desk desk;
         QVERIFY(!desk.window.loadImageFromFile("/nowhere"));
-        auto* sheet = desk.window.findChild<QMessageBox*>();
+        const QPointer<QMessageBox> sheet = desk.window.findChild<QMessageBox*>();
         QVERIFY(sheet && sheet->acceptDrops());
         QMimeData files;
         setFiles(files, {QFile::decodeName(writePhoto(desk.folder, "1.png", makePhoto(60, 40)))});
         QVERIFY(drop(*sheet, files));
-        QVERIFY(!sheet->isVisible());
+        QVERIFY(!sheet || !sheet->isVisible());
         QCOMPARE(desk.window.windowTitle(), QString("Lumora - 1.png"));
     }
 
