@@ -59,6 +59,14 @@ void MainWindowController::setoriginalImage(const QImage& image)
     showWhatCanBeDone();
 }
 
+/// At the end of the line with the looks, until something else happens.
+void MainWindowController::showSaved(const QString& line)
+{
+    m_ui->savedText->setText(line);
+    m_ui->savedText->setToolTip(line);
+    m_ui->savedText->setVisible(!line.isEmpty());
+}
+
 QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
 {
     const QSizeF size = exportSize(image.size(), maxSide);
@@ -134,8 +142,12 @@ void MainWindowController::saveFilteredImage()
         return openModalSheetWithText(tr("The photo cannot be saved."),
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));
     const QByteArray path = askWhereToSave();
-    if (!path.isEmpty() && !writeFileAtomically(path, jpeg, &reason)) {
+    if (path.isEmpty())
+        return;
+    if (!writeFileAtomically(path, jpeg, &reason)) {
         std::puts("didn't work!");
         qWarning("%s: %s", escaped(path).constData(), qUtf8Printable(reason));
+        return showSaved({});
     }
+    showSaved(savedLine(fileNameOf(path), render.size(), jpeg.size()));
 }

@@ -2,6 +2,8 @@
 
 #include "image/CharImage.h"
 
+#include <QCoreApplication>
+#include <QLocale>
 #include <algorithm>
 #include <cmath>
 
@@ -65,6 +67,13 @@ QString breadcrumb(const GrowArray<int>& filterIDs, bool multi)
         text += QString::fromUtf8(CharImage::getFilterName(filterIDs.theArray[i]));
     }
     return text;
+}
+
+QString savedLine(const QByteArray& fileName, const QSize& picture, qint64 bytes)
+{
+    return QCoreApplication::translate("MainWindowController", "Saved %1, %2 x %3, %4")
+        .arg(shownName(fileName), QString::number(picture.width()), QString::number(picture.height()),
+            QLocale().formattedDataSize(bytes, 0, QLocale::DataSizeSIFormat));
 }
 
 QByteArray fileNameOf(const QByteArray& path)

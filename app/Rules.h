@@ -34,6 +34,9 @@ QSize bitmapSize(const QSizeF& size);
 /// "Original", one look's name, or the chain "Original > Helga > Mono" in multi mode.
 QString breadcrumb(const lumora::GrowArray<int>& filterIDs, bool multi);
 
+/// What people are told of a saved file: its name, its picture's size in pixels and its length in bytes.
+QString savedLine(const QByteArray& fileName, const QSize& picture, qint64 bytes);
+
 /// The last component of a path of any bytes, and that name for people: control characters become spaces.
 QByteArray fileNameOf(const QByteArray& path);
 QString shownName(const QByteArray& fileName);

@@ -8,6 +8,11 @@ class RulesTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void aSavedFileIsNamedWithoutControlCharacters()
+    {
+        QCOMPARE(savedLine("over\nHelga.jpg", QSize(1600, 1067), 412'345), "Saved over Helga.jpg, 1600 x 1067, 412 kB");
+    }
+
     void displayResAtLoadIsTheFirstStepOf20()
     {
         QCOMPARE(displayResAtLoad(1000), 1000);

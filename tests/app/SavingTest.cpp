@@ -6,7 +6,9 @@
 
 #include <QAction>
 #include <QDirIterator>
+#include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QProgressBar>
 #include <algorithm>
 #include <sys/resource.h>
@@ -114,6 +116,46 @@ private slots:
         QVERIFY(turkish.isSet());
         const QByteArray printed = printedBy([&] { desk.saveAs(desk.folder.filePath("out.jpg")); });
         QVERIFY(printed.contains("downsizing image to 800, ended with 800.000000 533.333333\n"));
+    }
+
+    void aSavedFileIsToldOfUntilSomethingElseHappens()
+    {
+        Desk desk(makePhoto(300, 200));
+        const QString path = desk.folder.filePath("over Helga.jpg");
+        const auto* line = desk.find<QLabel>("savedText");
+        const auto save = [&] {
+            QFile::remove(path); // so that the panel does not ask
+            printedBy([&] { desk.saveAs(path); });
+        };
+        QVERIFY(!line->isVisible());
+        save();
+        const QString bytes =
+            QLocale().formattedDataSize(contentsOf(QFile::encodeName(path)).size(), 0, QLocale::DataSizeSIFormat);
+        QVERIFY(line->isVisible());
+        QCOMPARE(line->text(), "Saved over Helga.jpg, 300 x 200, " + bytes);
+        desk.click("btnMono");
+        QVERIFY(!line->isVisible());
+        save();
+        QVERIFY(line->isVisible());
+        desk.window.activateWindow(); // after the panel
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        QTest::keyClick(&desk.window, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!line->isVisible());
+        save();
+        desk.choose("btnImgSize", "1600");
+        QVERIFY(!line->isVisible());
+        save();
+        QVERIFY(line->text().contains(", 1600 x 1067, "));
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "b.png", makePhoto(30, 20))));
+        QVERIFY(!line->isVisible());
+    }
+
+    void aSaveThatFailsTakesTheWordsOfTheOneBefore()
+    {
+        Desk desk(makePhoto(60, 40));
+        printedBy([&] { desk.saveAs(desk.folder.filePath("out.jpg")); });
+        printedBy([&] { desk.saveAs(desk.folder.filePath("gone/out.jpg")); });
+        QVERIFY(!desk.find<QLabel>("savedText")->isVisible());
     }
 
     void theSavePanelProposesTheNameAndTheBytesAreAlwaysJpeg()
