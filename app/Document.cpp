@@ -47,6 +47,7 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
 void MainWindowController::setCurrentFile(const QByteArray& path)
 {
     m_photo.filePath = path;
+    m_panelFolder = QFileInfo(QFile::decodeName(path)).absolutePath(); // where the panels start
     // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
     const QString name = shownName(m_photo.fileName()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(QStringLiteral("Lumora - ") + name);

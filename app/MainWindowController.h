@@ -194,5 +194,5 @@ private:
     QImage m_filtersAppliedImage; ///< the latest render
     QByteArray m_waitingFile; ///< to be opened when there is room for it; empty for none
     bool m_wasPainted = false;
-    QString m_panelFolder; ///< where a panel was left, also in a former run; empty before the first
+    QString m_panelFolder; ///< of the photo, or where a panel was left since; also of a former run
 };

@@ -158,6 +158,19 @@ private slots:
         QVERIFY(!desk.find<QLabel>("savedText")->isVisible());
     }
 
+    void thePanelStartsInThePhotosFolder()
+    {
+        Desk desk(makePhoto(60, 40));
+        QTemporaryDir other;
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(other, "b.png", makePhoto(60, 40))));
+        desk.withPanel(
+            [&](QFileDialog& panel) {
+                QCOMPARE(panel.directory().canonicalPath(), QDir(other.path()).canonicalPath());
+                panel.reject();
+            },
+            [&] { desk.click("btnSave"); });
+    }
+
     void theSavePanelProposesTheNameAndTheBytesAreAlwaysJpeg()
     {
         Desk desk(makePhoto(60, 40));
