@@ -9,6 +9,7 @@
 #include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSet>
 #include <QUrl>
 
 using namespace lumora;
@@ -229,6 +230,26 @@ private slots:
                 "Looks/Magazine 0", "Looks/Infrared ", "Looks/Fisheye ", "Looks/Lightleak ", "Looks/Delicious ",
                 "Looks/Arctic ", "Looks/Blowout ", "Help/Lumora Help F1", "Help/About Lumora "})
             QVERIFY2(entries.contains(QString::fromUtf8(entry)), entry);
+    }
+
+    void noLetterWithAltMeansTwoThings()
+    {
+        Desk desk;
+        QStringList texts;
+        for (const QAction* menu : desk.window.menuBar()->actions())
+            texts << menu->text();
+        for (const auto* button : desk.window.findChildren<QAbstractButton*>())
+            texts << button->text();
+        for (const auto* label : desk.window.findChildren<QLabel*>())
+            if (label->buddy())
+                texts << label->text();
+        QSet<QKeySequence> met;
+        for (const QString& text : texts) {
+            const QKeySequence letter = QKeySequence::mnemonic(text);
+            QVERIFY2(letter.isEmpty() || !met.contains(letter), qPrintable(text));
+            met << letter;
+        }
+        QVERIFY(met.contains(QKeySequence(Qt::ALT | Qt::Key_E)));
     }
 
     void theTabKeyReachesEveryControl()
