@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QList>
 #include <array>
+#include <vector>
 
 /// What a person has chosen beside the photo: everything that a preview depends on. A value.
 struct Choices {
-    QList<int> looks; ///< filter numbers in the order of application
+    std::vector<int> looks; ///< filter numbers in the order of application
     bool multi = false; ///< looks are stacked
     int border = 0, crop = 0, size = 0; ///< the chosen items of the pop-ups, counted from 0
     bool varied = false; ///< looks vary with `random`

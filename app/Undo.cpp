@@ -62,7 +62,7 @@ void MainWindowController::showHistory()
 Shown MainWindowController::shownNow() const
 {
     Choices choices;
-    choices.looks = QList<int>(filterIDs.theArray, filterIDs.theArray + filterIDs.numThings);
+    choices.looks.assign(filterIDs.theArray, filterIDs.theArray + filterIDs.numThings);
     choices.multi = m_ui->chkMultiFilter->isChecked();
     choices.border = m_ui->btnBorders->currentIndex();
     choices.crop = m_ui->btnCropping->currentIndex();

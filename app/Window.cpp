@@ -39,7 +39,11 @@ MainWindowController::MainWindowController(std::unique_ptr<PhotoReader> reader)
     awakeFromNib();
 }
 
-MainWindowController::~MainWindowController() = default;
+MainWindowController::~MainWindowController()
+{
+    // The focus leaves the controls while they go, and nobody may look at them any more.
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void MainWindowController::awakeFromNib()
 {

@@ -103,7 +103,7 @@ private slots:
         QVERIFY(!model.history.canUndo() && !model.history.canRedo());
         model.history.undo();
         model.history.redo();
-        QVERIFY(model.shown.choices.looks.isEmpty());
+        QVERIFY(model.shown.choices.looks.empty());
     }
 
     void choicesGoBackAndForth()
@@ -113,13 +113,13 @@ private slots:
         model.press(5);
         QCOMPARE(model.history.undoName(), QString("Look"));
         model.history.undo();
-        QCOMPARE(model.shown.choices.looks, QList<int>({1}));
+        QCOMPARE(model.shown.choices.looks, std::vector<int>({1}));
         QVERIFY(model.history.canRedo());
         model.history.undo();
-        QVERIFY(model.shown.choices.looks.isEmpty() && !model.history.canUndo());
+        QVERIFY(model.shown.choices.looks.empty() && !model.history.canUndo());
         model.history.redo();
         model.history.redo();
-        QCOMPARE(model.shown.choices.looks, QList<int>({5}));
+        QCOMPARE(model.shown.choices.looks, std::vector<int>({5}));
         QVERIFY(!model.history.canRedo());
     }
 
@@ -151,7 +151,7 @@ private slots:
         model.press(2);
         QVERIFY(!model.history.canRedo());
         model.history.undo();
-        QVERIFY(model.shown.choices.looks.isEmpty());
+        QVERIFY(model.shown.choices.looks.empty());
     }
 
     void turnsAreTurnedBack()
@@ -176,10 +176,10 @@ private slots:
         model.hasMemory = false;
         model.history.undo();
         QCOMPARE(model.photo.original(), turned);
-        QCOMPARE(model.shown.choices.looks, QList<int>({1}));
+        QCOMPARE(model.shown.choices.looks, std::vector<int>({1}));
         QCOMPARE(model.history.undoName(), QString("Look"));
         model.history.undo();
-        QVERIFY(model.shown.choices.looks.isEmpty());
+        QVERIFY(model.shown.choices.looks.empty());
     }
 
     void flatteningBringsTheFormerPhotoBack()
@@ -190,10 +190,10 @@ private slots:
         model.flatten(flat(Qt::red));
         model.history.undo();
         QCOMPARE(model.photo.original(), former);
-        QCOMPARE(model.shown.choices.looks, QList<int>({1}));
+        QCOMPARE(model.shown.choices.looks, std::vector<int>({1}));
         model.history.redo();
         QCOMPARE(model.photo.original(), flat(Qt::red));
-        QVERIFY(model.shown.choices.looks.isEmpty());
+        QVERIFY(model.shown.choices.looks.empty());
     }
 
     void theOldestPictureIsDroppedAndTheHistoryEndsThere()
@@ -236,7 +236,7 @@ private slots:
         QVERIFY(!model.history.canUndo());
         model.press(2);
         model.history.undo();
-        QCOMPARE(model.shown.choices.looks, QList<int>({1}));
+        QCOMPARE(model.shown.choices.looks, std::vector<int>({1}));
     }
 
     void aHundredStepsLookTheSameBackAndForth()
@@ -253,7 +253,7 @@ private slots:
             switch (upTo(7)) {
             case 0:
                 model.choose(
-                    "Looks", [&](Choices& choices) { choices.looks << looks.theArray[upTo(looks.numThings)]; });
+                    "Looks", [&](Choices& choices) { choices.looks.push_back(looks.theArray[upTo(looks.numThings)]); });
                 break;
             case 1:
                 model.choose("Border", [&](Choices& choices) { choices.border = (choices.border + 1) % 4; });
