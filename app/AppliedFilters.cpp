@@ -1,5 +1,6 @@
 #include "app/MainWindowController.h"
 #include "app/Rules.h"
+#include "app/ShownOnly.h"
 #include "image/CharImage.h"
 #include "render/RenderPipeline.h"
 #include "ui_MainWindow.h"
@@ -9,17 +10,6 @@
 #include <cstdlib>
 
 using namespace lumora;
-
-namespace {
-
-/// Without acting on it as on a press.
-void showSwitch(QAbstractButton& button, bool on)
-{
-    const QSignalBlocker shownOnly(button);
-    button.setChecked(on);
-}
-
-} // namespace
 
 void MainWindowController::addAppliedFilter(int filter)
 {

@@ -1,4 +1,5 @@
 #include "app/MainWindowController.h"
+#include "app/ShownOnly.h"
 #include "image/CharImage.h"
 #include "photo/FreeMemory.h"
 #include "ui_MainWindow.h"
@@ -14,18 +15,6 @@ using namespace lumora;
 namespace {
 
 constexpr int shareOfMemory = 4; ///< former photos take at most this part of the free memory
-
-void showItem(QComboBox& popUp, int index)
-{
-    const QSignalBlocker shownOnly(popUp);
-    popUp.setCurrentIndex(index);
-}
-
-void showSwitch(QAbstractButton& button, bool on)
-{
-    const QSignalBlocker shownOnly(button);
-    button.setChecked(on);
-}
 
 } // namespace
 

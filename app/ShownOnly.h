@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QSignalBlocker>
+
+// Controls are made to show what is so, without acting on it as on a press.
+
+inline void showSwitch(QAbstractButton& button, bool on)
+{
+    const QSignalBlocker shownOnly(button);
+    button.setChecked(on);
+}
+
+inline void showItem(QComboBox& popUp, int index)
+{
+    const QSignalBlocker shownOnly(popUp);
+    popUp.setCurrentIndex(index);
+}
