@@ -5,6 +5,7 @@
 
 #include "image/FilterNumber.h"
 #include "photo/reader/Message.h"
+#include "tests/photo/PhoneSamples.h"
 
 #include <QColorSpace>
 #include <QDir>
@@ -13,6 +14,7 @@
 #include <QImageWriter>
 #include <QtEndian>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -109,6 +111,37 @@ bool makePictures(const QString& folder)
     return made;
 }
 
+/// Photos as phones and cameras write them; empty files of a format whose library is missing here.
+bool makePhonePhotos(const QString& folder)
+{
+    QImage opaque(32, 24, QImage::Format_RGBX8888);
+    for (int y = 0; y < opaque.height(); y++)
+        for (int x = 0; x < opaque.width(); x++)
+            opaque.setPixel(x, y, qRgb(x * 8, y * 10, (x ^ y) * 7));
+    QImage transparent = opaque.convertToFormat(QImage::Format_RGBA8888);
+    transparent.setPixelColor(3, 4, QColor(200, 100, 50, 51));
+    QImage wide = opaque;
+    wide.setColorSpace(QColorSpace::DisplayP3);
+    bool made = true;
+    const auto seed = [&](const char* target, const QString& name, const QByteArray& file) {
+        made = made && write(folder + target, name, file) && write(folder + "/LoaderFuzz", name, file);
+    };
+    const std::pair<const char*, const QImage*> pictures[] = {
+        {"opaque", &opaque}, {"transparent", &transparent}, {"wide", &wide}};
+    for (const auto& [name, picture] : pictures)
+        for (int orientation : {1, 6}) {
+            const QString file = QStringLiteral("%1-%2").arg(name).arg(orientation);
+            seed("/HeifFuzz", file + ".heic", samples::heif(*picture, samples::HeifKind::Hevc, orientation));
+            seed("/HeifFuzz", file + ".avif", samples::heif(*picture, samples::HeifKind::Av1, orientation));
+            seed("/JxlFuzz", file + ".jxl", samples::jxl(*picture, orientation));
+            seed("/JxlFuzz", file + "-lossy.jxl", samples::jxl(*picture, orientation, samples::JxlKind::Lossy));
+        }
+    for (int orientation : {1, 6})
+        seed("/RawFuzz", QStringLiteral("%1.dng").arg(orientation),
+            samples::dng(QSize(32, 24), {0.2, 0.4, 0.3}, {0.5, 1, 0.5}, orientation));
+    return made;
+}
+
 /// Answers of a reader behind the size of the memory that came with them, and the limits that it gets.
 bool makeMessages(const QString& folder)
 {
@@ -136,7 +169,7 @@ int main(int argc, char** argv)
     if (argc != 2)
         return 2;
     const QString folder = QFile::decodeName(argv[1]);
-    bool made = makePictures(folder) && makeMessages(folder + "/ReaderMessageFuzz");
+    bool made = makePictures(folder) && makePhonePhotos(folder) && makeMessages(folder + "/ReaderMessageFuzz");
     made = made
         && write(folder + "/PreferencesFuzz", "whole",
             "[General]\nBorderStyle=3\nCroppingStyle=2\nName=\"a, \\x41\"\nOutputSize=@Size(1 2)\nPrefsVersion=2\n"

@@ -86,8 +86,9 @@ QByteArray heif(const QImage&, HeifKind, int)
 #endif
 
 #ifdef LUMORA_JXL
-QByteArray jxl(const QImage& stored, int orientation)
+QByteArray jxl(const QImage& stored, int orientation, JxlKind kind)
 {
+    const bool isLossless = kind == JxlKind::Lossless;
     const bool hasAlpha = stored.hasAlphaChannel();
     const QImage picture = stored.convertToFormat(QImage::Format_RGBA8888);
     JxlEncoder* encoder = JxlEncoderCreate(nullptr);
@@ -97,7 +98,7 @@ QByteArray jxl(const QImage& stored, int orientation)
     info.ysize = std::uint32_t(picture.height());
     info.bits_per_sample = 8;
     info.orientation = JxlOrientation(orientation);
-    info.uses_original_profile = JXL_TRUE;
+    info.uses_original_profile = isLossless;
     info.num_extra_channels = info.alpha_bits = hasAlpha ? 1 : 0;
     info.alpha_bits *= 8;
     JxlEncoderSetBasicInfo(encoder, &info);
@@ -110,7 +111,7 @@ QByteArray jxl(const QImage& stored, int orientation)
         JxlEncoderSetICCProfile(
             encoder, reinterpret_cast<const std::uint8_t*>(profile.constData()), std::size_t(profile.size()));
     JxlEncoderFrameSettings* settings = JxlEncoderFrameSettingsCreate(encoder, nullptr);
-    JxlEncoderSetFrameLossless(settings, JXL_TRUE);
+    JxlEncoderSetFrameLossless(settings, isLossless);
     QByteArray pixels;
     for (int y = 0; y < picture.height(); y++)
         for (int x = 0; x < picture.width(); x++)
@@ -128,7 +129,7 @@ QByteArray jxl(const QImage& stored, int orientation)
     return file.chopped(qsizetype(left));
 }
 #else
-QByteArray jxl(const QImage&, int)
+QByteArray jxl(const QImage&, int, JxlKind)
 {
     return {};
 }

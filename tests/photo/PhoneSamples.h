@@ -10,8 +10,8 @@ enum class HeifKind { Hevc, Av1 };
 /// `orientation`: as in EXIF, how a viewer turns the stored picture. The picture's colour profile is kept.
 QByteArray heif(const QImage& stored, HeifKind kind, int orientation = 1);
 
-/// Without loss.
-QByteArray jxl(const QImage& stored, int orientation = 1);
+enum class JxlKind { Lossless, Lossy };
+QByteArray jxl(const QImage& stored, int orientation = 1, JxlKind kind = JxlKind::Lossless);
 
 /// A DNG file: a sensor of red, green, green and blue pixels with 16 bits that saw one colour all over. `seen`: what
 /// they say of red, green and blue, on 0 .. 1. `neutral`: what they say of a grey that is as bright as can be.

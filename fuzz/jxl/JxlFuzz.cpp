@@ -1,0 +1,11 @@
+// The JPEG XL reader on any bytes:
+// build/fuzz/fuzz/JxlFuzz -max_total_time=600 -keep_seed=1 FOLDER build/fuzz/fuzz/seeds/JxlFuzz
+
+#include "fuzz/ReaderFuzz.h"
+#include "photo/formats/jxl/JxlHandler.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    readAnyBytes<JxlHandler>(data, size, pixelsForLibraries);
+    return 0;
+}
