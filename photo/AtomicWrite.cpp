@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <string>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 // QSaveFile takes names as text only and would lose one that is not valid UTF-8, so the same steps stand here.
@@ -85,24 +86,53 @@ int replace(const std::string& target, const struct stat* replaced, const QByteA
     return file.synchronise() && file.place(target) ? 0 : errno;
 }
 
+/// What stands where a file is to be written.
+struct Standing {
+    explicit Standing(const std::string& target)
+    {
+        exists = stat(target.c_str(), &status) == 0;
+        if (!exists)
+            error = errno == ENOENT ? 0 : errno;
+        else if (S_ISDIR(status.st_mode))
+            error = EISDIR;
+        else if (!S_ISREG(status.st_mode) || access(target.c_str(), W_OK) != 0)
+            error = EACCES;
+    }
+
+    bool exists;
+    struct stat status = {};
+    int error = 0; ///< not 0 where it cannot be replaced, or nothing be put there
+};
+
+/// 0, or the error number with which so many bytes could not be written into a folder.
+int roomFor(qint64 bytes, const std::string& folder)
+{
+    for (const auto kind : {UnfinishedFile::Unnamed, UnfinishedFile::Hidden}) {
+        const UnfinishedFile file(folder, kind, 0600);
+        if (!file.isOpen())
+            continue;
+        struct statvfs disk = {};
+        // File systems that do not count their blocks have none.
+        const bool isKnown = fstatvfs(file.descriptor(), &disk) == 0 && disk.f_blocks > 0;
+        return isKnown && quint64(bytes) > quint64(disk.f_bavail) * disk.f_frsize ? ENOSPC : 0;
+    }
+    return errno;
+}
+
 /// Writes the file; the error number when it could not be done, 0 otherwise.
 int write(const std::string& target, const QByteArray& data)
 {
     const std::string folder = folderOf(target);
-    struct stat status;
-    const bool replaces = stat(target.c_str(), &status) == 0;
-    if (!replaces && errno == ELOOP)
-        return ELOOP;
-    if (replaces && S_ISDIR(status.st_mode))
-        return EISDIR;
-    if (replaces && (!S_ISREG(status.st_mode) || access(target.c_str(), W_OK) != 0))
-        return EACCES;
+    const Standing standing(target);
+    if (standing.error != 0)
+        return standing.error;
+    const struct stat* const replaced = standing.exists ? &standing.status : nullptr;
     const SizeLimitFails sizeLimitFails;
     removeLeftovers(folder);
     // Whatever keeps a file without a name from being made or named, one with a hidden name may do.
-    int error = replace(target, replaces ? &status : nullptr, data, UnfinishedFile::Unnamed);
+    int error = replace(target, replaced, data, UnfinishedFile::Unnamed);
     if (error != 0)
-        error = replace(target, replaces ? &status : nullptr, data, UnfinishedFile::Hidden);
+        error = replace(target, replaced, data, UnfinishedFile::Hidden);
     if (error != 0)
         return error;
     // The new name is on the disk when its folder is.
@@ -119,6 +149,17 @@ int write(const std::string& target, const QByteArray& data)
 bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason)
 {
     const int error = write(linkTarget(path.toStdString()), data);
+    if (error != 0)
+        *reason = failure(error);
+    return error == 0;
+}
+
+bool mayWriteFile(const QByteArray& path, qint64 bytes, QString* reason)
+{
+    const std::string target = linkTarget(path.toStdString());
+    int error = Standing(target).error;
+    if (error == 0)
+        error = roomFor(bytes, folderOf(target));
     if (error != 0)
         *reason = failure(error);
     return error == 0;

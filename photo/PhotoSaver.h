@@ -16,3 +16,7 @@ QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata, Kept k
 /// narrower; through a symbolic link its target is written. False and a `reason` for people when it could not be
 /// written. Only a killed process can leave a hidden ".lumora-" file in the folder, which the next save there removes.
 bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason);
+
+/// Whether `writeFileAtomically` is likely to write so many bytes to `path`: whether what stands there may be replaced,
+/// a file be made in its folder, and the disk has room. False and a `reason` otherwise. Nothing is changed.
+bool mayWriteFile(const QByteArray& path, qint64 bytes, QString* reason);

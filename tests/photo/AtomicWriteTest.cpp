@@ -7,20 +7,32 @@
 #include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace {
+
+/// 0 when `reason` is that one.
+int compare(const QString& reason, const char* wanted)
+{
+    if (reason == QLatin1String(wanted))
+        return 0;
+    fprintf(stderr, "%s\n", qPrintable(reason));
+    return 2;
+}
 
 /// 0 when writing fails for that reason.
 int refusal(const QByteArray& path, const QByteArray& data, const char* wanted)
 {
     QString reason;
-    if (writeFileAtomically(path, data, &reason))
-        return 1;
-    if (reason == QLatin1String(wanted))
-        return 0;
-    fprintf(stderr, "%s\n", qPrintable(reason));
-    return 2;
+    return writeFileAtomically(path, data, &reason) ? 1 : compare(reason, wanted);
+}
+
+/// 0 when it is known for that reason beforehand that so many bytes could not be written.
+int warning(const QByteArray& path, qint64 bytes, const char* wanted)
+{
+    QString reason;
+    return mayWriteFile(path, bytes, &reason) ? 1 : compare(reason, wanted);
 }
 
 } // namespace
@@ -35,6 +47,7 @@ class AtomicWriteTest : public QObject {
 
 private slots:
     void init() { m_folder = std::make_unique<SaveFolder>(); }
+    void cleanup() { fileSystem = {}; }
 
     void namesAreBytes_data()
     {
@@ -113,6 +126,7 @@ private slots:
         samples::writeFile(pathOf("file"), "old");
         QVERIFY(mkdir(pathOf("folder").constData(), 0755) == 0 && mkfifo(pathOf("pipe").constData(), 0644) == 0);
         QVERIFY(symlink("loop", pathOf("loop").constData()) == 0);
+        QCOMPARE(warning(pathOf(name), 4, reason.constData()), 0);
         QCOMPARE(refusal(pathOf(name), "data", reason.constData()), 0);
         QCOMPARE(samples::readFile(pathOf("file")), QByteArray("old"));
         QCOMPARE(names(), std::set<std::string>({"file", "folder", "loop", "pipe"}));
@@ -123,8 +137,10 @@ private slots:
         samples::writeFile(pathOf("old.jpg"), "old");
         QVERIFY(chmod(pathOf("old.jpg").constData(), 0666) == 0 && chmod(pathOf("").constData(), 0555) == 0);
         const char* wanted = "There is no permission to write there.";
-        QCOMPARE(resultInChild([&] { return refusal(pathOf("old.jpg"), "data", wanted); }), 0);
-        QCOMPARE(resultInChild([&] { return refusal(pathOf("new.jpg"), "data", wanted); }), 0);
+        for (const char* name : {"old.jpg", "new.jpg"}) {
+            QCOMPARE(resultInChild([&] { return warning(pathOf(name), 4, wanted); }), 0);
+            QCOMPARE(resultInChild([&] { return refusal(pathOf(name), "data", wanted); }), 0);
+        }
         QVERIFY(chmod(pathOf("").constData(), 0755) == 0);
         QCOMPARE(samples::readFile(pathOf("old.jpg")), QByteArray("old"));
         QCOMPARE(names(), std::set<std::string>({"old.jpg"}));
@@ -135,7 +151,32 @@ private slots:
         samples::writeFile(pathOf("old.jpg"), "old");
         QVERIFY(chmod(pathOf("old.jpg").constData(), 0444) == 0);
         const char* wanted = "There is no permission to write there.";
+        QCOMPARE(resultInChild([&] { return warning(pathOf("old.jpg"), 4, wanted); }), 0);
         QCOMPARE(resultInChild([&] { return refusal(pathOf("old.jpg"), "data", wanted); }), 0);
+        QCOMPARE(samples::readFile(pathOf("old.jpg")), QByteArray("old"));
+        QCOMPARE(names(), std::set<std::string>({"old.jpg"}));
+    }
+
+    void lookingBeforehandChangesNothing_data()
+    {
+        QTest::addColumn<bool>("noUnnamedFiles");
+        QTest::newRow("files without a name") << false;
+        QTest::newRow("files with hidden names") << true;
+    }
+    void lookingBeforehandChangesNothing()
+    {
+        QFETCH(bool, noUnnamedFiles);
+        fileSystem.noUnnamedFiles = noUnnamedFiles;
+        samples::writeFile(pathOf("old.jpg"), "old");
+        struct statvfs disk = {};
+        QVERIFY(statvfs(pathOf("").constData(), &disk) == 0 && disk.f_bavail > 0);
+        const qint64 room = qint64(disk.f_bavail) * qint64(disk.f_frsize);
+        QString reason;
+        for (const char* name : {"old.jpg", "new.jpg"}) {
+            QVERIFY(mayWriteFile(pathOf(name), room / 2, &reason));
+            QCOMPARE(warning(pathOf(name), room * 2, "The disk is full."), 0);
+        }
+        QCOMPARE(reason, QString());
         QCOMPARE(samples::readFile(pathOf("old.jpg")), QByteArray("old"));
         QCOMPARE(names(), std::set<std::string>({"old.jpg"}));
     }
