@@ -142,7 +142,7 @@ void MainWindowController::saveFilteredImage()
     if (jpeg.isEmpty())
         return openModalSheetWithText(tr("The photo cannot be saved."),
             tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));
-    const QByteArray path = askWhereToSave();
+    const QByteArray path = askWhereToSave(jpeg.size());
     if (path.isEmpty())
         return;
     if (!writeFileAtomically(path, jpeg, &reason)) {

@@ -173,7 +173,7 @@ private:
     int largerFrameSide() const;
     LoadedPhoto readPhoto(const QByteArray& path);
     bool runPanel(QFileDialog& panel);
-    QByteArray askWhereToSave();
+    QByteArray askWhereToSave(qint64 bytes);
 
     Kept kept() const; ///< how much of what the photo carried is saved with it
 

@@ -1,9 +1,10 @@
 #include "app/MainWindowController.h"
+#include "app/PlainText.h"
 #include "app/Rules.h"
+#include "app/SavePanel.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
-#include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
@@ -84,21 +85,18 @@ void MainWindowController::loadImageButtonPressed()
         loadImageFromFile(QFile::encodeName(file));
 }
 
-/// Asks for the path of the JPEG; empty when the panel was cancelled.
-QByteArray MainWindowController::askWhereToSave()
+/// Asks for the path of a JPEG of so many bytes; empty when the panel was cancelled.
+QByteArray MainWindowController::askWhereToSave(qint64 bytes)
 {
     const SettingsAreWritten noHistory(false);
-    QFileDialog panel(this, tr("Save as JPEG"));
-    panel.setAcceptMode(QFileDialog::AcceptSave);
-    panel.setDefaultSuffix(QStringLiteral("jpg"));
+    const QString looks = filterIDs.numThings > 0 ? breadcrumb(filterIDs, false).replace(" > ", " ") : QString();
+    SavePanel panel(this, bytes, m_photo.filePath, looks);
     prepare(panel, m_panelFolder);
     // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
     // is what it asks about: a name that cannot be shown is not taken back.
     const QString proposed = shownName(m_photo.fileName()).replace(u'"', u'\'');
     panel.selectFile(proposed); // after the types, which would change the name's extension to theirs
-    if (!runPanel(panel))
-        return {};
-    return QFile::encodeName(QFileInfo(panel.selectedFiles().first()).absoluteFilePath());
+    return runPanel(panel) ? QFile::encodeName(panel.path()) : QByteArray();
 }
 
 void MainWindowController::openModalSheetWithText(const QString& text, const QString& auxText)
@@ -112,8 +110,7 @@ void MainWindowController::showSheet(const QString& text, const QString& auxText
         m_sheet->close();
     auto* sheet = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("Lumora"), text, QMessageBox::Ok, this);
     sheet->setInformativeText(auxText);
-    for (QLabel* label : sheet->findChildren<QLabel*>()) // the box itself would ask only the first one
-        label->setTextFormat(Qt::PlainText);
+    showPlainText(*sheet);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setWindowModality(modality);
     sheet->setAcceptDrops(true);

@@ -76,6 +76,14 @@ QString savedLine(const QByteArray& fileName, const QSize& picture, qint64 bytes
             QLocale().formattedDataSize(bytes, 0, QLocale::DataSizeSIFormat));
 }
 
+QString withJpegEnding(const QString& path)
+{
+    for (const char* ending : {".jpg", ".jpeg", ".gif", ".png", ".psd", ".tga"})
+        if (path.endsWith(QLatin1String(ending), Qt::CaseInsensitive))
+            return path;
+    return path + QStringLiteral(".jpg");
+}
+
 QByteArray fileNameOf(const QByteArray& path)
 {
     return path.mid(path.lastIndexOf('/') + 1);

@@ -37,6 +37,10 @@ QString breadcrumb(const lumora::GrowArray<int>& filterIDs, bool multi);
 /// What people are told of a saved file: its name, its picture's size in pixels and its length in bytes.
 QString savedLine(const QByteArray& fileName, const QSize& picture, qint64 bytes);
 
+/// A path whose name ends with one of the six endings that are offered, in small or capital letters; ".jpg" is added to
+/// any other.
+QString withJpegEnding(const QString& path);
+
 /// The last component of a path of any bytes, and that name for people: control characters become spaces.
 QByteArray fileNameOf(const QByteArray& path);
 QString shownName(const QByteArray& fileName);

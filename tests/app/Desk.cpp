@@ -8,7 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTimer>
+#include <QPointer>
 #include <cstdio>
 #include <memory>
 #include <unistd.h>
@@ -127,11 +127,14 @@ void Desk::withPanel(const std::function<void(QFileDialog&)>& answer, const std:
             qFatal("the panel was not answered");
     });
     watch.start(0);
-    // A question that the panel itself asks would wait for ever.
+    // A question that the panel asks and that nobody answers would wait for ever.
     QTimer alarm;
-    QObject::connect(&alarm, &QTimer::timeout, [] {
-        if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+    QPointer<QMessageBox> seen;
+    QObject::connect(&alarm, &QTimer::timeout, [&seen] {
+        auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (question && question == seen)
             qFatal("the panel asks: %s", qUtf8Printable(question->text()));
+        seen = question;
     });
     alarm.start(1000);
     action();
@@ -166,9 +169,34 @@ bool Desk::closeSheet()
     return box;
 }
 
+Answers::Answers(std::function<void(QMessageBox&)> answer)
+{
+    QObject::connect(&m_watch, &QTimer::timeout, [this, answer = std::move(answer)] {
+        auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!question || !question->isVisible())
+            return;
+        asked << question->text();
+        answer(*question);
+        if (question->isVisible())
+            qFatal("the question was not answered");
+    });
+    m_watch.start(0);
+}
+
+std::function<void(QMessageBox&)> button(const QString& text)
+{
+    return [text](QMessageBox& question) {
+        for (QAbstractButton* button : question.buttons())
+            if (button->text().remove('&') == text)
+                return QTest::mouseClick(button, Qt::LeftButton);
+        qFatal("there is no button %s", qPrintable(text));
+    };
+}
+
 void typeName(QFileDialog& panel, const QString& name)
 {
     auto* field = panel.findChild<QLineEdit*>("fileNameEdit");
+    panel.activateWindow(); // after a question, as a desktop would
     if (!QTest::qWaitFor([&] { return field->hasFocus(); }))
         qFatal("the panel does not come up");
     field->selectAll();

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <functional>
 #include <vector>
@@ -67,6 +68,18 @@ public:
 private:
     QMessageBox* visibleSheet();
 };
+
+/// Answers the questions that are asked while this lives.
+class Answers {
+public:
+    explicit Answers(std::function<void(QMessageBox&)> answer);
+    QStringList asked; ///< their texts, each of one question
+
+private:
+    QTimer m_watch;
+};
+/// An answer: presses the button of that text.
+std::function<void(QMessageBox&)> button(const QString& text);
 
 /// Types a name into a panel and confirms it.
 void typeName(QFileDialog& panel, const QString& name);
