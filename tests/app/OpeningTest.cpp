@@ -57,9 +57,9 @@ private slots:
         // Saved under the proposed name into the folder of the photo: what the panel shows is written, and nothing
         // else.
         QByteArray saved = QFile::encodeName(desk.folder.path()) + '/';
+        const Answers answers(button("Replace"));
         desk.withPanel(
             [&](QFileDialog& panel) {
-                panel.setOption(QFileDialog::DontConfirmOverwrite);
                 const QString proposed = panel.findChild<QLineEdit*>("fileNameEdit")->text();
                 saved += QFile::encodeName(proposed);
                 typeName(panel, desk.folder.path() + '/' + proposed);
@@ -68,6 +68,7 @@ private slots:
         const bool isShownAsItIs =
             QString::fromUtf8(name).toUtf8() == name && !name.contains('\n') && !name.contains('"');
         QCOMPARE(saved == path, isShownAsItIs);
+        QCOMPARE(answers.asked.size(), isShownAsItIs ? 1 : 0);
         QCOMPARE(firstBytesOf(saved), QByteArray("\xff\xd8\xff"));
         QCOMPARE(firstBytesOf(path), QByteArray(isShownAsItIs ? "\xff\xd8\xff" : "\x89PN"));
         QCOMPARE(unlink(path.constData()), 0); // the folder cannot name them all when it goes
