@@ -5,6 +5,7 @@
 #include <QColorSpace>
 #include <QImage>
 #include <QVariant>
+#include <QtEndian>
 #include <cstring>
 #include <libheif/heif.h>
 
@@ -51,16 +52,41 @@ QColorSpace coloursOf(const heif_image_handle* picture)
     return error.code == heif_error_Ok ? QColorSpace::fromIccProfile(profile) : QColorSpace();
 }
 
+/// More than eight bits a channel are kept until the colours are converted: the profile may spread them.
+bool isDeep(const heif_image_handle* picture)
+{
+    return heif_image_handle_get_luma_bits_per_pixel(picture) > 8;
+}
+
+QImage::Format formatOf(const heif_image_handle* picture)
+{
+    const bool deep = isDeep(picture);
+    if (!heif_image_handle_has_alpha_channel(picture))
+        return deep ? QImage::Format_RGBX64 : QImage::Format_RGBX8888;
+    if (heif_image_handle_is_premultiplied_alpha(picture))
+        return deep ? QImage::Format_RGBA64_Premultiplied : QImage::Format_RGBA8888_Premultiplied;
+    return deep ? QImage::Format_RGBA64 : QImage::Format_RGBA8888;
+}
+
+/// Red, green, blue and alpha of each pixel in a byte each, or, of a deep picture, in two with some of their bits.
 Owned<heif_image> decoded(const heif_image_handle* picture)
 {
     const Owned<heif_decoding_options> options(heif_decoding_options_alloc());
     if (!options)
         return nullptr;
-    options->convert_hdr_to_8bit = 1;
     options->decoder_id = "aom"; // of AVIF pictures: the other one starts threads
     heif_image* image = nullptr;
-    heif_decode_image(picture, &image, heif_colorspace_RGB, heif_chroma_interleaved_RGBA, options.get());
+    heif_decode_image(picture, &image, heif_colorspace_RGB,
+        isDeep(picture) ? heif_chroma_interleaved_RRGGBBAA_LE : heif_chroma_interleaved_RGBA, options.get());
     return Owned<heif_image>(image);
+}
+
+/// Spreads numbers of so many bits over all of 16.
+void spread(const std::uint8_t* from, int count, int bits, quint16* to)
+{
+    const quint32 most = (1u << bits) - 1;
+    for (int i = 0; i < count; i++)
+        to[i] = quint16((qFromLittleEndian<quint16>(from + 2 * i) * 65535u + most / 2) / most);
 }
 
 } // namespace
@@ -103,7 +129,7 @@ QVariant HeifHandler::option(ImageOption option) const
         return {};
     if (option == Size)
         return QSize(heif_image_handle_get_width(m_picture.get()), heif_image_handle_get_height(m_picture.get()));
-    return option == ImageFormat ? QVariant(QImage::Format_RGBA8888) : QVariant();
+    return option == ImageFormat ? QVariant(formatOf(m_picture.get())) : QVariant();
 }
 
 bool HeifHandler::read(QImage* image)
@@ -115,19 +141,19 @@ bool HeifHandler::read(QImage* image)
         return false;
     const int width = heif_image_get_width(pixels.get(), heif_channel_interleaved);
     const int height = heif_image_get_height(pixels.get(), heif_channel_interleaved);
+    const int bits = heif_image_get_bits_per_pixel_range(pixels.get(), heif_channel_interleaved);
     int stride = 0;
     const std::uint8_t* from = heif_image_get_plane_readonly(pixels.get(), heif_channel_interleaved, &stride);
-    if (!from || QSize(width, height) != option(Size).toSize())
+    if (!from || bits < 8 || bits > 16 || QSize(width, height) != option(Size).toSize())
         return false;
-    QImage picture(width, height, QImage::Format_RGBA8888);
+    QImage picture(width, height, formatOf(m_picture.get()));
     if (picture.isNull())
         return false;
-    for (int y = 0; y < height; y++)
-        std::memcpy(picture.scanLine(y), from + qsizetype(y) * stride, std::size_t(width) * 4);
-    if (!heif_image_handle_has_alpha_channel(m_picture.get()))
-        picture.reinterpretAsFormat(QImage::Format_RGBX8888);
-    else if (heif_image_handle_is_premultiplied_alpha(m_picture.get()))
-        picture.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
+    for (int y = 0; y < height; y++, from += stride)
+        if (isDeep(m_picture.get()))
+            spread(from, width * 4, bits, reinterpret_cast<quint16*>(picture.scanLine(y)));
+        else
+            std::memcpy(picture.scanLine(y), from, std::size_t(width) * 4);
     picture.setColorSpace(coloursOf(m_picture.get()));
     *image = picture;
     return true;

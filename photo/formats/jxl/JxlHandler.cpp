@@ -9,7 +9,12 @@
 
 namespace {
 
-constexpr JxlPixelFormat pixelFormat = {4, JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0};
+/// Red, green, blue and alpha. More than eight bits a channel are kept until the colours are converted: the profile may
+/// spread them.
+JxlPixelFormat pixelFormat(bool isDeep)
+{
+    return {4, isDeep ? JXL_TYPE_UINT16 : JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0};
+}
 
 struct FreeDecoder {
     void operator()(JxlDecoder* decoder) const { JxlDecoderDestroy(decoder); }
@@ -40,13 +45,13 @@ std::optional<JxlBasicInfo> infoOf(const QByteArray& file)
     return info;
 }
 
-QColorSpace coloursOf(const JxlDecoder* decoder)
+QColorSpace coloursOf(const JxlDecoder* decoder, const JxlPixelFormat& format)
 {
     std::size_t size = 0;
-    if (JxlDecoderGetICCProfileSize(decoder, &pixelFormat, JXL_COLOR_PROFILE_TARGET_DATA, &size) != JXL_DEC_SUCCESS)
+    if (JxlDecoderGetICCProfileSize(decoder, &format, JXL_COLOR_PROFILE_TARGET_DATA, &size) != JXL_DEC_SUCCESS)
         return {};
     QByteArray profile(qsizetype(size), '\0');
-    const bool told = JxlDecoderGetColorAsICCProfile(decoder, &pixelFormat, JXL_COLOR_PROFILE_TARGET_DATA,
+    const bool told = JxlDecoderGetColorAsICCProfile(decoder, &format, JXL_COLOR_PROFILE_TARGET_DATA,
                           reinterpret_cast<std::uint8_t*>(profile.data()), size)
         == JXL_DEC_SUCCESS;
     return told ? QColorSpace::fromIccProfile(profile) : QColorSpace();
@@ -54,25 +59,29 @@ QColorSpace coloursOf(const JxlDecoder* decoder)
 
 QImage::Format formatOf(const JxlBasicInfo& info)
 {
+    const bool deep = info.bits_per_sample > 8;
     if (info.alpha_bits == 0)
-        return QImage::Format_RGBX8888;
-    return info.alpha_premultiplied ? QImage::Format_RGBA8888_Premultiplied : QImage::Format_RGBA8888;
+        return deep ? QImage::Format_RGBX64 : QImage::Format_RGBX8888;
+    if (info.alpha_premultiplied)
+        return deep ? QImage::Format_RGBA64_Premultiplied : QImage::Format_RGBA8888_Premultiplied;
+    return deep ? QImage::Format_RGBA64 : QImage::Format_RGBA8888;
 }
 
 /// Goes on to the end of the first frame, whose pixels become those of `picture`. False where it is not whole.
 bool decode(JxlDecoder* decoder, QImage& picture)
 {
+    const JxlPixelFormat format = pixelFormat(picture.depth() == 64);
     QColorSpace colours;
     for (;;) {
         switch (JxlDecoderProcessInput(decoder)) {
         case JXL_DEC_COLOR_ENCODING:
-            colours = coloursOf(decoder);
+            colours = coloursOf(decoder, format);
             break;
         case JXL_DEC_NEED_IMAGE_OUT_BUFFER: {
             std::size_t size = 0;
-            if (JxlDecoderImageOutBufferSize(decoder, &pixelFormat, &size) != JXL_DEC_SUCCESS
+            if (JxlDecoderImageOutBufferSize(decoder, &format, &size) != JXL_DEC_SUCCESS
                 || size != std::size_t(picture.sizeInBytes())
-                || JxlDecoderSetImageOutBuffer(decoder, &pixelFormat, picture.bits(), size) != JXL_DEC_SUCCESS)
+                || JxlDecoderSetImageOutBuffer(decoder, &format, picture.bits(), size) != JXL_DEC_SUCCESS)
                 return false;
             break;
         }
