@@ -2,9 +2,9 @@
 
 #include "tests/photo/TiffSample.h"
 
+#include <QColor>
 #include <QColorSpace>
 #include <QtEndian>
-#include <cmath>
 #include <cstring>
 #ifdef LUMORA_HEIF
 #include <libheif/heif.h>
@@ -135,16 +135,18 @@ QByteArray jxl(const QImage&, int, JxlKind)
 }
 #endif
 
-QByteArray dng(QSize size, const QList<double>& seen, const QList<double>& neutral, int orientation)
+QByteArray dng(const QImage& seen, const QList<double>& neutral, int orientation)
 {
     QByteArray pixels;
-    for (int y = 0; y < size.height(); y++)
-        for (int x = 0; x < size.width(); x++) {
+    for (int y = 0; y < seen.height(); y++)
+        for (int x = 0; x < seen.width(); x++) {
+            const QRgba64 colour = seen.pixelColor(x, y).rgba64();
+            const quint16 channels[] = {colour.red(), colour.green(), colour.blue()};
             QByteArray sample(2, '\0');
-            qToLittleEndian(quint16(std::lround(seen[x % 2 + y % 2] * 65535)), sample.data());
+            qToLittleEndian(channels[x % 2 + y % 2], sample.data());
             pixels += sample;
         }
-    QList<TiffEntry> entries = tiffPicture(size.width(), size.height(), 16, 1, 32803);
+    QList<TiffEntry> entries = tiffPicture(seen.width(), seen.height(), 16, 1, 32803);
     entries << longs(254, {0}) << text(271, "Prism") << text(272, "Model 7") << shorts(274, {orientation})
             << shorts(33421, {2, 2}) << bytes(33422, QByteArray("\0\1\1\2", 4))
             << bytes(50706, QByteArray("\1\4\0\0", 4)) << bytes(50707, QByteArray("\1\1\0\0", 4))
@@ -153,6 +155,13 @@ QByteArray dng(QSize size, const QList<double>& seen, const QList<double>& neutr
             << rationals(50721, {3.2406, -1.5372, -0.4986, -0.9689, 1.8758, 0.0415, 0.0557, -0.2040, 1.0570}, true)
             << rationals(50728, neutral) << shorts(50778, {21}) << longs(50717, {65535});
     return tiff(entries, {pixels});
+}
+
+QByteArray dng(QSize size, const QList<double>& seen, const QList<double>& neutral, int orientation)
+{
+    QImage picture(size, QImage::Format_RGBX64);
+    picture.fill(QColor::fromRgbF(float(seen[0]), float(seen[1]), float(seen[2])));
+    return dng(picture, neutral, orientation);
 }
 
 } // namespace samples

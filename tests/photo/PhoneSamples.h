@@ -13,8 +13,10 @@ QByteArray heif(const QImage& stored, HeifKind kind, int orientation = 1);
 enum class JxlKind { Lossless, Lossy };
 QByteArray jxl(const QImage& stored, int orientation = 1, JxlKind kind = JxlKind::Lossless);
 
-/// A DNG file: a sensor of red, green, green and blue pixels with 16 bits that saw one colour all over. `seen`: what
-/// they say of red, green and blue, on 0 .. 1. `neutral`: what they say of a grey that is as bright as can be.
+/// A DNG file: a sensor of red, green, green and blue pixels with 16 bits that saw the channels of that picture.
+/// `neutral`: what they say of a grey that is as bright as can be, on 0 .. 1.
+QByteArray dng(const QImage& seen, const QList<double>& neutral, int orientation = 1);
+/// The same of one colour all over. `seen`: what they say of red, green and blue, on 0 .. 1.
 QByteArray dng(QSize size, const QList<double>& seen, const QList<double>& neutral, int orientation = 1);
 
 } // namespace samples
