@@ -175,6 +175,20 @@ private slots:
                 qPrintable(open(file).reason));
     }
 
+    void aPictureThatIsMadeOfItselfIsRefused()
+    {
+        // The transparency, a grid as the picture itself, has the picture in place of its tile.
+        QImage picture(32, 24, QImage::Format_RGBA8888);
+        picture.fill(QColor(200, 100, 50, 51));
+        QByteArray file = encoded(0, picture);
+        if (file.isEmpty())
+            return;
+        const qsizetype tile = file.indexOf(QByteArray("dimg\0\4\0\1\0\3", 10));
+        QVERIFY(tile > 0);
+        file.replace(tile, 10, QByteArray("dimg\0\4\0\1\0\2", 10));
+        QVERIFY(open(file).reason.contains("damaged"));
+    }
+
     void rawPhotosAreDevelopedUprightAndWithTheWhiteOfTheMoment()
     {
         if (!hasLibrary[3])

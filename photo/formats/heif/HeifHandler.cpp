@@ -1,6 +1,7 @@
 #include "photo/formats/heif/HeifHandler.h"
 
 #include "photo/formats/heif/HevcDecoder.h"
+#include "photo/formats/heif/ItemReferences.h"
 
 #include <QColorSpace>
 #include <QImage>
@@ -107,6 +108,8 @@ bool HeifHandler::open() const
         return m_picture != nullptr;
     m_opened = true;
     m_bytes = device()->readAll();
+    if (!itemsComeToAnEnd(m_bytes))
+        return false;
     m_context.reset(heif_context_alloc());
     heif_context_set_max_decoding_threads(m_context.get(), 0);
     const heif_error error = heif_context_read_from_memory_without_copy(
