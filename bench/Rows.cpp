@@ -52,6 +52,18 @@ void addToolkit(std::vector<Row>& rows)
                 const float outer = halfDiagonal(p.width, p.height);
                 reference::vignette(p, outer * 0.4f, outer, 1.2f, 0.6f, true, false);
             }});
+    rows.push_back({.name = "strength",
+        .operation = [](Subject& s) { s.image->mixIn(*s.made, 40); },
+        .twin =
+            [](Picture& p) {
+                const Picture before = p;
+                reference::mixIn(p, before, 40);
+            },
+        .prepare =
+            [](Subject& s) {
+                s.made = std::make_unique<CharImage>(*s.image);
+                s.image->applyMonoFilter();
+            }});
     // One spot of nine pixels to a hundred pixels.
     rows.push_back(
         {.name = "noise", .operation = [](Subject& s) { s.image->addNoise(int(s.image->pixelCount() / 100), 3, 40); }});

@@ -65,7 +65,7 @@ void work(CharImage& image, Input& input)
     unsigned char colour[4];
     const int half = (image.width < image.height ? image.width : image.height) / 2;
     const auto side = [&] { return input.below(half + 1); }; // margins lie inside the canvas
-    switch (input.below(9)) {
+    switch (input.below(10)) {
     case 0:
         image.fillHistogram(
             input.number(1), input.number(1), input.number(255), input.number(255), input.below(2), input.below(2));
@@ -105,6 +105,12 @@ void work(CharImage& image, Input& input)
         input.take(colour, sizeof colour);
         image.fillRoundedBorder(side(), side(), side(), side(), 1 + side(), colour);
         break;
+    case 8: {
+        const CharImage before(image);
+        image.applyFilter(anyNumber(input));
+        image.mixIn(before, input.below(120) - 10);
+        break;
+    }
     default:
         image.applyFilter(anyNumber(input));
     }

@@ -112,6 +112,12 @@ public:
     void vignette(
         float innerRadius, float outerRadius, float exponent, float strength, bool boostSaturation, bool softenEdges);
 
+    // ---- Toolkit: strength ----
+    /// Takes a look back in part: `before` is the picture as it was, of the same size, and `strength` what is to stay
+    /// of the look, 0 .. 100 per cent (held there). Each of red, green and blue becomes the mix of its two values,
+    /// rounded half up: 100 leaves the picture as it is, 0 gives the colours of `before`.
+    void mixIn(const CharImage& before, int strength);
+
     // ---- Toolkit: grain and maps ----
     /// Adds `count` squares of `spotSize` pixels at random places, each brighter or darker by one random amount of
     /// -amplitude/2 .. amplitude/2 (amplitude at least 1). Sums wrap round modulo 256; squares are clipped to the

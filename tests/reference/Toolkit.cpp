@@ -184,6 +184,18 @@ void vignette(Picture& picture, float innerRadius, float outerRadius, float expo
         }
 }
 
+void mixIn(Picture& picture, const Picture& before, int strength)
+{
+    const int percent = strength < 0 ? 0 : strength > 100 ? 100 : strength;
+    for (int y = 0; y < picture.height; y++)
+        for (int x = 0; x < picture.width; x++)
+            for (int channel = 0; channel < 3; channel++) {
+                unsigned char& after = picture.at(x, y)[channel];
+                const int hundredfold = before.at(x, y)[channel] * (100 - percent) + after * percent;
+                after = static_cast<unsigned char>(std::floor(hundredfold / 100.0 + 0.5));
+            }
+}
+
 void addNoise(Picture& picture, int count, int spotSize, int amplitude)
 {
     const int half = spotSize / 2;

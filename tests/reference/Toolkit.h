@@ -24,6 +24,7 @@ void fillHistogram(Picture& picture, float lowFraction, float highFraction, floa
 void makeBlurry(Picture& picture, int size, float exponent);
 void vignette(Picture& picture, float innerRadius, float outerRadius, float exponent, float strength,
     bool boostSaturation, bool softenEdges);
+void mixIn(Picture& picture, const Picture& before, int strength);
 void addNoise(Picture& picture, int count, int spotSize, int amplitude);
 
 std::vector<float> smoothingKernel(int size, float exponent);
