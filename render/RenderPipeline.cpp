@@ -63,34 +63,72 @@ QSize sizeOf(const QImage& source, const Frame& frame, bool asThumbnail)
 }
 
 /// By the loader's rule. One of the blocks that it counts is the photo, which is there already.
-bool hasRoomFor(const QSize& size)
+bool hasRoomFor(const QSize& size, int blocks)
 {
-    return qint64(size.width()) * size.height() * 4 <= freeMemory() / (blocksPerPhoto - 1);
+    return qint64(size.width()) * size.height() * 4 <= freeMemory() / blocks;
+}
+
+constexpr int blocksOfRender = blocksPerPhoto - 1;
+
+std::unique_ptr<CharImage> fitted(const QImage& source, const Frame& frame)
+{
+    return std::unique_ptr<CharImage>(
+        charImageFromNSImage(source, frame.aspect, frame.boxWidth(), frame.boxHeight(), 0, 0, 0, 0, false, 3));
+}
+
+bool hasLooks(const RenderSettings& settings)
+{
+    return settings.filter != -1 || (settings.filterIDs && settings.filterIDs->numThings > 0);
+}
+
+/// Whether the looks are taken back in part.
+bool isMixed(const RenderSettings& settings)
+{
+    return settings.strength < 100 && !settings.asThumbnail && hasLooks(settings);
+}
+
+void applyLooks(CharImage& image, const RenderSettings& settings, const RenderProgress& progress)
+{
+    if (settings.filter != -1)
+        applyStep(image, settings.filter, progress);
+    else if (settings.filterIDs)
+        for (int i = 0; i < settings.filterIDs->numThings; i++)
+            applyStep(image, settings.filterIDs->theArray[i], progress);
+}
+
+void addFrame(CharImage& image, const Frame& frame, int borderFilter)
+{
+    if (frame.hasMargins())
+        image.addBorder(frame.left, frame.right, frame.top, frame.bottom, 255.0f, 255.0f, 255.0f);
+    image.applyFilterBorder(borderFilter, frame.maxSide);
+}
+
+/// Takes the block of the image along.
+QImage pictureOf(CharImage& image, const Frame& frame, const QColorSpace& space)
+{
+    // Only margins have spare bytes that nobody has set.
+    const auto wrapped = frame.hasMargins() ? getImageRefFromRGBACharArray : opaqueImage;
+    QImage picture = wrapped(std::exchange(image.data, nullptr), image.width, image.height);
+    picture.setColorSpace(space);
+    return picture;
 }
 
 QImage render(const QImage& source, const RenderSettings& settings, const Frame& frame, const RenderProgress& progress)
 {
     report(progress, "Fit");
-    const std::unique_ptr<CharImage> image(
-        charImageFromNSImage(source, frame.aspect, frame.boxWidth(), frame.boxHeight(), 0, 0, 0, 0, false, 3));
-
-    if (settings.filter != -1)
-        applyStep(*image, settings.filter, progress);
-    else if (settings.filterIDs)
-        for (int i = 0; i < settings.filterIDs->numThings; i++)
-            applyStep(*image, settings.filterIDs->theArray[i], progress);
-
+    const std::unique_ptr<CharImage> image = fitted(source, frame);
+    if (isMixed(settings)) {
+        const CharImage before(*image);
+        applyLooks(*image, settings, progress);
+        image->mixIn(before, settings.strength);
+    } else {
+        applyLooks(*image, settings, progress);
+    }
     if (!settings.asThumbnail) {
         report(progress, "Border");
-        if (frame.hasMargins())
-            image->addBorder(frame.left, frame.right, frame.top, frame.bottom, 255.0f, 255.0f, 255.0f);
-        image->applyFilterBorder(settings.borderFilter, frame.maxSide);
+        addFrame(*image, frame, settings.borderFilter);
     }
-    // Only margins have spare bytes that nobody has set.
-    const auto wrapped = frame.hasMargins() ? getImageRefFromRGBACharArray : opaqueImage;
-    QImage picture = wrapped(std::exchange(image->data, nullptr), image->width, image->height);
-    picture.setColorSpace(source.colorSpace());
-    return picture;
+    return pictureOf(*image, frame, source.colorSpace());
 }
 
 } // namespace
@@ -103,7 +141,7 @@ QImage renderPhoto(
     const Frame frame = frameOf(source, settings);
     const QSize size = sizeOf(source, frame, settings.asThumbnail);
     try {
-        if (hasRoomFor(size))
+        if (hasRoomFor(size, blocksOfRender + (isMixed(settings) ? 1 : 0)))
             return render(source, settings, frame, progress);
     } catch (const std::bad_alloc&) {
         // Something else took the room in the meantime.
@@ -111,4 +149,48 @@ QImage renderPhoto(
     if (reason)
         *reason = memoryRefusal(size);
     return {};
+}
+
+struct RenderedLooks::Parts {
+    Frame frame;
+    int borderFilter;
+    QColorSpace space;
+    std::unique_ptr<CharImage> before, after; ///< the looks, without the border
+};
+
+RenderedLooks::RenderedLooks(std::unique_ptr<Parts> parts)
+    : m(std::move(parts))
+{
+}
+
+RenderedLooks::~RenderedLooks() = default;
+
+std::unique_ptr<RenderedLooks> RenderedLooks::of(const QImage& source, const RenderSettings& settings)
+{
+    if (source.isNull())
+        return nullptr;
+    const Frame frame = frameOf(source, settings);
+    try {
+        if (!hasRoomFor(sizeOf(source, frame, false), blocksOfRender + 2)) // both parts, and what is made of them
+            return nullptr;
+        std::unique_ptr<Parts> parts(
+            new Parts{frame, settings.borderFilter, source.colorSpace(), fitted(source, frame), {}});
+        parts->after = std::make_unique<CharImage>(*parts->before);
+        applyLooks(*parts->after, settings, {});
+        return std::unique_ptr<RenderedLooks>(new RenderedLooks(std::move(parts)));
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+QImage RenderedLooks::withStrength(int strength) const
+{
+    try {
+        CharImage image(*m->after);
+        image.mixIn(*m->before, strength);
+        addFrame(image, m->frame, m->borderFilter);
+        return pictureOf(image, m->frame, m->space);
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
 }

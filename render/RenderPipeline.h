@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QString>
 #include <functional>
+#include <memory>
 
 /// What one render applies to its source.
 struct RenderSettings {
@@ -13,6 +14,7 @@ struct RenderSettings {
     const lumora::GrowArray<int>* filterIDs = nullptr; ///< the applied list, read when `filter` is -1
     int cropFilter = lumora::Filter::original; ///< whose crop aspect is taken
     int borderFilter = lumora::Filter::original; ///< whose margins and border are drawn
+    int strength = 100; ///< of the looks together, 0 .. 100 per cent; a thumbnail has them whole
     bool asThumbnail = false; ///< square, without the border, though fitted inside its margins
 };
 
@@ -25,3 +27,20 @@ using RenderProgress = std::function<void(const char* step)>;
 /// too, and has a `reason` for people; nothing is allocated for it.
 QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {},
     QString* reason = nullptr);
+
+/// A render whose strength is still open: the photo before and after its looks, which takes twice the memory of a
+/// render. The looks are not applied again for another strength.
+class RenderedLooks {
+public:
+    /// As renderPhoto does it, for the strength of whole looks and no thumbnail; null where that gives a null picture.
+    static std::unique_ptr<RenderedLooks> of(const QImage& source, const RenderSettings& settings);
+    ~RenderedLooks();
+
+    /// The picture that renderPhoto gives for this strength; null where there is no memory for it.
+    QImage withStrength(int strength) const;
+
+private:
+    struct Parts;
+    explicit RenderedLooks(std::unique_ptr<Parts> parts);
+    std::unique_ptr<Parts> m;
+};

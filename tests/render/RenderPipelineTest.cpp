@@ -6,6 +6,7 @@
 
 #include <QStringList>
 #include <QTest>
+#include <cmath>
 #include <memory>
 
 using namespace lumora;
@@ -191,6 +192,62 @@ private slots:
         const QImage picture = renderPhoto(source, settings, [&](const char*) { list.addOnce(6); });
         QCOMPARE(picture, under(source, {mono, look1962}));
     }
+
+    void strengthMixesThePhotoAndItsLooksBeforeTheBorder_data()
+    {
+        QTest::addColumn<int>("strength");
+        for (const int strength : {0, 1, 40, 99, 100})
+            QTest::addRow("%i", strength) << strength;
+    }
+    void strengthMixesThePhotoAndItsLooksBeforeTheBorder()
+    {
+        QFETCH(int, strength);
+        const QImage source = samples::noise(64, 48);
+        GrowArray<int> list;
+        list.add(look1962);
+        list.add(colorcross);
+        const RenderSettings settings = {
+            .filterIDs = &list, .cropFilter = square, .borderFilter = thick, .strength = strength};
+        const QImage picture = renderPhoto(source, settings);
+        QCOMPARE(picture.size(), QSize(64, 64));
+        // Inside the border; 64 / 16 pixels wide.
+        const QRect inside(4, 4, 56, 56);
+        const QImage before = render(source, square, thick), after = [&] {
+            RenderSettings whole = settings;
+            whole.strength = 100;
+            return renderPhoto(source, whole);
+        }();
+        for (int y = 0; y < 64; y++)
+            for (int x = 0; x < 64; x++) {
+                const QRgb a = before.pixel(x, y), b = after.pixel(x, y);
+                const auto mixed = [strength](int from, int to) {
+                    return int(std::floor((from * (100 - strength) + to * strength) / 100.0 + 0.5));
+                };
+                const QRgb expected = inside.contains(x, y)
+                    ? qRgb(mixed(qRed(a), qRed(b)), mixed(qGreen(a), qGreen(b)), mixed(qBlue(a), qBlue(b)))
+                    : b;
+                QCOMPARE(picture.pixel(x, y), expected);
+            }
+        // Chosen later, it gives the same.
+        QCOMPARE(RenderedLooks::of(source, settings)->withStrength(strength), picture);
+    }
+
+    void strengthIsOfAllLooksTogether()
+    {
+        const QImage source = samples::noise(64, 48);
+        const QImage picture = renderPhoto(source, {.filter = mono, .strength = 0});
+        QCOMPARE(picture, source);
+        QCOMPARE(renderPhoto(source, {.strength = 0}), source);
+    }
+
+    void thumbnailsHaveTheWholeLook()
+    {
+        const QImage source = samples::noise(64, 48);
+        QCOMPARE(renderPhoto(source, {.filter = mono, .strength = 0, .asThumbnail = true}),
+            renderPhoto(source, {.filter = mono, .asThumbnail = true}));
+    }
+
+    void looksWithoutAPhotoAreNoLooks() { QVERIFY(!RenderedLooks::of(QImage(), {.filter = mono})); }
 
     void borderWithoutMarginsIsDrawn()
     {
