@@ -61,11 +61,11 @@ void MainWindowController::setoriginalImage(const QImage& image)
 }
 
 /// At the end of the line with the looks, until something else happens.
-void MainWindowController::showSaved(const QString& line)
+void MainWindowController::showNote(const QString& line)
 {
-    m_ui->savedText->setText(line);
-    m_ui->savedText->setToolTip(line);
-    m_ui->savedText->setVisible(!line.isEmpty());
+    m_ui->noteText->setText(line);
+    m_ui->noteText->setToolTip(line);
+    m_ui->noteText->setVisible(!line.isEmpty());
 }
 
 QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
@@ -148,7 +148,7 @@ void MainWindowController::saveFilteredImage()
     if (!writeFileAtomically(path, jpeg, &reason)) {
         std::puts("didn't work!");
         qWarning("%s: %s", escaped(path).constData(), qUtf8Printable(reason));
-        return showSaved({});
+        return showNote({});
     }
-    showSaved(savedLine(fileNameOf(path), render.size(), jpeg.size()));
+    showNote(savedLine(fileNameOf(path), render.size(), jpeg.size()));
 }

@@ -167,7 +167,7 @@ private:
     void beginHistory();
     void travel(void (History::*step)());
     void showHistory();
-    void showSaved(const QString& line); ///< empty: nothing
+    void showNote(const QString& line); ///< empty: nothing
     void setCurrentFile(const QByteArray& path);
     void rotateImage(int quarterTurns); ///< counter-clockwise where positive
     int largerFrameSide() const;

@@ -39,7 +39,7 @@ void MainWindowController::buildEditMenu()
 
 void MainWindowController::showHistory()
 {
-    showSaved({}); // the steps have changed, and with them what a saved file would be
+    showNote({}); // the steps have changed, and with them what a saved file would be
     const auto show = [](QAction& entry, bool can, const QString& alone, const QString& withName, const QString& name) {
         entry.setEnabled(can);
         entry.setText(can ? withName.arg(name) : alone);

@@ -135,7 +135,7 @@ private slots:
         QCOMPARE(answers.asked, QStringList(ownPhoto));
         QCOMPARE(fileOf(desk, "photo.png"), photo);
         QVERIFY(isJpeg(fileOf(desk, beside)));
-        QVERIFY(desk.find<QLabel>("savedText")->text().startsWith("Saved " + beside + ", "));
+        QVERIFY(desk.find<QLabel>("noteText")->text().startsWith("Saved " + beside + ", "));
     }
 
     void thePhotoIsKnownThroughARelativePath()

@@ -147,7 +147,7 @@ private slots:
     {
         Desk desk(makePhoto(300, 200));
         const QString path = desk.folder.filePath("over Helga.jpg");
-        const auto* line = desk.find<QLabel>("savedText");
+        const auto* line = desk.find<QLabel>("noteText");
         const auto save = [&] {
             QFile::remove(path); // so that the panel does not ask
             printedBy([&] { desk.saveAs(path); });
@@ -179,10 +179,10 @@ private slots:
     {
         Desk desk(makePhoto(600, 400));
         printedBy([&] { desk.saveAs(desk.folder.filePath("out.jpg")); });
-        QVERIFY(desk.find<QLabel>("savedText")->isVisible());
+        QVERIFY(desk.find<QLabel>("noteText")->isVisible());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("second.jpg: The file is larger than may be written"));
         printedBy([&] { saveWithFilesLimited(desk, desk.folder.filePath("second.jpg")); });
-        QVERIFY(!desk.find<QLabel>("savedText")->isVisible());
+        QVERIFY(!desk.find<QLabel>("noteText")->isVisible());
     }
 
     void thePanelStartsInThePhotosFolder()
