@@ -6,12 +6,12 @@
 #include "photo/FreeMemory.h"
 #include "photo/JpegMarkers.h"
 #include "photo/OnWhite.h"
+#include "photo/Orientation.h"
 #include "photo/formats/OwnFormats.h"
 #include "photo/formats/PngColourKey.h"
 #include "photo/formats/UnsupportedKind.h"
 #include "photo/metadata/MetadataReader.h"
 
-#include <QImageIOHandler>
 #include <QImageReader>
 #include <algorithm>
 #include <new>
@@ -53,17 +53,32 @@ bool isForPhotos(const QByteArray& format)
     return std::none_of(std::begin(others), std::end(others), [&](const char* other) { return format == other; });
 }
 
-QString decodeByOwn(QImageIOHandler& handler, const Room& room, QImage& image)
+/// What became of a file.
+struct Decoded {
+    QString reason; ///< why there is no picture; empty where there is one
+    QImage image; ///< anything beside a reason
+    bool isUpright = false; ///< otherwise it stands as it is stored, which the file's EXIF block may tell
+};
+
+Decoded refused(const QString& reason)
+{
+    return {reason, {}};
+}
+
+Decoded decodeByOwn(PhotoHandler& handler, const Room& room)
 {
     const QString refusal = sizeRefusal(handler.option(QImageIOHandler::Size).toSize(),
         bytesPerPixel(QImage::Format(handler.option(QImageIOHandler::ImageFormat).toInt())), room);
     if (!refusal.isEmpty())
-        return refusal;
-    return handler.read(&image) ? QString()
-                                : QStringLiteral("The picture is damaged or of a kind that cannot be read.");
+        return refused(refusal);
+    Decoded decoded;
+    if (!handler.read(&decoded.image))
+        return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
+    decoded.isUpright = handler.isUpright();
+    return decoded;
 }
 
-QString decodeByPlatform(QIODevice& file, const Room& room, QImage& image)
+Decoded decodeByPlatform(QIODevice& file, const Room& room)
 {
     // For decoders that do not tell the size first.
     const qint64 limit = std::min(maxPhotoPixels * 8, room.memory / blocksPerPhoto);
@@ -72,38 +87,40 @@ QString decodeByPlatform(QIODevice& file, const Room& room, QImage& image)
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     if (!reader.canRead() || !isForPhotos(reader.format()))
-        return QStringLiteral("The file is not a picture of a kind that can be read.");
+        return refused(QStringLiteral("The file is not a picture of a kind that can be read."));
     const QSize size = reader.size();
     if (size.isValid()) {
         const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()), room);
         if (!refusal.isEmpty())
-            return refusal;
+            return refused(refusal);
     }
-    if (readEveryPixel(reader, image))
-        return {};
-    return isUnsupportedKind(file) ? QStringLiteral("The picture is of a kind that is not supported.")
-                                   : QStringLiteral("The picture is damaged and cannot be read.");
+    Decoded decoded;
+    if (!readEveryPixel(reader, decoded.image))
+        return refused(isUnsupportedKind(file) ? QStringLiteral("The picture is of a kind that is not supported.")
+                                               : QStringLiteral("The picture is damaged and cannot be read."));
+    decoded.isUpright = reader.transformation() != QImageIOHandler::TransformationNone;
+    return decoded;
 }
 
-/// Decodes the first picture of the file; gives the reason when there is none, and leaves anything in `image`.
-QString decode(QIODevice& file, const Room& room, QImage& image)
+/// Decodes the first picture of the file.
+Decoded decode(QIODevice& file, const Room& room)
 {
     const OwnFormat own = ownFormat(file);
     if (!own.reason.isEmpty())
-        return own.reason;
+        return refused(own.reason);
     if (own.handler) {
         own.handler->setDevice(&file);
-        return decodeByOwn(*own.handler, room, image);
+        return decodeByOwn(*own.handler, room);
     }
     if (const auto key = findPngColourKey(file)) {
         PngWithoutKey png(file, *key);
-        const QString reason = decodeByPlatform(png, room, image);
-        if (!reason.isEmpty() || applyColourKey(image, *key))
-            return reason;
-        return QStringLiteral("The picture is damaged or of a kind that cannot be read.");
+        Decoded decoded = decodeByPlatform(png, room);
+        if (decoded.reason.isEmpty() && !applyColourKey(decoded.image, *key))
+            return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
+        return decoded;
     }
     file.seek(0);
-    return decodeByPlatform(file, room, image);
+    return decodeByPlatform(file, room);
 }
 
 LoadedPhoto load(QIODevice& file, qint64 memory)
@@ -113,16 +130,17 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
     if (markers.markers > maxJpegMarkers || markers.scans > maxJpegScans
         || markers.scans * std::min(markers.pixels, maxPhotoPixels) > maxJpegScanPixels)
         return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
-    QString reason = boundsRefusal(file);
-    if (!reason.isEmpty())
-        return refusedPhoto(reason);
+    const QString refusal = boundsRefusal(file);
+    if (!refusal.isEmpty())
+        return refusedPhoto(refusal);
     photo.metadata = readMetadata(file, markers);
     file.seek(0);
-    QImage image;
-    reason = decode(file, {memory, file.size()}, image);
-    if (!reason.isEmpty())
-        return refusedPhoto(reason);
-    photo.image = onWhiteInEitherOrder(inSRgb(std::move(image)));
+    Decoded decoded = decode(file, {memory, file.size()});
+    if (!decoded.reason.isEmpty())
+        return refusedPhoto(decoded.reason);
+    photo.image = onWhiteInEitherOrder(inSRgb(std::move(decoded.image)));
+    if (!decoded.isUpright)
+        photo.image = turnedUpright(photo.image, orientationOf(photo.metadata.exif));
     return photo.image.isNull() ? refusedPhoto(noMemoryForPhoto()) : photo;
 }
 

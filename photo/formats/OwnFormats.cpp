@@ -1,5 +1,6 @@
 #include "photo/formats/OwnFormats.h"
 
+#include "photo/formats/JpegHandler.h"
 #include "photo/formats/PsdHandler.h"
 #include "photo/formats/Signatures.h"
 #include "photo/formats/TgaHandler.h"
@@ -67,6 +68,8 @@ OwnFormat ownFormat(QIODevice& file)
     case Signature::Other:
         break;
     }
+    if (JpegHandler::canRead(file))
+        return {std::make_unique<JpegHandler>(), {}};
     if (PsdHandler::canRead(file))
         return {std::make_unique<PsdHandler>(), {}};
     if (TgaHandler::canRead(file))

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "photo/formats/PhotoHandler.h"
+
 #include <QString>
 #include <memory>
 
-class QImageIOHandler;
 class QIODevice;
 
 /// What this project does with a file of a format that it reads by itself.
 struct OwnFormat {
-    std::unique_ptr<QImageIOHandler> handler; ///< which reads the file, without a device yet; null where none does
+    std::unique_ptr<PhotoHandler> handler; ///< which reads the file, without a device yet; null where none does
     QString
         reason; ///< why the file cannot be read, where it is of a format whose library this program was built without
 };

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QImageIOHandler>
+#include "photo/formats/PhotoHandler.h"
 
 /// Reads the merged picture of PSD and PSB files, raw or run-length encoded: bitmap, grey, indexed, RGB, CMYK, duotone
 /// (as grey) and Lab, of 1, 8, 16 and 32 bits. Nothing is allocated for a picture that the rest of the file cannot
 /// hold.
-class PsdHandler : public QImageIOHandler {
+class PsdHandler : public PhotoHandler {
 public:
     /// True when the device stands at the header of such a file, whatever is in it.
     static bool canRead(QIODevice& device);

@@ -32,6 +32,46 @@ QImage stored(const QImage& upright, int orientation)
     }
 }
 
+/// The EXIF block of a photo in that orientation.
+QByteArray exifBlock(int orientation, bool bigEndian)
+{
+    const QByteArray file =
+        samples::withCameraExif(samples::encoded(samples::flat(8, 8, Qt::red), "jpeg"), orientation, bigEndian);
+    const qsizetype at = file.indexOf(QByteArray("Exif\0\0", 6));
+    return file.mid(at + 6, qFromBigEndian<quint16>(file.constData() + at - 2) - 8);
+}
+
+QByteArray littleEndian(qsizetype value, int bytes)
+{
+    QByteArray number(bytes, 0);
+    for (int i = 0; i < bytes; i++)
+        number[i] = char(value >> (8 * i));
+    return number;
+}
+
+QByteArray webpWithExif(const QImage& picture, const QByteArray& exif)
+{
+    const QByteArray plain = samples::encoded(picture, "webp");
+    const auto chunk = [](const QByteArray& name, const QByteArray& data) {
+        return name + littleEndian(data.size(), 4) + data + QByteArray(data.size() % 2, 0);
+    };
+    const QByteArray hasExif("\x08\0\0\0", 4);
+    const QByteArray canvas = littleEndian(picture.width() - 1, 3) + littleEndian(picture.height() - 1, 3);
+    const QByteArray chunks = "WEBP" + chunk("VP8X", hasExif + canvas) + plain.mid(12) + chunk("EXIF", exif);
+    return "RIFF" + littleEndian(chunks.size(), 4) + chunks;
+}
+
+/// A file of that format.
+QByteArray fileWithExif(const QByteArray& format, const QImage& picture, int orientation, bool bigEndian)
+{
+    const QByteArray exif = exifBlock(orientation, bigEndian);
+    if (format == "jpeg")
+        return samples::withCameraExif(samples::encoded(picture, "jpeg"), orientation, bigEndian);
+    if (format == "webp")
+        return webpWithExif(picture, exif);
+    return samples::encoded(picture, "png").insert(33, samples::pngChunk("eXIf", exif));
+}
+
 } // namespace
 
 class OrientationTest : public QObject {
@@ -40,26 +80,30 @@ class OrientationTest : public QObject {
 private slots:
     void photosOpenAndStayUpright_data()
     {
+        QTest::addColumn<QByteArray>("format");
         QTest::addColumn<int>("orientation");
         QTest::addColumn<bool>("bigEndian");
-        for (int orientation = 0; orientation <= 9; orientation++)
-            for (const bool bigEndian : {false, true})
-                QTest::addRow("%d, %s endian", orientation, bigEndian ? "big" : "little") << orientation << bigEndian;
+        for (const char* format : {"jpeg", "png", "webp"})
+            for (int orientation = 0; orientation <= 9; orientation++)
+                for (const bool bigEndian : {false, true})
+                    QTest::addRow("%s, %d, %s endian", format, orientation, bigEndian ? "big" : "little")
+                        << QByteArray(format) << orientation << bigEndian;
     }
     void photosOpenAndStayUpright()
     {
+        QFETCH(QByteArray, format);
         QFETCH(int, orientation);
         QFETCH(bool, bigEndian);
         QTemporaryDir folder;
         const QByteArray path = folder.path().toLocal8Bit() + "/photo.jpg";
         const QImage upright = samples::quarters(96, 64);
-        const QByteArray plain = samples::encoded(stored(upright, orientation), "jpeg");
-        samples::writeFile(path, samples::withCameraExif(plain, orientation, bigEndian));
+        samples::writeFile(path, fileWithExif(format, stored(upright, orientation), orientation, bigEndian));
         const LoadedPhoto photo = loadPhoto(path);
         QCOMPARE(photo.reason, QString());
         QVERIFY(samples::showsQuarters(photo.image, upright.size()));
 
         // What is saved stands upright too, for a viewer that turns by the orientation and for one that does not.
+        QVERIFY(!photo.metadata.exif.isEmpty());
         samples::writeFile(path, encodeJpeg(photo.image, photo.metadata));
         QVERIFY(samples::showsQuarters(loadPhoto(path).image, upright.size()));
         QVERIFY(samples::showsQuarters(QImage(QString::fromLocal8Bit(path)), upright.size()));

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QImageIOHandler>
+#include "photo/formats/PhotoHandler.h"
+
 #include <memory>
 
 struct heif_context;
@@ -8,12 +9,13 @@ struct heif_image_handle;
 
 /// Reads the main picture of HEIC, HEIF and AVIF files, which phones write, upright and with its colour profile. Works
 /// on the caller's thread, but for the transparency of an AVIF, whose decoder libheif chooses.
-class HeifHandler : public QImageIOHandler {
+class HeifHandler : public PhotoHandler {
 public:
     bool canRead() const override;
     bool read(QImage* image) override;
     bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
     QVariant option(ImageOption option) const override;
+    bool isUpright() const override { return true; }
 
 private:
     struct Free {

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QImageIOHandler>
+#include "photo/formats/PhotoHandler.h"
+
 #include <memory>
 
 class LibRaw;
 
 /// Develops what a camera's sensor saw: in sRGB, with the white balance of the moment, upright, otherwise as the
 /// library does by itself. Works on the caller's thread.
-class RawHandler : public QImageIOHandler {
+class RawHandler : public PhotoHandler {
 public:
     RawHandler();
     ~RawHandler() override;
@@ -16,6 +17,7 @@ public:
     bool read(QImage* image) override;
     bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
     QVariant option(ImageOption option) const override;
+    bool isUpright() const override { return true; }
 
 private:
     /// The file as the library has it before it decodes anything; null where it is none of its kinds.

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QImageIOHandler>
+
+/// A reader of our own. Beside the picture it tells what the platform's readers do not.
+class PhotoHandler : public QImageIOHandler {
+public:
+    /// Whether read() gives the picture as it is to be seen. Where it does not, the EXIF block of the file tells how it
+    /// is turned.
+    virtual bool isUpright() const { return false; }
+    /// After read(): whether the file ended before its picture did, so that a part of it is the reader's.
+    virtual bool restIsMissing() const { return false; }
+};
