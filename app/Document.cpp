@@ -41,6 +41,8 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
     setCurrentFile(path);
     applyMultipleFilters();
     beginHistory();
+    if (loaded.restIsMissing)
+        showNote(tr("The rest of the file is missing."));
     return true;
 }
 

@@ -58,6 +58,7 @@ struct Decoded {
     QString reason; ///< why there is no picture; empty where there is one
     QImage image; ///< anything beside a reason
     bool isUpright = false; ///< otherwise it stands as it is stored, which the file's EXIF block may tell
+    bool restIsMissing = false; ///< the file ended before the picture did
 };
 
 Decoded refused(const QString& reason)
@@ -75,6 +76,7 @@ Decoded decodeByOwn(PhotoHandler& handler, const Room& room)
     if (!handler.read(&decoded.image))
         return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
     decoded.isUpright = handler.isUpright();
+    decoded.restIsMissing = handler.restIsMissing();
     return decoded;
 }
 
@@ -138,6 +140,7 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
     Decoded decoded = decode(file, {memory, file.size()});
     if (!decoded.reason.isEmpty())
         return refusedPhoto(decoded.reason);
+    photo.restIsMissing = decoded.restIsMissing;
     photo.image = onWhiteInEitherOrder(inSRgb(std::move(decoded.image)));
     if (!decoded.isUpright)
         photo.image = turnedUpright(photo.image, orientationOf(photo.metadata.exif));

@@ -24,7 +24,7 @@ struct PhotoMessage {
     quint32 mark = photoMark;
     quint32 order = 0;
     qint32 width = 0, height = 0;
-    quint32 blockCount = 0, unused = 0;
+    quint32 blockCount = 0, restIsMissing = 0;
     std::array<qint64, maxBlocks> blocks = {}; // those beyond the count are 0
 };
 
@@ -41,7 +41,7 @@ template <class Message> std::optional<Message> messageOf(const QByteArray& byte
     if (bytes.size() != sizeof message)
         return {};
     std::memcpy(&message, bytes.constData(), sizeof message);
-    return message.mark == Message().mark && message.unused == 0 ? std::optional(message) : std::nullopt;
+    return message.mark == Message().mark ? std::optional(message) : std::nullopt;
 }
 
 quint32 markOf(const QByteArray& bytes)
@@ -74,8 +74,9 @@ std::optional<ReaderAnswer> unpackedPhoto(const PhotoMessage& message, qint64 sh
     answer.size = QSize(message.width, message.height);
     if (message.width < 1 || message.height < 1 || qint64(message.width) * message.height > maxPhotoPixels)
         return {};
-    if (message.blockCount > maxBlocks)
+    if (message.blockCount > maxBlocks || message.restIsMissing > 1)
         return {};
+    answer.restIsMissing = message.restIsMissing == 1;
     qint64 bytes = 0;
     for (std::size_t i = 0; i < message.blocks.size(); i++) {
         const qint64 block = message.blocks[i];
@@ -113,6 +114,7 @@ QByteArray packed(const ReaderAnswer& answer)
     message.width = answer.size.width();
     message.height = answer.size.height();
     message.blockCount = quint32(answer.blocks.size());
+    message.restIsMissing = answer.restIsMissing;
     std::copy(answer.blocks.begin(), answer.blocks.end(), message.blocks.begin());
     return bytesOf(message);
 }
@@ -120,7 +122,7 @@ QByteArray packed(const ReaderAnswer& answer)
 std::optional<ReadingLimits> unpackedLimits(const QByteArray& message)
 {
     const auto limits = messageOf<LimitsMessage>(message);
-    if (!limits || limits->memory < 0 || limits->seconds < 1)
+    if (!limits || limits->unused != 0 || limits->memory < 0 || limits->seconds < 1)
         return {};
     return ReadingLimits{limits->memory, limits->seconds};
 }

@@ -22,6 +22,7 @@ struct ReaderAnswer {
     QString reason; ///< why there is no photo; empty where there is one
     QSize size; ///< of the photo in pixels
     QImage::Format format = QImage::Format_Invalid; ///< Format_RGBX8888 or Format_RGB32
+    bool restIsMissing = false; ///< the photo is not whole
     QList<qint64> blocks; ///< the sizes of what else the photo carries, in bytes
 
     qint64 pictureBytes() const { return qint64(size.width()) * size.height() * 4; }

@@ -76,6 +76,7 @@ SharedPhoto share(const LoadedPhoto& photo)
     SharedPhoto shared;
     shared.answer.size = photo.image.size();
     shared.answer.format = photo.image.format();
+    shared.answer.restIsMissing = photo.restIsMissing;
     shared.memory = Descriptor(memfd_create("photo", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     bool written = bool(shared.memory) && writePicture(shared.memory.number(), photo.image);
     qint64 bytes = 0;
@@ -114,6 +115,7 @@ LoadedPhoto receivedPhoto(const SharedPhoto& shared)
     photo.image = QImage(pixels, answer.size.width(), answer.size.height(), qsizetype(answer.size.width()) * 4,
         answer.format, unmap, new Mapping{address, size});
     photo.image.setColorSpace(QColorSpace::SRgb);
+    photo.restIsMissing = answer.restIsMissing;
     const char* at = reinterpret_cast<const char*>(pixels) + answer.pictureBytes();
     QList<QByteArray> blocks;
     for (const qint64 block : answer.blocks) {

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QColorSpace>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
 
@@ -15,6 +16,27 @@ class DocumentTest : public QObject {
 
 private slots:
     void init() { setPreferences({}); }
+
+    void aHalfPictureIsToldOfUntilTheNextChange()
+    {
+        Desk desk;
+        const auto* note = desk.find<QLabel>("noteText");
+        const QString name = desk.folder.filePath("half.jpg");
+        QVERIFY(makePhoto(300, 200).save(name, "JPEG", 90));
+        QFile file(name);
+        QVERIFY(file.resize(file.size() / 2));
+        const QByteArray half = QFile::encodeName(name), whole = writePhoto(desk.folder, "b.png", makePhoto(30, 20));
+        QVERIFY(desk.window.loadImageFromFile(half));
+        QVERIFY(note->isVisible());
+        QCOMPARE(note->text(), "The rest of the file is missing.");
+        QCOMPARE(desk.window.getoriginalImage().size(), QSize(300, 200));
+        desk.click("btnMono");
+        QVERIFY(!note->isVisible());
+        QVERIFY(desk.window.loadImageFromFile(half));
+        QVERIFY(note->isVisible());
+        QVERIFY(desk.window.loadImageFromFile(whole));
+        QVERIFY(!note->isVisible());
+    }
 
     void displayAndThumbnailCopiesHaveTheirSizes()
     {

@@ -31,6 +31,16 @@ QByteArray pixels(int width, int height, int channels)
     return bytes;
 }
 
+void eachLayout()
+{
+    QTest::addColumn<QByteArray>("file");
+    const QImage picture = samples::noise(200, 160);
+    QTest::newRow("from the top") << written(picture, 90, false);
+    QTest::newRow("progressive") << written(picture, 90, true);
+    QTest::newRow("grey") << samples::jpeg(JpegKind::Grey, 200, 160, pixels(200, 160, 1));
+    QTest::newRow("inks") << samples::jpeg(JpegKind::Cmyk, 200, 160, pixels(200, 160, 4));
+}
+
 } // namespace
 
 class JpegTest : public QObject {
@@ -55,6 +65,45 @@ private slots:
         const LoadedPhoto photo = samples::loaded(m_folder, file);
         QCOMPARE(photo.reason, QString());
         QCOMPARE(samples::largestDifference(photo.image, QImage::fromData(file, "jpeg")), 0);
+        QVERIFY(!photo.restIsMissing);
+    }
+
+    void whatIsCutOffIsMissing_data() { eachLayout(); }
+    void whatIsCutOffIsMissing()
+    {
+        QFETCH(QByteArray, file);
+        const qsizetype scan = file.indexOf("\xFF\xDA");
+        QVERIFY(scan > 0);
+        for (qsizetype length = 2; length<file.size(); length += length> file.size() - 30 ? 1
+                 : length < scan                                                          ? 13
+                                                                                          : 997) {
+            const LoadedPhoto photo = samples::loaded(m_folder, file.left(length));
+            QCOMPARE(photo.image.isNull(), !photo.reason.isEmpty());
+            QVERIFY2(photo.image.isNull() || photo.restIsMissing, qPrintable(QString::number(length)));
+        }
+        const LoadedPhoto half = samples::loaded(m_folder, file.left((scan + file.size()) / 2));
+        QCOMPARE(
+            samples::largestDifference(half.image,
+                QImage::fromData(file.left((scan + file.size()) / 2), "jpeg").convertToFormat(QImage::Format_RGB32)),
+            0);
+        QVERIFY(!samples::loaded(m_folder, file).restIsMissing);
+    }
+
+    void whatEndsTooEarlyIsMissingToo_data() { eachLayout(); }
+    void whatEndsTooEarlyIsMissingToo()
+    {
+        QFETCH(QByteArray, file);
+        const qsizetype scan = file.lastIndexOf("\xFF\xDA");
+        QVERIFY(samples::loaded(m_folder, file.left((scan + file.size()) / 2) + "\xFF\xD9").restIsMissing);
+    }
+
+    void damageWithinAndWhatFollowsAreNotCalledMissing()
+    {
+        const QByteArray whole = written(samples::noise(200, 160), 90, false);
+        QVERIFY(!samples::loaded(m_folder, whole + QByteArray(100000, 'x')).restIsMissing);
+        // An unknown segment between the others, and bytes that belong nowhere.
+        QVERIFY(!samples::loaded(m_folder, QByteArray(whole).insert(2, QByteArray("\xFF\xEB\0\4xx", 6))).restIsMissing);
+        QVERIFY(!samples::loaded(m_folder, QByteArray(whole).insert(whole.size() - 2, "xxxx")).restIsMissing);
     }
 };
 

@@ -30,7 +30,7 @@ template <class Number> QByteArray with(QByteArray message, std::size_t place, N
 }
 
 // The places of an answer with a photo.
-constexpr std::size_t mark = 0, order = 4, width = 8, height = 12, count = 16, unused = 20, blocks = 24;
+constexpr std::size_t mark = 0, order = 4, width = 8, height = 12, count = 16, missing = 20, blocks = 24;
 
 } // namespace
 
@@ -50,6 +50,9 @@ private slots:
         ReaderAnswer other = photo();
         other.format = QImage::Format_RGBX8888;
         QTest::newRow("other order") << other;
+        ReaderAnswer half = photo();
+        half.restIsMissing = true;
+        QTest::newRow("half of one") << half;
         QTest::newRow("reason") << refusal("It is “broken”.");
     }
     void answersComeBack()
@@ -64,6 +67,7 @@ private slots:
         QCOMPARE(unpacked->size, answer.size);
         QCOMPARE(unpacked->format, answer.format);
         QCOMPARE(unpacked->blocks, answer.blocks);
+        QCOMPARE(unpacked->restIsMissing, answer.restIsMissing);
     }
 
     void longReasonsAreCut()
@@ -112,7 +116,7 @@ private slots:
         row("blocks beyond all",
             with(with(with(good, blocks, maxBlockBytes), blocks + 8, qint64(1)), count, quint32(2)),
             30 * 20 * 4 + maxBlockBytes + 1);
-        row("something where nothing is", with(good, unused, quint32(1)));
+        row("more than the rest missing", with(good, missing, quint32(2)));
 
         const QByteArray text = packed(refusal("no"));
         row("a reason beside memory", text, bytes);
@@ -137,7 +141,7 @@ private slots:
         QCOMPARE(limits->memory, qint64(5) << 40);
         QCOMPARE(limits->seconds, 7);
         for (const QByteArray& bad : {QByteArray(), message.chopped(1), message + 'x', with(message, 0, quint32(1)),
-                 packed(ReadingLimits{-1, 7}), packed(ReadingLimits{1, 0})})
+                 with(message, 4, quint32(1)), packed(ReadingLimits{-1, 7}), packed(ReadingLimits{1, 0})})
             QVERIFY(!unpackedLimits(bad));
     }
 };
