@@ -68,9 +68,12 @@ void MainWindowController::completeNibLoading()
     colours.setColor(QPalette::Window, QColor::fromRgbF(0.2f, 0.2f, 0.2f, 1.0f));
     setPalette(colours);
 
-    for (QToolButton* button : {m_ui->btnOriginal, m_ui->btnHelga, m_ui->btnLolo, m_ui->btnCinema, m_ui->btn1962,
-             m_ui->btn1974, m_ui->btnMono, m_ui->btnFishEye, m_ui->btnInstant, m_ui->btnMagazine})
+    for (LookButton* button : {m_ui->btnOriginal, m_ui->btnHelga, m_ui->btnLolo, m_ui->btnCinema, m_ui->btn1962,
+             m_ui->btn1974, m_ui->btnMono, m_ui->btnFishEye, m_ui->btnInstant, m_ui->btnMagazine}) {
+        button->setFilter(buttonFilters[filterButtons.numThings]);
         filterButtons.add(button);
+        button->setToolTip(QStringLiteral("%1 (%2)").arg(button->text()).arg(filterButtons.numThings % 10));
+    }
 
     fill(*m_ui->btnBorders, {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"});
     fill(*m_ui->btnCropping, {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"});
