@@ -57,7 +57,7 @@ void MainWindowController::setCurrentFile(const QByteArray& path)
 
 void MainWindowController::setoriginalImage(const QImage& image)
 {
-    m_photo.setOriginal(image, displayRes, devicePixelRatioF());
+    m_photo.setOriginal(image, displayRes, thumbDensity());
     m_ui->mainImageView->setComparedImage(m_photo.display());
     showWhatCanBeDone();
 }

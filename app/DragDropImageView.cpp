@@ -110,6 +110,11 @@ QSize DragDropImageView::sizeHint() const
     return {800, 500};
 }
 
+QSize DragDropImageView::minimumSizeHint() const
+{
+    return {240, 160};
+}
+
 void DragDropImageView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

@@ -51,6 +51,7 @@ public:
     void showDropSign(bool on);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent*) override;

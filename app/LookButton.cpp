@@ -9,8 +9,6 @@ LookButton::LookButton(QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setIconSize({72, 72});
-    setMinimumHeight(108);
 }
 
 void LookButton::setFilter(int filter)

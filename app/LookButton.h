@@ -2,7 +2,8 @@
 
 #include <QToolButton>
 
-/// The button of one look: a picture of the photo under that look with the look's name below, and whether it is applied.
+/// The button of one look: a picture of the photo under that look with the look's name below, and whether it is
+/// applied.
 class LookButton : public QToolButton {
     Q_OBJECT
 

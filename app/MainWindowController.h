@@ -171,6 +171,10 @@ private:
     void setCurrentFile(const QByteArray& path);
     void rotateImage(int quarterTurns); ///< counter-clockwise where positive
     int largerFrameSide() const;
+    /// In pixels to the point of the thumbnail copy, whose shorter side is 100 points.
+    qreal thumbDensity() const;
+    bool thumbnailsAreOutgrown() const; ///< they stand larger than their copy is
+    void resizeSettled();
     LoadedPhoto readPhoto(const QByteArray& path);
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave(qint64 bytes);

@@ -29,12 +29,16 @@ QByteArray Photo::fileName() const
 void Photo::setOriginal(const QImage& image, int displayRes, qreal density)
 {
     m_original = image;
-    const QSize size = image.size();
-    m_display = scaledTo(image, bitmapSize(displaySize(size, displayRes)));
-    // Points of a sharp screen are several pixels.
-    const QImage middle = middleOf(image);
+    m_display = scaledTo(image, bitmapSize(displaySize(image.size(), displayRes)));
+    setThumbDensity(density);
+}
+
+void Photo::setThumbDensity(qreal density)
+{
+    m_thumbDensity = density;
+    const QImage middle = middleOf(m_original);
     const QSize thumb = bitmapSize(thumbnailSize(middle.size()) * density);
     // The display copy shows the same, and a large photo takes a while to read once more.
-    const bool isAmple = middle.size() == size && (2 * thumb).boundedTo(m_display.size()) == 2 * thumb;
+    const bool isAmple = middle.size() == m_original.size() && (2 * thumb).boundedTo(m_display.size()) == 2 * thumb;
     m_thumb = scaledTo(isAmple ? m_display : middle, thumb);
 }

@@ -16,8 +16,11 @@ public:
     const QImage& thumb() const { return m_thumb; } ///< the copy for the thumbnails
 
     /// Takes another picture and makes its copies: one for a preview whose longer side is `displayRes` pixels, and one
-    /// for thumbnails on a screen of `density` pixels to the point. Metadata and name stay.
+    /// for thumbnails that are drawn with `density` pixels to the point. Metadata and name stay.
     void setOriginal(const QImage& image, int displayRes, qreal density);
+    /// Makes the copy for the thumbnails anew.
+    void setThumbDensity(qreal density);
+    qreal thumbDensity() const { return m_thumbDensity; }
 
     PhotoMetadata metadata; ///< of the file
     QByteArray filePath; ///< any bytes
@@ -25,4 +28,5 @@ public:
 
 private:
     QImage m_original, m_display, m_thumb;
+    qreal m_thumbDensity = 0;
 };

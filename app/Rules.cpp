@@ -42,6 +42,12 @@ QSizeF thumbnailSize(const QSize& photo)
     return {100, height / width * 100};
 }
 
+int thumbnailSide(int buttonWidth, int windowHeight)
+{
+    constexpr int smallest = 72, largest = 120, frame = 8, shareOfHeight = 9;
+    return std::clamp(std::min(buttonWidth - frame, windowHeight / shareOfHeight), smallest, largest);
+}
+
 QSizeF exportSize(const QSize& render, int maxSide)
 {
     const qreal width = render.width(), height = render.height();

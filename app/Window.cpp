@@ -147,7 +147,7 @@ void MainWindowController::connectControls()
         if (lost)
             m_ui->mainImageView->setComparing(false);
     });
-    connect(&m_resizeSettles, &QTimer::timeout, this, &Self::windowDidResize);
+    connect(&m_resizeSettles, &QTimer::timeout, this, &Self::resizeSettled);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Self::applicationWillTerminate);
 }
 
@@ -171,9 +171,33 @@ int MainWindowController::largerFrameSide() const
 void MainWindowController::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
+    m_ui->filtersBox->fit();
     // The photo is copied anew when the size has settled, so that a drag at the window's edge stays fluid.
-    if (largerFrameSide() > displayRes)
+    if (largerFrameSide() > displayRes || thumbnailsAreOutgrown())
         m_resizeSettles.start();
+}
+
+/// A point is as many pixels as the screen has for it; and more where the strip shows more than the copy's 100 points.
+qreal MainWindowController::thumbDensity() const
+{
+    return devicePixelRatioF() * qMax(m_ui->filtersBox->side() / 100.0, 1.0);
+}
+
+bool MainWindowController::thumbnailsAreOutgrown() const
+{
+    return !m_photo.isNull() && thumbDensity() > m_photo.thumbDensity();
+}
+
+void MainWindowController::resizeSettled()
+{
+    if (!m_work.mayBegin())
+        return m_resizeSettles.start();
+    const bool newThumbnails = thumbnailsAreOutgrown();
+    windowDidResize();
+    if (thumbnailsAreOutgrown())
+        m_photo.setThumbDensity(thumbDensity());
+    if (newThumbnails)
+        updateThumbnailImages();
 }
 
 void MainWindowController::windowDidResize()
