@@ -33,3 +33,13 @@ bool convertToSRgb(
     }
     return true;
 }
+
+bool convertInksToSRgb(QImage& image, const QByteArray& profile)
+{
+    if (!convertToSRgb(image, openProfile(profile, cmsSigCmykData), TYPE_CMYK_8_REV, INTENT_RELATIVE_COLORIMETRIC, 0))
+        return false;
+    for (int y = 0; y < image.height(); y++) // where the black was
+        for (uchar *p = image.scanLine(y), *end = p + qsizetype(image.width()) * 4; p != end; p += 4)
+            p[3] = 255;
+    return true;
+}

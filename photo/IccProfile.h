@@ -17,3 +17,9 @@ IccProfile openProfile(const QByteArray& icc, cmsColorSpaceSignature model);
 /// False, and nothing is changed, without a source or where it cannot tell how.
 bool convertToSRgb(
     QImage& image, const IccProfile& source, cmsUInt32Number pixels, cmsUInt32Number intent, cmsUInt32Number flags);
+
+/// Makes sRGB of a Format_RGBA8888 whose bytes are the light that the four inks of the profile let through, as files
+/// store them; its alpha becomes 255. False, and nothing is changed, where the profile is none of inks. The colours are
+/// those that were measured on the paper, whose white is the screen's: relative colorimetric, as the perceptual tables
+/// of many profiles are made for printing alone. Black is no darker than the ink.
+bool convertInksToSRgb(QImage& image, const QByteArray& profile);

@@ -1,5 +1,7 @@
 #include "photo/formats/JpegHandler.h"
 
+#include "photo/IccProfile.h"
+
 #include <QColorSpace>
 #include <QImage>
 #include <QVariant>
@@ -16,7 +18,7 @@ namespace {
 /// The order of Format_RGB32.
 constexpr J_COLOR_SPACE colours = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRA : JCS_EXT_ARGB;
 
-/// Paints with light what is told as the light that each ink lets through, in four bytes a pixel.
+/// Makes colours of what is told as the light that each ink lets through, where no profile tells what the inks are.
 void paintInks(QImage& picture)
 {
     for (int y = 0; y < picture.height(); y++)
@@ -205,10 +207,10 @@ bool JpegHandler::read(QImage* image)
     if (picture.isNull() || !jpeg->readRows(picture.bits(), picture.bytesPerLine()))
         return false;
     if (jpeg->isOfInks()) {
-        paintInks(picture);
+        if (!convertInksToSRgb(picture, profile))
+            paintInks(picture);
         picture.reinterpretAsFormat(QImage::Format_RGBX8888);
-    }
-    if (!profile.isEmpty())
+    } else if (!profile.isEmpty())
         picture.setColorSpace(QColorSpace::fromIccProfile(profile));
     *image = picture;
     return true;

@@ -230,14 +230,12 @@ void finish(QImage& picture, const Header& header, const Sections& sections)
                 p[c] = colours[256 * c + index];
         });
     } else if (header.mode == cmyk) {
-        // Stored as light, not as ink.
-        const IccProfile inks = openProfile(profile, cmsSigCmykData);
-        if (!convertToSRgb(picture, inks, TYPE_CMYK_8_REV, INTENT_RELATIVE_COLORIMETRIC, 0))
+        if (!convertInksToSRgb(picture, profile))
             forEachPixel(picture, [](uchar* p) {
                 for (int c = 0; c < 3; c++)
                     p[c] = uchar((p[c] * p[3] + 127) / 255);
+                p[3] = 255;
             });
-        forEachPixel(picture, [](uchar* p) { p[3] = 255; }); // where the black was
     } else if (header.mode == lab) {
         const IccProfile labOfD50(cmsCreateLab4Profile(nullptr));
         convertToSRgb(picture, labOfD50, TYPE_Lab_8 | EXTRA_SH(1), INTENT_RELATIVE_COLORIMETRIC, 0);

@@ -96,6 +96,56 @@ QByteArray profileOfTables()
     return saved(profile);
 }
 
+/// A table of the profile, from inks to Lab; `paint` tells the sRGB of a colour of four inks, all on 0 .. 1.
+void writeInks(cmsHPROFILE profile, cmsTagSignature tag, void (*paint)(const double (&inks)[4], double (&rgb)[3]))
+{
+    struct Cargo {
+        decltype(paint) colourOf;
+        cmsHTRANSFORM toLab;
+    };
+    const auto sample = [](const cmsUInt16Number* in, cmsUInt16Number* out, void* data) {
+        const auto* cargo = static_cast<const Cargo*>(data);
+        const double inks[4] = {in[0] / 65535.0, in[1] / 65535.0, in[2] / 65535.0, in[3] / 65535.0};
+        double rgb[3];
+        cargo->colourOf(inks, rgb);
+        cmsDoTransform(cargo->toLab, rgb, out, 1);
+        return TRUE;
+    };
+    cmsHPROFILE sRgb = cmsCreate_sRGBProfile(), lab = cmsCreateLab4Profile(nullptr);
+    Cargo cargo = {paint, cmsCreateTransform(sRgb, TYPE_RGB_DBL, lab, TYPE_Lab_16, INTENT_RELATIVE_COLORIMETRIC, 0)};
+    cmsStage* table = cmsStageAllocCLut16bit(nullptr, 9, 4, 3, nullptr);
+    cmsStageSampleCLut16bit(table, sample, &cargo, 0);
+    cmsPipeline* pipeline = cmsPipelineAlloc(nullptr, 4, 3);
+    for (cmsStage* stage :
+        {cmsStageAllocToneCurves(nullptr, 4, nullptr), table, cmsStageAllocToneCurves(nullptr, 3, nullptr)})
+        cmsPipelineInsertStage(pipeline, cmsAT_END, stage);
+    cmsWriteTag(profile, tag, pipeline);
+    cmsPipelineFree(pipeline);
+    cmsDeleteTransform(cargo.toLab);
+    cmsCloseProfile(sRgb);
+    cmsCloseProfile(lab);
+}
+
+/// A press whose red of magenta and yellow is (237, 51, 55) and whose black is (51, 51, 51). Its perceptual colours are
+/// all grey.
+QByteArray pressProfile()
+{
+    cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 4.3);
+    cmsSetDeviceClass(profile, cmsSigOutputClass);
+    cmsSetColorSpace(profile, cmsSigCmykData);
+    cmsSetPCS(profile, cmsSigLabData);
+    cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
+    writeInks(profile, cmsSigAToB0Tag, [](const double(&)[4], double(&rgb)[3]) { std::ranges::fill(rgb, 0.5); });
+    writeInks(profile, cmsSigAToB1Tag, [](const double(&inks)[4], double(&rgb)[3]) {
+        const auto [cyan, magenta, yellow, black] = inks;
+        rgb[0] = (1 - cyan) * (1 - magenta * 18 / 255) * (1 - black * 0.8);
+        rgb[1] = (1 - cyan * 0.3) * (1 - magenta * 0.8) * (1 - black * 0.8);
+        rgb[2] = (1 - cyan * 0.1) * (1 - yellow * 200 / 255) * (1 - black * 0.8);
+    });
+    return saved(profile);
+}
+
 QByteArray greyProfile(double gamma)
 {
     cmsToneCurve* curve = cmsBuildGamma(nullptr, gamma);
@@ -263,6 +313,42 @@ private slots:
         QFETCH(QColor, colour);
         const QImage image = load(samples::jpeg(JpegKind::Cmyk, 16, 16, pixel.repeated(256)));
         compare(image, 8, 8, colour.rgb(), 3);
+    }
+
+    void inksWithAProfile_data()
+    {
+        QTest::addColumn<bool>("asColours");
+        QTest::addColumn<QByteArray>("pixel"); // 255 minus each ink
+        QTest::addColumn<QColor>("colour");
+        for (const bool asColours : {false, true}) {
+            const auto row = [asColours](const char* name, std::initializer_list<int> pixel, const QColor& colour) {
+                QTest::addRow("%s, %s", asColours ? "YCCK" : "CMYK", name) << asColours << repeated(pixel, 1) << colour;
+            };
+            row("paper", {255, 255, 255, 255}, QColor(255, 255, 255));
+            row("red", {255, 0, 0, 255}, QColor(237, 51, 55));
+            row("cyan", {0, 255, 255, 255}, QColor(0, 179, 230));
+            row("black", {255, 255, 255, 0}, QColor(51, 51, 51));
+        }
+    }
+    void inksWithAProfile()
+    {
+        QFETCH(bool, asColours);
+        QFETCH(QByteArray, pixel);
+        QFETCH(QColor, colour);
+        const QByteArray profile = pressProfile();
+        QVERIFY(!profile.isEmpty());
+        const auto kind = asColours ? JpegKind::Ycck : JpegKind::Cmyk;
+        const QImage image = load(samples::jpeg(kind, 16, 16, pixel.repeated(256), profile));
+        compare(image, 8, 8, colour.rgb(), 3);
+        QCOMPARE(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    }
+
+    void inksWithAProfileOfOthersStayAsTheyAre()
+    {
+        for (const QByteArray& profile : {QByteArray(300, 'x'), pressProfile().left(2000), greyProfile(1.0)}) {
+            const QImage image = load(samples::jpeg(JpegKind::Cmyk, 16, 16, repeated({255, 0, 0, 255}, 256), profile));
+            compare(image, 8, 8, qRgb(255, 0, 0), 3);
+        }
     }
 
     void sixteenBitsBecomeEight()

@@ -55,6 +55,7 @@ private slots:
         QTest::newRow("colour") << samples::jpeg(JpegKind::Colour, 45, 31, pixels(45, 31, 3));
         QTest::newRow("grey") << samples::jpeg(JpegKind::Grey, 45, 31, pixels(45, 31, 1));
         QTest::newRow("inks") << samples::jpeg(JpegKind::Cmyk, 45, 31, pixels(45, 31, 4));
+        QTest::newRow("inks as colours") << samples::jpeg(JpegKind::Ycck, 45, 31, pixels(45, 31, 4));
         QTest::newRow("coarse colours") << written(samples::noise(45, 31), 60, false);
         QTest::newRow("progressive") << written(samples::noise(45, 31), 60, true);
         QTest::newRow("one pixel") << written(samples::noise(1, 1), 90, false);

@@ -82,9 +82,12 @@ QByteArray jpeg(JpegKind kind, int width, int height, const QByteArray& pixels, 
     jpeg_mem_dest(&info, &file, &size);
     info.image_width = JDIMENSION(width);
     info.image_height = JDIMENSION(height);
-    info.input_components = kind == JpegKind::Grey ? 1 : kind == JpegKind::Cmyk ? 4 : 3;
-    info.in_color_space = kind == JpegKind::Grey ? JCS_GRAYSCALE : kind == JpegKind::Cmyk ? JCS_CMYK : JCS_RGB;
+    const bool isOfInks = kind == JpegKind::Cmyk || kind == JpegKind::Ycck;
+    info.input_components = kind == JpegKind::Grey ? 1 : isOfInks ? 4 : 3;
+    info.in_color_space = kind == JpegKind::Grey ? JCS_GRAYSCALE : isOfInks ? JCS_CMYK : JCS_RGB;
     jpeg_set_defaults(&info);
+    if (kind == JpegKind::Ycck)
+        jpeg_set_colorspace(&info, JCS_YCCK);
     jpeg_set_quality(&info, 100, TRUE);
     std::vector<jpeg_scan_info> scans;
     if (kind == JpegKind::ManyScans) {

@@ -23,9 +23,9 @@ bool showsQuarters(const QImage& image, QSize size);
 /// The bytes of a file in that format ("png", "jpeg", "bmp", ...), without loss where the format can.
 QByteArray encoded(const QImage& image, const char* format);
 
-enum class JpegKind { Colour, Grey, Cmyk, ManyScans };
+enum class JpegKind { Colour, Grey, Cmyk, Ycck, ManyScans };
 /// A JPEG of quality 100 written by libjpeg itself: `pixels` are rows of 3 (colour), 1 (grey) or 4 (CMYK, each 255
-/// minus its ink) bytes per pixel. ManyScans is a colour JPEG in 190 scans.
+/// minus its ink) bytes per pixel. Ycck is CMYK as layout programs store it, ManyScans a colour JPEG in 190 scans.
 QByteArray jpeg(JpegKind kind, int width, int height, const QByteArray& pixels, const QByteArray& icc = {});
 /// A JPEG file with EXIF of a camera: make, date, copyright, place, pixel size, the orientation and a thumbnail.
 QByteArray withCameraExif(const QByteArray& jpegFile, int orientation, bool bigEndian = false);
