@@ -64,7 +64,7 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
         event->setAccepted(!qobject_cast<QComboBox*>(widget));
         return !event->isAccepted();
     case QEvent::ShortcutOverride: // which, accepted, presses no shortcut
-        event->setAccepted(static_cast<QKeyEvent*>(event)->isAutoRepeat());
+        event->setAccepted(m_keyRepeat.isRepeat(*static_cast<QKeyEvent*>(event)));
         return event->isAccepted();
     case QEvent::KeyPress:
         return takesKeyPress(widget, *static_cast<QKeyEvent*>(event));
@@ -95,8 +95,11 @@ bool MainWindowController::takesDrag(QEvent* event)
 
 bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press)
 {
-    if (press.isAutoRepeat())
+    if (m_keyRepeat.isRepeat(press)) {
+        if (press.key() == Qt::Key_Space && !press.isAutoRepeat())
+            m_ui->mainImageView->setComparing(true); // its release was none
         return !walks(press.key());
+    }
     if (press.modifiers() & ~Qt::KeypadModifier)
         return false;
     switch (press.key()) {
@@ -113,6 +116,7 @@ bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press
 
 bool MainWindowController::takesKeyRelease(const QKeyEvent& release)
 {
+    m_keyRepeat.noteRelease(release);
     if (!release.isAutoRepeat())
         m_ui->mainImageView->setComparing(false);
     return release.key() == Qt::Key_Space;

@@ -3,6 +3,7 @@
 #include "app/DocumentSlots.h"
 #include "app/DragDropImageView.h"
 #include "app/History.h"
+#include "app/KeyRepeat.h"
 #include "app/LookList.h"
 #include "app/Photo.h"
 #include "app/WorkInProgress.h"
@@ -190,6 +191,7 @@ private:
     QAction *m_undoAction = nullptr, *m_redoAction = nullptr; ///< owned by the menu
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 
+    KeyRepeat m_keyRepeat;
     WorkInProgress m_work{*this};
     std::unique_ptr<PhotoReader> m_reader;
     Photo m_photo;

@@ -178,6 +178,41 @@ private slots:
         QCOMPARE(CharImage::random[0], drawn);
     }
 
+    void aHeldKeyActsOnceWhereTheSystemTakesItsRepeatsForPresses()
+    {
+        Try desk;
+        ulong moment = 1000;
+        const auto press = [&](int key, Qt::KeyboardModifiers modifiers, const QString& text = {}) {
+            if (qt_sendShortcutOverrideEvent(desk.view, moment, key, modifiers, text))
+                return;
+            QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+            event.setTimestamp(moment);
+            QApplication::sendEvent(desk.view, &event);
+        };
+        const auto repeat = [&](int key, Qt::KeyboardModifiers modifiers, const QString& text = {}) {
+            QKeyEvent event(QEvent::KeyRelease, key, modifiers, text);
+            event.setTimestamp(moment += 40);
+            QApplication::sendEvent(desk.view, &event);
+            press(key, modifiers, text);
+        };
+        press(Qt::Key_2, {}, "2");
+        QCOMPARE(desk.looks(), Looks{helga});
+        repeat(Qt::Key_2, {}, "2");
+        QCOMPARE(desk.looks(), Looks{helga});
+        press(Qt::Key_R, Qt::ControlModifier);
+        repeat(Qt::Key_R, Qt::ControlModifier);
+        QCOMPARE(desk.window.getoriginalImage().size(), QSize(80, 120));
+        press(Qt::Key_Space, {}, " ");
+        repeat(Qt::Key_Space, {}, " ");
+        QVERIFY(desk.compares());
+        press(Qt::Key_8, {}, "8"); // another key at the same moment
+        QCOMPARE(desk.looks(), Looks{colorcross});
+        repeat(Qt::Key_8, {}, "8");
+        moment++;
+        press(Qt::Key_8, {}, "8"); // pressed anew
+        QCOMPARE(desk.looks(), Looks{});
+    }
+
     void aHeldArrowWalksOn()
     {
         Try desk;
