@@ -1,5 +1,6 @@
 """What a person has at a desk: eyes, a pointer and a keyboard. Nothing here knows Lumora."""
 
+import contextlib
 import os
 import subprocess
 import time
@@ -85,9 +86,15 @@ def find(root, name=None, role=None):
     return None
 
 
-def middle(node):
+def extents(node):
+    node.clear_cache()
     box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    return box.x + box.width // 2, box.y + box.height // 2
+    return box.x, box.y, box.width, box.height
+
+
+def middle(node):
+    x, y, width, height = extents(node)
+    return x + width // 2, y + height // 2
 
 
 def press_by_name(node):
@@ -104,7 +111,8 @@ def press_by_name(node):
 
 
 def point_at(x, y):
-    xdotool("mousemove", "--sync", x, y)
+    if not xdotool("getmouselocation").startswith(f"x:{x} y:{y} "):  # a pointer that stays would be waited for
+        xdotool("mousemove", "--sync", x, y)
 
 
 def click(node):
@@ -116,12 +124,31 @@ def key(*names):
     xdotool("key", "--clearmodifiers", *names)
 
 
+@contextlib.contextmanager
+def held(name):
+    """Holds a key down. After a moment the display repeats it, as it does for a person."""
+    xdotool("keydown", name)
+    try:
+        yield
+    finally:
+        xdotool("keyup", name)
+
+
+def hold(name, seconds=1.2):
+    """Presses a key as long as a slow hand does."""
+    with held(name):
+        time.sleep(seconds)
+
+
+def turn_wheel(node, down=True):
+    point_at(*middle(node))
+    xdotool("click", 5 if down else 4)
+
+
 def write(text):
     xdotool("type", "--clearmodifiers", "--delay", 4, "--", text)
 
 
 def take_screenshot(tools, path, node):
     """Saves what the display shows where a node is."""
-    box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    part = map(str, (box.x, box.y, box.width, box.height))
-    subprocess.run([os.path.join(tools, "journey_screenshot"), path, *part], check=True)
+    subprocess.run([os.path.join(tools, "journey_screenshot"), path, *map(str, extents(node))], check=True)

@@ -16,7 +16,7 @@ home = os.environ["HOME"]
 
 
 def tremble_at(x, y):
-    """A hand is never quite still. A pointer that stands there already would be waited for."""
+    """A hand is never quite still."""
     point_at(x + 2, y)
     point_at(x, y)
 
@@ -39,7 +39,7 @@ def drag(lumora, *files):
             tremble_at(*middle(label))
             return "entered" in words()
         wait_for("the pointer on the handle", reached)
-        start, end = middle(label), middle(lumora.preview())
+        start, end, before = middle(label), middle(lumora.preview()), lumora.seen()
         xdotool("mousedown", 1)
         for step in range(1, 25):
             point_at(start[0] + (end[0] - start[0]) * step // 24, start[1] + (end[1] - start[1]) * step // 24)
@@ -48,6 +48,7 @@ def drag(lumora, *files):
             tremble_at(*end)
             return "copy" in words()[-1:]
         wait_for("the preview to accept the drag", accepted)
+        wait_for("the sign that it may be dropped", lambda: lumora.seen() != before)
         xdotool("mouseup", 1)
         wait_for("the drag to end", lambda: "over" in words())
         lumora.wait_for_log(files[0])

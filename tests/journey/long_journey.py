@@ -2,7 +2,6 @@
 """A whole afternoon with one photo, then quitting and coming back: the choices are kept."""
 
 import os
-import subprocess
 import sys
 
 from desk import is_checked, wait_for
@@ -12,10 +11,6 @@ build, photo = sys.argv[1:3]
 home = os.environ["HOME"]
 exact, saved = os.path.join(home, "exact.jpg"), os.path.join(home, "at 800.jpg")
 helga_mono, square, instant = "1,5", "21", "4"
-
-
-def size_of(path):
-    return subprocess.check_output([os.path.join(build, "bin", "journey_compare"), path], text=True).split()
 
 
 def files():
@@ -47,7 +42,7 @@ with Lumora(build, photo) as lumora:
     lumora.wait_for_breadcrumb("Original")
     lumora.save_as(saved)
     # The flattened print is 1345 x 1600; cropped to the square and bordered anew it is as large again, then reduced.
-    assert size_of(saved) == ["673", "800"], size_of(saved)
+    assert lumora.size_of(saved) == ["673", "800"], lumora.size_of(saved)
     lumora.quit()
 
 with Lumora(build, photo) as lumora:

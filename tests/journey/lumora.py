@@ -6,7 +6,8 @@ import tempfile
 
 import pyatspi
 
-from desk import application, click, deadline, find, key, say, wait_for, wait_for_window_manager, walk, write
+from desk import (application, click, deadline, find, has_state, is_showing, key, say, take_screenshot, wait_for,
+                  wait_for_window_manager, walk, write)
 
 BUTTONS = (pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_TOGGLE_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON)
 FIELDS = (pyatspi.ROLE_TEXT, pyatspi.ROLE_ENTRY)
@@ -79,6 +80,16 @@ class Lumora:
     def preview(self):
         return wait_for("the preview", lambda: find(self.application, "Photo"))
 
+    def seen(self):
+        """What the screen shows of the photo."""
+        picture = os.path.join(os.environ["HOME"], "seen.png")
+        take_screenshot(self.tools, picture, self.preview())
+        with open(picture, "rb") as file:
+            return file.read()
+
+    def is_enabled(self, name):
+        return has_state(self.control(name), pyatspi.STATE_ENABLED)
+
     def pop_up(self, label):
         """A pop-up, found by the label that stands at it; its own name is the entry that it shows."""
         def labelled():
@@ -109,17 +120,39 @@ class Lumora:
     def dialog(self):
         return find(self.application, role=DIALOGS)
 
-    def fill_file_dialog(self, path):
-        """Types a path into the file panel that is coming up and confirms it."""
+    def name_field(self):
+        """That of the file panel that is coming up or is up, ready to take keys."""
         panel = wait_for("a file panel", self.dialog)
         field = wait_for("the panel's name field", lambda: find(panel, role=FIELDS))
-        wait_for("the name field to take keys", lambda: field.getState().contains(pyatspi.STATE_FOCUSED)
+        wait_for("the name field to take keys", lambda: has_state(field, pyatspi.STATE_FOCUSED)
                  or (click(field), field.clear_cache()) is None)
+        return field
+
+    def type_file_name(self, path):
+        """Types a path into the file panel and presses Return."""
+        field = self.name_field()
         key("ctrl+a")
         write(path)
         wait_for("the path in the panel", lambda: field.queryText().getText(0, -1) == path)
         key("Return")
+
+    def fill_file_dialog(self, path):
+        """Types a path into the file panel that is coming up and confirms it."""
+        self.type_file_name(path)
         wait_for("the panel to close", lambda: self.dialog() is None)
+
+    def wait_for_keys(self):
+        """Waits until the window takes keys: after a panel the desktop gives them back in its own time."""
+        wait_for("the window to take keys", lambda: has_state(self.frame(), pyatspi.STATE_ACTIVE))
+
+    def wait_for_words(self, begin):
+        """Waits for a line on the screen, in the window or a panel, that begins so."""
+        def line():
+            for node in walk(self.application):
+                if node.getRole() == pyatspi.ROLE_LABEL and node.name.startswith(begin) and is_showing(node):
+                    return node.name
+            return None
+        return wait_for(f'the words "{begin}"', line)
 
     def save_as(self, path):
         self.press("Save…")
@@ -148,6 +181,10 @@ class Lumora:
                 if line.startswith("VmHWM:"):
                     return int(line.split()[1]) / 1024
         raise AssertionError("the system does not tell the peak memory")
+
+    def size_of(self, path):
+        """Width and height of a picture, as words."""
+        return subprocess.check_output([os.path.join(self.tools, "journey_compare"), path], text=True).split()
 
     def assert_file_is_render(self, saved, photo, *options):
         """Holds a saved file to the pipeline's own render of the photo, pixel by pixel."""

@@ -4,36 +4,27 @@
 import os
 import sys
 
-from desk import key, take_screenshot, wait_for
+from desk import key, wait_for
 from lumora import Lumora
 
 build, photo = sys.argv[1:3]
-picture = os.path.join(os.environ["HOME"], "preview.png")
-
-
-def seen(lumora):
-    """What the screen shows of the photo."""
-    take_screenshot(lumora.tools, picture, lumora.preview())
-    with open(picture, "rb") as file:
-        return file.read()
-
 
 with Lumora(build, photo) as lumora:
     lumora.wait_for_title("Lumora - " + os.path.basename(photo))
     lumora.wait_for_breadcrumb("Original")
-    shown = [wait_for("the photo", lambda: seen(lumora))]
+    shown = [wait_for("the photo", lambda: lumora.seen())]
     for step, name in (("2", "Helga"), ("ctrl+r", "Rotate right"), ("ctrl+e", "Re-expose"),
                        ("ctrl+shift+f", "Flatten"), ("7", "Mono")):
         key(step)
-        wait_for(f"the screen to change by {name}", lambda: seen(lumora) != shown[-1])
+        wait_for(f"the screen to change by {name}", lambda: lumora.seen() != shown[-1])
         lumora.wait_for_breadcrumb({"Flatten": "Original", "Mono": "Mono"}.get(name, "Helga"))
-        shown.append(seen(lumora))
+        shown.append(lumora.seen())
     for before in reversed(shown[:-1]):
         key("ctrl+z")
-        wait_for("the picture of before", lambda: seen(lumora) == before)
+        wait_for("the picture of before", lambda: lumora.seen() == before)
     lumora.wait_for_breadcrumb("Original")
     for after in shown[1:]:
         key("ctrl+shift+z")
-        wait_for("the picture of after", lambda: seen(lumora) == after)
+        wait_for("the picture of after", lambda: lumora.seen() == after)
     lumora.wait_for_breadcrumb("Mono")
     lumora.quit()
