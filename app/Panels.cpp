@@ -61,6 +61,7 @@ bool MainWindowController::runPanel(QFileDialog& panel)
     const WorkWaits waits(m_work);
     const SettingsAreWritten meanwhile(true);
     const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
+    activateWindow(); // where a question went with the panel, some desktops give the keys to nobody
     if (confirmed)
         m_panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
     return confirmed;
