@@ -84,10 +84,20 @@ private slots:
         QTest::newRow("transparent") << samples::encoded(
             noise.convertToFormat(QImage::Format_RGBA64).mirrored(), "png");
         QTest::newRow("cmyk") << samples::jpeg(samples::JpegKind::Cmyk, 64, 32, QByteArray(64 * 32 * 4, '\x55'));
+        const QImage transparent = noise.convertToFormat(QImage::Format_RGBA8888).mirrored();
+#ifdef LUMORA_HEIF
         QTest::newRow("heic") << samples::heif(noise, samples::HeifKind::Hevc);
+        QTest::newRow("heic, transparent") << samples::heif(transparent, samples::HeifKind::Hevc);
         QTest::newRow("avif") << samples::heif(noise, samples::HeifKind::Av1);
+        QTest::newRow("avif, transparent") << samples::heif(transparent, samples::HeifKind::Av1);
+#endif
+#ifdef LUMORA_JXL
         QTest::newRow("jpeg xl") << samples::jxl(noise);
+        QTest::newRow("jpeg xl, transparent") << samples::jxl(transparent);
+#endif
+#ifdef LUMORA_RAW
         QTest::newRow("camera raw") << samples::dng(QSize(64, 48), {0.2, 0.5, 0.3}, {0.5, 1, 0.6});
+#endif
         QTest::newRow("not a picture") << QByteArray("Dear diary");
         QTest::newRow("damaged") << samples::encoded(noise, "png").left(3000);
     }

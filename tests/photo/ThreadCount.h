@@ -1,0 +1,10 @@
+#pragma once
+
+#include <functional>
+
+namespace samples {
+
+/// How many threads begin while that runs.
+int threadsBegunBy(const std::function<void()>& work);
+
+} // namespace samples
