@@ -3,10 +3,12 @@
 #include "photo/reader/Channel.h"
 #include "photo/reader/Confinement.h"
 
+#include <QSocketNotifier>
 #include <algorithm>
 #include <csignal>
 #include <ctime>
 #include <filesystem>
+#include <memory>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/syscall.h>
@@ -27,16 +29,54 @@ QByteArray& chosenProgram()
     return program;
 }
 
-/// Processes that were ended and may still be ending: one that waits for a slow disk takes its time.
-std::vector<pid_t>& endingProcesses()
+/// Can be read from when the process has ended.
+Descriptor watchOf(pid_t process)
 {
-    static std::vector<pid_t> processes;
+    return Descriptor(int(syscall(SYS_pidfd_open, process, 0)));
+}
+
+void forgetEnded();
+
+/// A process that was ended and may still be ending: one that waits for a slow disk takes its time. It is waited for
+/// when the event loop sees its end, and otherwise before the next one is started.
+class EndingProcess {
+public:
+    explicit EndingProcess(pid_t process)
+        : m_process(process)
+        , m_watch(watchOf(process))
+    {
+        if (!m_watch)
+            return;
+        m_notifier.reset(new QSocketNotifier(m_watch.number(), QSocketNotifier::Read));
+        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [] { forgetEnded(); });
+    }
+
+    bool hasEnded() const { return waitpid(m_process, nullptr, WNOHANG) != 0; }
+
+private:
+    /// It may be in the middle of its signal.
+    struct DeleteLater {
+        void operator()(QSocketNotifier* notifier) const
+        {
+            notifier->setEnabled(false);
+            notifier->deleteLater();
+        }
+    };
+
+    pid_t m_process;
+    Descriptor m_watch;
+    std::unique_ptr<QSocketNotifier, DeleteLater> m_notifier;
+};
+
+std::vector<EndingProcess>& endingProcesses()
+{
+    static std::vector<EndingProcess> processes;
     return processes;
 }
 
 void forgetEnded()
 {
-    std::erase_if(endingProcesses(), [](pid_t process) { return waitpid(process, nullptr, WNOHANG) != 0; });
+    std::erase_if(endingProcesses(), [](const EndingProcess& process) { return process.hasEnded(); });
 }
 
 /// The channel in place of the standard input, the standard error for whatever is printed, the usual signals.
@@ -114,7 +154,7 @@ qint64 ReaderProcess::milliseconds() const
 
 PhotoReader::End ReaderProcess::end()
 {
-    const Descriptor watch(isRunning() ? int(syscall(SYS_pidfd_open, m_process, 0)) : -1);
+    const Descriptor watch = isRunning() ? watchOf(m_process) : Descriptor();
     pollfd ended = {watch.number(), POLLIN, 0};
     int status = 0;
     if (!watch || poll(&ended, 1, lastMoment) != 1 || waitpid(m_process, &status, 0) != m_process) {
@@ -130,7 +170,7 @@ void ReaderProcess::kill()
     if (!isRunning())
         return;
     ::kill(m_process, SIGKILL);
-    endingProcesses().push_back(m_process);
+    endingProcesses().emplace_back(m_process);
     m_process = -1;
     forgetEnded();
 }

@@ -21,11 +21,19 @@ QByteArray contentsOf(const QString& systemFile)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The processes that this one has started and that have not ended.
+/// The processes that this one has started, and that have not ended or were not waited for.
+QList<QByteArray> unwaitedProcesses()
+{
+    QList<QByteArray> found = contentsOf(QStringLiteral("/proc/self/task/%1/children").arg(getpid())).split(' ');
+    found.removeAll(QByteArray());
+    return found;
+}
+
+/// Those of them that have not ended.
 QList<pid_t> startedProcesses()
 {
     QList<pid_t> found;
-    for (const QByteArray& number : contentsOf(QStringLiteral("/proc/self/task/%1/children").arg(getpid())).split(' '))
+    for (const QByteArray& number : unwaitedProcesses())
         if (contentsOf(QStringLiteral("/proc/%1/status").arg(number.toInt())).contains("VmSize"))
             found << number.toInt();
     return found;
@@ -157,6 +165,17 @@ private slots:
         QVERIFY(startedProcesses() != first);
     }
 
+    void noneIsLeftUnwaitedFor()
+    {
+        const QByteArray path = write("photo", samples::encoded(samples::noise(300, 200), "png"));
+        PhotoReader reader;
+        QVERIFY(!read(reader, path).image.isNull());
+        QTRY_COMPARE(unwaitedProcesses().size(), 1); // the next one waits
+        reader.begin(path);
+        reader.cancel();
+        QTRY_COMPARE(unwaitedProcesses().size(), 0);
+    }
+
     void oneThatIsGoneIsReplaced()
     {
         PhotoReader reader;
@@ -193,6 +212,8 @@ private slots:
         QTest::newRow("breaks down") << QByteArray("HARM break") << End::BrokeDown;
         QTest::newRow("never ends") << QByteArray("HARM loop") << End::TookTooLong;
         QTest::newRow("takes all memory") << QByteArray("HARM memory") << End::Answered; // the decoder was told no
+        QTest::newRow("takes all memory for its header") << QByteArray("HARM header memory") << End::Answered;
+        QTest::newRow("never ends in its header") << QByteArray("HARM header loop") << End::TookTooLong;
         QTest::newRow("opens a file") << QByteArray("HARM file") << End::TriedFiles;
         QTest::newRow("opens a socket") << QByteArray("HARM socket") << End::TriedNetwork;
     }
@@ -210,9 +231,9 @@ private slots:
     }
     void eachHarmHasItsReason()
     {
-        QCOMPARE(m_reasons.size(), 5);
+        QCOMPARE(m_reasons.size(), 7);
         QVERIFY(!m_reasons.contains(QString()));
-        QCOMPARE(QSet<QString>(m_reasons.begin(), m_reasons.end()).size(), 5);
+        QCOMPARE(QSet<QString>(m_reasons.begin(), m_reasons.end()).size(), 5); // two of them in two places
     }
 
     void readingCanBeCancelled()

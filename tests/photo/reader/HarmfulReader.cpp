@@ -57,12 +57,15 @@ bool openSocket(QImage* image)
 struct Harm {
     QByteArray name;
     bool (*read)(QImage*);
+    bool isInHeader = false; ///< done where the size is told
 };
 
 const Harm harms[] = {
     {"HARM break", breakDown},
     {"HARM loop", loop},
     {"HARM memory", eatMemory},
+    {"HARM header memory", eatMemory, true},
+    {"HARM header loop", loop, true},
     {"HARM file", openFile},
     {"HARM socket", openSocket},
     {"HARM none", readPlainly},
@@ -80,6 +83,13 @@ class HarmfulHandler : public QImageIOHandler {
 public:
     bool canRead() const override { return harmOf(device()); }
     bool read(QImage* image) override { return harmOf(device())->read(image); }
+    bool supportsOption(ImageOption option) const override { return option == Size && harmOf(device())->isInHeader; }
+    QVariant option(ImageOption option) const override
+    {
+        if (supportsOption(option))
+            harmOf(device())->read(nullptr);
+        return {};
+    }
 };
 
 } // namespace
