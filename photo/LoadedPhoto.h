@@ -8,7 +8,7 @@
 /// A photo from a file, or why there is none.
 struct LoadedPhoto {
     QImage image; ///< upright, sRGB, Format_RGBX8888 or Format_RGB32, laid on white; null when refused
-    PhotoMetadata metadata; ///< what a JPEG, PNG, WebP or TIFF file carried
+    PhotoMetadata metadata; ///< what the file carried
     bool restIsMissing = false; ///< the file ended before its picture did, and a part of that is not the file's
     QString reason; ///< for people, set when `image` is null
 };

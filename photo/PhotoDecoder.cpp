@@ -59,6 +59,7 @@ struct Decoded {
     QImage image; ///< anything beside a reason
     bool isUpright = false; ///< otherwise it stands as it is stored, which the file's EXIF block may tell
     bool restIsMissing = false; ///< the file ended before the picture did
+    PhotoMetadata metadata = {}; ///< where the decoder gives it
 };
 
 Decoded refused(const QString& reason)
@@ -77,6 +78,7 @@ Decoded decodeByOwn(PhotoHandler& handler, const Room& room)
         return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
     decoded.isUpright = handler.isUpright();
     decoded.restIsMissing = handler.restIsMissing();
+    decoded.metadata = handler.metadata();
     return decoded;
 }
 
@@ -141,6 +143,8 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
     if (!decoded.reason.isEmpty())
         return refusedPhoto(decoded.reason);
     photo.restIsMissing = decoded.restIsMissing;
+    if (decoded.metadata != PhotoMetadata())
+        photo.metadata = std::move(decoded.metadata);
     photo.image = onWhiteInEitherOrder(inSRgb(std::move(decoded.image)));
     if (!decoded.isUpright)
         photo.image = turnedUpright(photo.image, orientationOf(photo.metadata.exif));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "photo/PhotoMetadata.h"
+
 #include <QImageIOHandler>
 
 /// A reader of our own. Beside the picture it tells what the platform's readers do not.
@@ -10,4 +12,6 @@ public:
     virtual bool isUpright() const { return false; }
     /// After read(): whether the file ended before its picture did, so that a part of it is the reader's.
     virtual bool restIsMissing() const { return false; }
+    /// After read(): what the file carries beside the picture, where readMetadata does not know the format.
+    virtual PhotoMetadata metadata() const { return {}; }
 };

@@ -16,6 +16,7 @@ namespace {
 constexpr int headerSize = 26;
 constexpr qint64 paletteSize = 768;
 constexpr qint64 largestProfile = 64 << 20; ///< bytes; those in use have a few millions
+constexpr qint64 largestBlock = 4'000'000; ///< of metadata; larger ones are not kept
 
 enum Mode { bitmap = 0, grey = 1, indexed = 2, rgb = 3, cmyk = 4, duotone = 8, lab = 9 };
 
@@ -72,12 +73,17 @@ std::optional<Header> headerOf(QIODevice* device)
 struct Sections {
     QByteArray palette; ///< 256 reds, greens and blues of an indexed picture
     QByteArray profile;
+    PhotoMetadata metadata;
 };
 
-/// The colour profile among the resources, which end at `end`; empty where there is none.
-QByteArray readProfile(QIODevice& device, qint64 end)
+/// Takes what is of use of the resources, which end at `end`.
+void readResources(QIODevice& device, qint64 end, Sections& sections)
 {
-    constexpr int iccProfile = 0x040f;
+    enum { iptc = 0x0404, iccProfile = 0x040f, exif = 0x0422, xmp = 0x0424 };
+    const auto take = [&device](QByteArray& block, qint64 size, qint64 largest) {
+        if (block.isEmpty() && size <= largest)
+            block = device.read(size);
+    };
     // Each begins with the four letters of who made it.
     while (device.pos() + 12 <= end && !device.read(4).contains('\0')) {
         const int id = readNumber<quint16>(device);
@@ -85,12 +91,18 @@ QByteArray readProfile(QIODevice& device, qint64 end)
         device.skip((nameLength + 2) / 2 * 2 - 1);
         const qint64 size = readNumber<quint32>(device);
         if (size > end - device.pos())
-            return {};
+            return;
+        const qint64 next = device.pos() + size + size % 2;
         if (id == iccProfile)
-            return size <= largestProfile ? device.read(size) : QByteArray();
-        device.seek(device.pos() + size + size % 2);
+            take(sections.profile, size, largestProfile);
+        else if (id == exif)
+            take(sections.metadata.exif, size, largestBlock);
+        else if (id == xmp)
+            take(sections.metadata.xmp, size, largestBlock);
+        else if (id == iptc)
+            take(sections.metadata.iptc, size, largestBlock);
+        device.seek(next);
     }
-    return {};
 }
 
 /// Reads up to the picture's data; nothing when the file ends before.
@@ -109,7 +121,7 @@ std::optional<Sections> readSections(QIODevice& device, const Header& header)
     if (!fits(resources))
         return {};
     const qint64 afterResources = device.pos() + resources;
-    sections.profile = readProfile(device, afterResources);
+    readResources(device, afterResources, sections);
     device.seek(afterResources);
     const qint64 layers = header.big ? readNumber<qint64>(device) : qint64(readNumber<quint32>(device));
     if (!fits(layers))
@@ -293,6 +305,7 @@ bool PsdHandler::read(QImage* image)
         }
     finish(picture, *header, *sections);
     picture.reinterpretAsFormat(header->isDeep() ? QImage::Format_RGBX64 : QImage::Format_RGBX8888);
+    m_metadata = sections->metadata;
     *image = picture;
     return true;
 }

@@ -16,4 +16,8 @@ public:
     /// Knows Size and ImageFormat.
     QVariant option(ImageOption option) const override;
     bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
+    PhotoMetadata metadata() const override { return m_metadata; }
+
+private:
+    PhotoMetadata m_metadata;
 };

@@ -83,7 +83,8 @@ void set(Image& image, const std::string& key, const std::string& text)
 /// A photo's file of that format that carries all of the values and the places.
 QByteArray richFile(const QByteArray& format)
 {
-    Image image = opened(samples::encoded(samples::quarters(64, 48), format.constData()));
+    const QImage picture = samples::quarters(64, 48);
+    Image image = opened(format == "psd" ? samples::psd(picture, {}) : samples::encoded(picture, format.constData()));
     for (const auto& [key, text] : values)
         set(image, key, text);
     for (const auto& [key, text] : places)
@@ -132,7 +133,7 @@ class MetadataTest : public QObject {
     static void formats()
     {
         QTest::addColumn<QByteArray>("format");
-        for (const char* format : {"jpeg", "png", "webp", "tiff"})
+        for (const char* format : {"jpeg", "png", "webp", "tiff", "psd"})
             QTest::newRow(format) << QByteArray(format);
     }
 

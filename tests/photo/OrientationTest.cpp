@@ -67,6 +67,8 @@ QByteArray fileWithExif(const QByteArray& format, const QImage& picture, int ori
     const QByteArray exif = exifBlock(orientation, bigEndian);
     if (format == "jpeg")
         return samples::withCameraExif(samples::encoded(picture, "jpeg"), orientation, bigEndian);
+    if (format == "psd")
+        return samples::psd(picture, exif);
     if (format == "webp")
         return webpWithExif(picture, exif);
     return samples::encoded(picture, "png").insert(33, samples::pngChunk("eXIf", exif));
@@ -83,7 +85,7 @@ private slots:
         QTest::addColumn<QByteArray>("format");
         QTest::addColumn<int>("orientation");
         QTest::addColumn<bool>("bigEndian");
-        for (const char* format : {"jpeg", "png", "webp"})
+        for (const char* format : {"jpeg", "png", "webp", "psd"})
             for (int orientation = 0; orientation <= 9; orientation++)
                 for (const bool bigEndian : {false, true})
                     QTest::addRow("%s, %d, %s endian", format, orientation, bigEndian ? "big" : "little")
@@ -103,8 +105,9 @@ private slots:
         QVERIFY(samples::showsQuarters(photo.image, upright.size()));
 
         // What is saved stands upright too, for a viewer that turns by the orientation and for one that does not.
-        QVERIFY(!photo.metadata.exif.isEmpty());
-        samples::writeFile(path, encodeJpeg(photo.image, photo.metadata));
+        const QByteArray saved = encodeJpeg(photo.image, photo.metadata);
+        QVERIFY(saved.contains("A. Person"));
+        samples::writeFile(path, saved);
         QVERIFY(samples::showsQuarters(loadPhoto(path).image, upright.size()));
         QVERIFY(samples::showsQuarters(QImage(QString::fromLocal8Bit(path)), upright.size()));
     }

@@ -140,6 +140,21 @@ QByteArray withCameraExif(const QByteArray& jpegFile, int orientation, bool bigE
     return QByteArray(reinterpret_cast<const char*>(io.mmap()), qsizetype(io.size()));
 }
 
+QByteArray psd(const QImage& picture, const QByteArray& exif)
+{
+    const auto sized = [](const QByteArray& block) { return bigEndian(quint32(block.size())) + block; };
+    const QByteArray resource = "8BIM" + bigEndian(quint16(0x0422)) + QByteArray(2, 0) + sized(exif);
+    QByteArray file = "8BPS" + bigEndian(quint16(1)) + QByteArray(6, 0) + bigEndian(quint16(3))
+        + bigEndian(quint32(picture.height())) + bigEndian(quint32(picture.width())) + bigEndian(quint16(8))
+        + bigEndian(quint16(3)) + sized({}) + sized(resource + QByteArray(resource.size() % 2, 0)) + sized({})
+        + bigEndian(quint16(0));
+    for (int channel = 0; channel < 3; channel++)
+        for (int y = 0; y < picture.height(); y++)
+            for (int x = 0; x < picture.width(); x++)
+                file += char(picture.pixel(x, y) >> (16 - 8 * channel));
+    return file;
+}
+
 QByteArray pngChunk(const QByteArray& type, const QByteArray& data)
 {
     quint32 checksum = 0xFFFFFFFF;

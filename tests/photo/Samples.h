@@ -36,6 +36,8 @@ template <class T> QByteArray bigEndian(T value)
     qToBigEndian(value, bytes.data());
     return bytes;
 }
+/// A PSD file with that block among its resources.
+QByteArray psd(const QImage& picture, const QByteArray& exif);
 /// A chunk of a PNG file with its length and checksum.
 QByteArray pngChunk(const QByteArray& type, const QByteArray& data);
 
