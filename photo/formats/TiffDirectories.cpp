@@ -1,60 +1,14 @@
 #include "photo/formats/TiffDirectories.h"
 
-#include <QIODevice>
-#include <QtEndian>
-#include <algorithm>
+#include "photo/TiffReader.h"
 
 namespace {
 
-constexpr int mostDirectories = 32, mostEntries = 512, mostValues = 64;
-
-/// Reads the numbers of a file in its byte order.
-class Numbers {
-public:
-    Numbers(QIODevice& file, bool isBig)
-        : m_file(file)
-        , m_isBig(isBig)
-    {
-    }
-
-    quint16 word(const char* at) const
-    {
-        return m_isBig ? qFromBigEndian<quint16>(at) : qFromLittleEndian<quint16>(at);
-    }
-    quint32 number(const char* at) const
-    {
-        return m_isBig ? qFromBigEndian<quint32>(at) : qFromLittleEndian<quint32>(at);
-    }
-
-    QByteArray at(qint64 position, qint64 size) const
-    {
-        return m_file.seek(position) ? m_file.read(size) : QByteArray();
-    }
-
-    /// The first whole numbers of a directory's entry of 12 bytes.
-    QList<quint32> values(const char* entry) const
-    {
-        const int type = word(entry + 2), size = type == 1 ? 1 : type == 3 ? 2 : type == 4 || type == 13 ? 4 : 0;
-        const auto count = std::min<quint32>(number(entry + 4), mostValues);
-        if (size == 0 || count == 0)
-            return {};
-        const QByteArray bytes =
-            size * count <= 4 ? QByteArray(entry + 8, 4) : at(number(entry + 8), qint64(size) * count);
-        QList<quint32> found;
-        for (qsizetype i = 0; i < qsizetype(count) && (i + 1) * size <= bytes.size(); i++) {
-            const char* value = bytes.constData() + i * size;
-            found << (size == 1 ? quint8(*value) : size == 2 ? word(value) : number(value));
-        }
-        return found;
-    }
-
-private:
-    QIODevice& m_file;
-    bool m_isBig;
-};
+constexpr qsizetype mostDirectories = 32;
+constexpr quint64 mostValues = 64;
 
 /// Takes one entry; `further` gets where other directories are.
-void take(TiffDirectory& directory, int tag, const QList<quint32>& values, QList<qint64>& further)
+void take(TiffDirectory& directory, int tag, const QList<quint64>& values, QList<quint64>& further)
 {
     enum {
         bitsOfChannels = 258,
@@ -88,7 +42,7 @@ void take(TiffDirectory& directory, int tag, const QList<quint32>& values, QList
         directory.isDng = true;
         break;
     case within:
-        further += QList<qint64>(values.begin(), values.end());
+        further += values;
         break;
     default:
         break;
@@ -104,23 +58,18 @@ bool isTiff(const QByteArray& head)
 
 QList<TiffDirectory> readTiffDirectories(QIODevice& file)
 {
-    file.seek(0);
-    const QByteArray head = file.read(8);
-    if (head.size() < 8 || !isTiff(head))
+    TiffReader reader(file);
+    if (!reader.isValid() || reader.isWide())
         return {};
-    const Numbers numbers(file, head.startsWith('M'));
-    QList<qint64> places = {numbers.number(head.constData() + 4)};
+    QList<quint64> places = {reader.firstDirectory()};
     QList<TiffDirectory> found;
     for (qsizetype i = 0; i < places.size() && i < mostDirectories; i++) {
-        const QByteArray count = numbers.at(places[i], 2);
-        if (count.size() < 2)
-            continue;
-        const int entries = std::min<int>(numbers.word(count.constData()), mostEntries);
-        const QByteArray table = numbers.at(places[i] + 2, entries * 12);
+        const QList<TiffField> fields = reader.fields(places[i]);
         TiffDirectory directory;
-        for (qsizetype at = 0; at + 12 <= table.size(); at += 12)
-            take(directory, numbers.word(table.constData() + at), numbers.values(table.constData() + at), places);
-        found << directory;
+        for (const TiffField& field : fields)
+            take(directory, field.tag, reader.numbers(field, mostValues), places);
+        if (!fields.isEmpty())
+            found << directory;
     }
     return found;
 }

@@ -1,14 +1,14 @@
 #include "photo/metadata/ExifBlock.h"
 
-#include <QIODevice>
+#include "photo/TiffReader.h"
+
 #include <QtEndian>
 #include <algorithm>
-#include <limits>
 
 namespace {
 
 constexpr quint16 exifPointer = 0x8769, placePointer = 0x8825, interoperabilityPointer = 0xA005;
-constexpr quint16 shortType = 3, longType = 4, textType = 2;
+constexpr quint16 shortType = 3, longType = 4, textType = 2, lastType = 12;
 
 /// Tags of a picture's storage in its own file, of previews, and of blocks that are kept by themselves.
 constexpr quint16 leftOut[] = {0x00FE, 0x00FF, 0x0102, 0x0103, 0x0106, 0x0107, 0x010A, 0x0111, 0x0115, 0x0116, 0x0117,
@@ -23,94 +23,27 @@ bool holdsPicture(const QByteArray& bytes)
         || bytes.contains("\xD8\xFF\xC4") || bytes.contains("\xFF\xD8\xFF");
 }
 
-class Reader {
-public:
-    explicit Reader(QIODevice& device)
-        : m_device(device)
-    {
-        const QByteArray order = bytes(0, 2);
-        m_bigEndian = order == "MM";
-        m_valid = (m_bigEndian || order == "II") && number16(bytes(2, 2)) == 42;
+/// The entries at that position; the pointers among them go to `pointers`.
+ExifBlock::Directory directoryAt(TiffReader& reader, quint64 position, std::vector<ExifEntry>* pointers = nullptr)
+{
+    ExifBlock::Directory entries;
+    qsizetype total = 0;
+    for (const TiffField& field : reader.fields(position)) {
+        if (field.size == 0 || field.type > lastType || field.size > quint64(longestExif)
+            || ExifBlock::find(entries, field.tag))
+            continue;
+        const ExifEntry entry = {field.tag, field.type, quint32(field.count), reader.bytes(field.position, field.size),
+            quint32(field.position)};
+        total += entry.value.size();
+        if (entry.value.isEmpty() || total > 4 * longestExif)
+            continue;
+        if (std::ranges::count(leftOut, entry.tag) == 0 && !holdsPicture(entry.value))
+            entries.push_back(entry);
+        else if (pointers && field.size == 4)
+            pointers->push_back(entry);
     }
-
-    bool isValid() const { return m_valid; }
-    bool isBigEndian() const { return m_bigEndian; }
-    quint32 firstDirectory() { return number32(bytes(4, 4)); }
-
-    /// The entries at that position; the pointers among them go to `pointers`.
-    ExifBlock::Directory directory(quint32 position, std::vector<ExifEntry>* pointers = nullptr)
-    {
-        ExifBlock::Directory entries;
-        const qsizetype count = position == 0 ? 0 : number16(bytes(position, 2));
-        const QByteArray table = bytes(qint64(position) + 2, count * 12);
-        qsizetype total = 0;
-        for (qsizetype at = 0; at + 12 <= table.size(); at += 12) {
-            ExifEntry entry;
-            entry.tag = quint16(number16(table.mid(at, 2)));
-            entry.type = quint16(number16(table.mid(at + 2, 2)));
-            entry.count = number32(table.mid(at + 4, 4));
-            const qint64 size = qint64(sizeOf(entry.type)) * entry.count;
-            if (size == 0 || size > longestExif || ExifBlock::find(entries, entry.tag))
-                continue;
-            entry.position = size <= 4 ? quint32(position + 2 + at + 8) : number32(table.mid(at + 8, 4));
-            entry.value = bytes(entry.position, size);
-            total += entry.value.size();
-            if (entry.value.size() != size || total > 4 * longestExif)
-                continue;
-            if (std::ranges::count(leftOut, entry.tag) == 0 && !holdsPicture(entry.value))
-                entries.push_back(entry);
-            else if (pointers && size == 4)
-                pointers->push_back(entry);
-        }
-        return entries;
-    }
-
-    /// The value of that tag in the first directory, of any size up to `longest`.
-    QByteArray value(quint16 tag, qint64 longest)
-    {
-        const quint32 position = firstDirectory();
-        const qsizetype count = position == 0 ? 0 : number16(bytes(position, 2));
-        const QByteArray table = bytes(qint64(position) + 2, count * 12);
-        for (qsizetype at = 0; at + 12 <= table.size(); at += 12) {
-            const qint64 size =
-                qint64(sizeOf(quint16(number16(table.mid(at + 2, 2))))) * number32(table.mid(at + 4, 4));
-            if (number16(table.mid(at, 2)) == tag && size > 4 && size <= longest)
-                return bytes(number32(table.mid(at + 8, 4)), size);
-        }
-        return {};
-    }
-
-    quint32 number32(const QByteArray& value) const
-    {
-        if (value.size() < 4)
-            return 0;
-        return m_bigEndian ? qFromBigEndian<quint32>(value.data()) : qFromLittleEndian<quint32>(value.data());
-    }
-
-private:
-    static int sizeOf(quint16 type)
-    {
-        constexpr int sizes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
-        return type < std::size(sizes) ? sizes[type] : 0;
-    }
-
-    quint32 number16(const QByteArray& value) const
-    {
-        if (value.size() < 2)
-            return 0;
-        return m_bigEndian ? qFromBigEndian<quint16>(value.data()) : qFromLittleEndian<quint16>(value.data());
-    }
-
-    QByteArray bytes(qint64 position, qint64 size)
-    {
-        return size > 0 && position + size <= m_device.size() && m_device.seek(position) ? m_device.read(size)
-                                                                                         : QByteArray();
-    }
-
-    QIODevice& m_device;
-    bool m_bigEndian = false;
-    bool m_valid = false;
-};
+    return entries;
+}
 
 /// Lays the directories and their values round the maker's note, which stays where it is.
 class Writer {
@@ -270,26 +203,31 @@ void ExifBlock::setText(Directory& directory, quint16 tag, const QByteArray& tex
 ExifBlock readExifBlock(QIODevice& device)
 {
     ExifBlock block;
-    Reader reader(device);
-    if (!reader.isValid())
+    TiffReader reader(device);
+    if (!reader.isValid() || reader.isWide())
         return block;
     block.bigEndian = reader.isBigEndian();
     std::vector<ExifEntry> pointers, photoPointers;
-    block.image = reader.directory(reader.firstDirectory(), &pointers);
+    block.image = directoryAt(reader, reader.firstDirectory(), &pointers);
     const auto pointed = [&](std::vector<ExifEntry>& from, quint16 tag) {
         const ExifEntry* const pointer = ExifBlock::find(from, tag);
-        return pointer ? reader.number32(pointer->value) : 0;
+        return pointer ? reader.number(pointer->value) : 0;
     };
-    block.photo = reader.directory(pointed(pointers, exifPointer), &photoPointers);
-    block.place = reader.directory(pointed(pointers, placePointer));
-    block.interoperability = reader.directory(pointed(photoPointers, interoperabilityPointer));
+    block.photo = directoryAt(reader, pointed(pointers, exifPointer), &photoPointers);
+    block.place = directoryAt(reader, pointed(pointers, placePointer));
+    block.interoperability = directoryAt(reader, pointed(photoPointers, interoperabilityPointer));
     return block;
 }
 
 QByteArray blockOfTiff(QIODevice& device, quint16 tag, qint64 longest)
 {
-    Reader reader(device);
-    return reader.isValid() ? reader.value(tag, longest) : QByteArray();
+    TiffReader reader(device);
+    if (!reader.isValid() || reader.isWide())
+        return {};
+    for (const TiffField& field : reader.fields(reader.firstDirectory()))
+        if (field.tag == tag && field.size > 4 && field.size <= quint64(longest))
+            return reader.bytes(field.position, field.size);
+    return {};
 }
 
 QByteArray toBytes(ExifBlock block)
