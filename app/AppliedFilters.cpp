@@ -1,12 +1,11 @@
 #include "app/MainWindowController.h"
+#include "app/RenderSeed.h"
 #include "app/Rules.h"
 #include "app/ShownOnly.h"
 #include "image/CharImage.h"
-#include "render/RenderPipeline.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
-#include <QScopeGuard>
 #include <cstdlib>
 
 using namespace lumora;
@@ -32,6 +31,7 @@ void MainWindowController::toggleAppliedFilter(int filter)
 void MainWindowController::removeAllFilters()
 {
     filterIDs.clear();
+    showStrength(wholeStrength);
     showAppliedFilters();
 }
 
@@ -47,6 +47,8 @@ void MainWindowController::pressFilterButton(int filter)
     if (!work)
         return showAppliedFilters();
     filterIDs.press(filter, doMultiFiltering);
+    if (!doMultiFiltering || filterIDs.numThings == 0)
+        showStrength(wholeStrength); // a new list begins
     showAppliedFilters();
     applyMultipleFilters();
     addStep(QString::fromUtf8(CharImage::getFilterName(filter)));
@@ -73,11 +75,8 @@ void MainWindowController::renderPreview()
     const Work work = renderOfPreview();
     if (!work || m_photo.isNull())
         return;
-    // The numbers that are drawn after this render do not depend on its seed: a step taken back and done anew brings
-    // new ones.
-    const unsigned later = unsigned(std::rand());
-    std::srand(m_renderSeed);
-    const auto goOn = qScopeGuard([later] { std::srand(later); });
+    m_renderedLooks.reset();
+    const RenderSeed seed(m_renderSeed);
     QString reason;
     const QImage render = saveMultipleFilters(true, &reason);
     m_ui->mainImageView->setImage(render, reason);
@@ -94,15 +93,22 @@ QImage MainWindowController::saveMultipleFilters(bool preview, QString* reason)
     return render;
 }
 
-QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail, QString* reason)
+RenderSettings MainWindowController::renderSettings()
 {
     updateFromSettings();
     doCropping = doBorders = true;
     RenderSettings settings;
-    settings.filter = usingFilter;
     settings.filterIDs = &filterIDs;
     settings.cropFilter = cropFilter;
     settings.borderFilter = borderFilter;
+    settings.strength = strength;
+    return settings;
+}
+
+QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail, QString* reason)
+{
+    RenderSettings settings = renderSettings();
+    settings.filter = usingFilter;
     settings.asThumbnail = asThumbnail;
     RenderProgress progress;
     if (!asThumbnail) // painting the bar takes longer than a thumbnail
@@ -163,4 +169,7 @@ void MainWindowController::showAppliedFilters()
         action->setChecked(filterIDs.isShownAsApplied(action->data().toInt()));
     for (int i = 0; i < filterButtons.numThings; i++)
         showSwitch(*filterButtons.theArray[i], m_lookActions[i]->isChecked());
+    m_ui->sldStrength->setEnabled(filterIDs.numThings > 0);
+    for (QAction* action : m_strengthActions)
+        action->setEnabled(filterIDs.numThings > 0);
 }

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileOpenEvent>
 #include <QKeyEvent>
+#include <QSlider>
 
 // What a key, a click, the wheel and a drag mean in the window does not depend on the control that was used last: a
 // click leaves the focus on the photo, and the space bar compares wherever the focus is. Lists, menus, sheets and
@@ -60,8 +61,8 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
         m_ui->mainImageView->setFocus(Qt::MouseFocusReason);
         return false;
-    case QEvent::Wheel: // would change a pop-up that the pointer merely passes
-        event->setAccepted(!qobject_cast<QComboBox*>(widget));
+    case QEvent::Wheel: // would change a pop-up or a slider that the pointer merely passes
+        event->setAccepted(!qobject_cast<QComboBox*>(widget) && !qobject_cast<QSlider*>(widget));
         return !event->isAccepted();
     case QEvent::ShortcutOverride: // which, accepted, presses no shortcut
         event->setAccepted(m_keyRepeat.isRepeat(*static_cast<QKeyEvent*>(event)));

@@ -10,6 +10,7 @@
 #include "core/GrowArray.h"
 #include "image/FilterNumber.h"
 #include "photo/PhotoReader.h"
+#include "render/RenderPipeline.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -19,6 +20,7 @@
 class QAction;
 class QFileDialog;
 class QKeyEvent;
+class QMenu;
 class QToolButton;
 
 namespace Ui {
@@ -27,8 +29,8 @@ class MainWindow;
 
 /// The one controller: owns the window, the photo, the list of looks and the work in progress, and brings them
 /// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
-/// Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands elsewhere: the state in
-/// Photo.h, LookList.h, History.h and WorkInProgress.h, the rules in Rules.h.
+/// Strength.cpp, Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands elsewhere: the
+/// state in Photo.h, LookList.h, History.h and WorkInProgress.h, the rules in Rules.h.
 class MainWindowController : public QMainWindow,
                              public DropDelegate,
                              public DocumentSlots,
@@ -46,6 +48,8 @@ public:
     int borderFilter = lumora::Filter::original; ///< filter number whose border is drawn
     bool doCropping = true; ///< off only between updateFromSettings and the render that it begins
     bool doBorders = true; ///< the same
+    static constexpr int wholeStrength = 100; ///< per cent
+    int strength = wholeStrength; ///< of the looks together; every new list begins with the whole
     int imgOutputSize = -1; ///< longest side of the exported picture in pixels; -1: the photo's own
     bool doMultiFiltering = false; ///< follows the check box at each render and at each click on it
     void loadOptions();
@@ -153,6 +157,12 @@ private:
     bool takesKeyPress(QWidget* widget, const QKeyEvent& press); ///< true: `widget` must not see it
     bool takesKeyRelease(const QKeyEvent& release);
     void showAppliedFilters();
+    RenderSettings renderSettings(); ///< of the applied list, after updateFromSettings()
+    void buildStrengthEntries(QMenu& looks);
+    void connectStrength();
+    void strengthChanged();
+    void showStrength(int percent); ///< without a render
+    void showMixed();
     void showWhatCanBeDone();
     void showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality);
     void openWaitingFile();
@@ -186,6 +196,7 @@ private:
     Choices m_choicesAtStart; ///< as the preferences had them
     QList<QAction*> m_keptActions; ///< one for each Kept, one of them checked
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
+    QList<QAction*> m_strengthActions; ///< of no use without a look
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown
     QAction *m_undoAction = nullptr, *m_redoAction = nullptr; ///< owned by the menu
@@ -198,6 +209,7 @@ private:
     History m_history{*this, &MainWindowController::roomForFormerPhotos};
     unsigned m_renderSeed = 0; ///< of the random numbers that the preview drew while it was rendered
     QImage m_filtersAppliedImage; ///< the latest render
+    std::unique_ptr<RenderedLooks> m_renderedLooks; ///< of the preview, once its strength was changed; else null
     QByteArray m_waitingFile; ///< to be opened when there is room for it; empty for none
     bool m_wasPainted = false;
     QString m_panelFolder; ///< of the photo, or where a panel was left since; also of a former run

@@ -63,6 +63,7 @@ void MainWindowController::buildMenus()
             addLook(all.theArray[i]);
     for (QAction* action : m_lookActions.sliced(1))
         connect(action, &QAction::triggered, this, [this, action] { pressFilterButton(action->data().toInt()); });
+    buildStrengthEntries(*looks);
 
     QMenu* help = m_ui->menubar->addMenu(tr("&Help"));
     help->addAction(tr("Lumora &Help"), QKeySequence::HelpContents, this, &Self::openHelp);

@@ -93,6 +93,7 @@ void MainWindowController::updateFromSettings()
     doMultiFiltering = m_ui->chkMultiFilter->isChecked();
     cropFilter = chosenFilter(*m_ui->btnCropping, filterIDs);
     borderFilter = chosenFilter(*m_ui->btnBorders, filterIDs);
+    strength = m_ui->sldStrength->value();
     const QString size = m_ui->btnImgSize->currentText();
     imgOutputSize = size == QLatin1String("Original") ? -1 : size.toInt();
     updateBreadcrumb();

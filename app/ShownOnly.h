@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractSlider>
 #include <QComboBox>
 #include <QSignalBlocker>
 
@@ -10,6 +11,12 @@ inline void showSwitch(QAbstractButton& button, bool on)
 {
     const QSignalBlocker shownOnly(button);
     button.setChecked(on);
+}
+
+inline void showValue(QAbstractSlider& slider, int value)
+{
+    const QSignalBlocker shownOnly(slider);
+    slider.setValue(value);
 }
 
 inline void showItem(QComboBox& popUp, int index)

@@ -52,6 +52,7 @@ Shown MainWindowController::shownNow() const
 {
     Choices choices;
     choices.looks.assign(filterIDs.theArray, filterIDs.theArray + filterIDs.numThings);
+    choices.strength = m_ui->sldStrength->value();
     choices.multi = m_ui->chkMultiFilter->isChecked();
     choices.border = m_ui->btnBorders->currentIndex();
     choices.crop = m_ui->btnCropping->currentIndex();
@@ -67,6 +68,7 @@ void MainWindowController::setShown(const Shown& shown)
     removeAllFilters();
     for (const int look : choices.looks)
         filterIDs.add(look);
+    showStrength(choices.strength);
     showAppliedFilters();
     showSwitch(*m_ui->chkMultiFilter, choices.multi);
     showSwitch(*m_ui->chkRandomness, choices.varied);

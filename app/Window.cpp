@@ -82,6 +82,7 @@ void MainWindowController::completeNibLoading()
     m_ui->mainImageView->setDelegate(this);
     qApp->installEventFilter(this);
     buildMenus();
+    showStrength(wholeStrength);
     showAppliedFilters();
     showWhatCanBeDone();
     setAcceptDrops(true);
@@ -134,6 +135,7 @@ void MainWindowController::connectControls()
     toggle(m_ui->btnMagazine, &Self::applyMagazineFilter);
     toggle(m_ui->chkMultiFilter, &Self::multiFilterToggled);
     toggle(m_ui->chkRandomness, &Self::useRandomToggled);
+    connectStrength();
     const auto choose = [this](QComboBox* popUp, const QString& step) {
         connect(popUp, &QComboBox::currentIndexChanged, this, [this, step] {
             settingChanged();

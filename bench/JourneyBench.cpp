@@ -18,6 +18,7 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QLoggingCategory>
+#include <QSlider>
 #include <QTest>
 #include <algorithm>
 #include <cmath>
@@ -118,6 +119,19 @@ void measureWindow(const QByteArray& photo)
         });
     });
     say(QStringLiteral("undo to the painted preview: Helga"), undo * 1e3, "ms");
+    auto* strength = window.findChild<QSlider*>(QStringLiteral("sldStrength"));
+    window.applyOriginalFilter();
+    window.pressFilterButton(CharImage::getFilterFromName("Helga"));
+    strength->setSliderDown(true);
+    const double drag = leastOf(pressRounds, [&] {
+        strength->setSliderPosition(strength->sliderPosition() == 40 ? 41 : 40);
+        return secondsOf([&] {
+            strength->setSliderPosition(60);
+            paint();
+        });
+    });
+    strength->setSliderDown(false);
+    say(QStringLiteral("drag of the strength to the painted preview: Helga"), drag * 1e3, "ms");
     say(QStringLiteral("ten thumbnails, painted"),
         1e3
             * leastOf(rounds,
