@@ -1,5 +1,6 @@
 #include "photo/formats/heif/HeifHandler.h"
 
+#include "photo/formats/heif/Av1Decoder.h"
 #include "photo/formats/heif/HevcDecoder.h"
 #include "photo/formats/heif/ItemReferences.h"
 
@@ -14,7 +15,6 @@ namespace {
 
 struct FreeImage {
     void operator()(heif_image* image) const { heif_image_release(image); }
-    void operator()(heif_decoding_options* options) const { heif_decoding_options_free(options); }
     void operator()(heif_color_profile_nclx* profile) const { heif_nclx_color_profile_free(profile); }
 };
 template <class T> using Owned = std::unique_ptr<T, FreeImage>;
@@ -70,15 +70,11 @@ QImage::Format formatOf(const heif_image_handle* picture)
 }
 
 /// Red, green, blue and alpha of each pixel in a byte each, or, of a deep picture, in two with some of their bits.
-Owned<heif_image> decoded(const heif_image_handle* picture)
+Owned<heif_image> decodedPixels(const heif_image_handle* picture)
 {
-    const Owned<heif_decoding_options> options(heif_decoding_options_alloc());
-    if (!options)
-        return nullptr;
-    options->decoder_id = "aom"; // of AVIF pictures: the other one starts threads
     heif_image* image = nullptr;
     heif_decode_image(picture, &image, heif_colorspace_RGB,
-        isDeep(picture) ? heif_chroma_interleaved_RRGGBBAA_LE : heif_chroma_interleaved_RGBA, options.get());
+        isDeep(picture) ? heif_chroma_interleaved_RRGGBBAA_LE : heif_chroma_interleaved_RGBA, nullptr);
     return Owned<heif_image>(image);
 }
 
@@ -137,9 +133,9 @@ QVariant HeifHandler::option(ImageOption option) const
 
 bool HeifHandler::read(QImage* image)
 {
-    if (!open() || !provideHevcDecoder())
+    if (!open() || !provideHevcDecoder() || !provideAv1Decoder())
         return false;
-    const Owned<heif_image> pixels = decoded(m_picture.get());
+    const Owned<heif_image> pixels = decodedPixels(m_picture.get());
     if (!pixels)
         return false;
     const int width = heif_image_get_width(pixels.get(), heif_channel_interleaved);

@@ -8,7 +8,7 @@ struct heif_context;
 struct heif_image_handle;
 
 /// Reads the main picture of HEIC, HEIF and AVIF files, which phones write, upright and with its colour profile. Works
-/// on the caller's thread, but for the transparency of an AVIF, whose decoder libheif chooses.
+/// on the caller's thread.
 class HeifHandler : public PhotoHandler {
 public:
     bool canRead() const override;
