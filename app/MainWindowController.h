@@ -50,6 +50,8 @@ public:
     bool doBorders = true; ///< the same
     static constexpr int wholeStrength = 100; ///< per cent
     int strength = wholeStrength; ///< of the looks together; every new list begins with the whole
+    float currentCropRatio = 0; ///< for callers: nothing in the program reads or writes it
+    int currentBorder = 0; ///< the same
     int imgOutputSize = -1; ///< longest side of the exported picture in pixels; -1: the photo's own
     bool doMultiFiltering = false; ///< follows the check box at each render and at each click on it
     void loadOptions();
