@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """The Debian package: made, unpacked into an empty folder, and run from there with its help and its icons."""
 
+import configparser
 import glob
 import os
 import platform
@@ -32,6 +33,15 @@ for path in ("applications/dovrel.lumora.desktop", "metainfo/dovrel.lumora.metai
              "icons/hicolor/scalable/apps/dovrel.lumora.svg", "icons/hicolor/48x48/apps/dovrel.lumora.png",
              "icons/hicolor/128x128/apps/dovrel.lumora.png", "icons/hicolor/256x256/apps/dovrel.lumora.png"):
     assert os.path.getsize(os.path.join(share, path)) > 0, path
+
+# What the desktop's menu entry starts and shows is in the package.
+entry = configparser.ConfigParser(interpolation=None)
+entry.read(os.path.join(share, "applications", "dovrel.lumora.desktop"))
+program, *arguments = entry["Desktop Entry"]["Exec"].split()
+assert os.access(os.path.join(root, "usr", "bin", program), os.X_OK), program
+assert arguments == ["%f"], arguments
+icon = entry["Desktop Entry"]["Icon"]
+assert glob.glob(os.path.join(share, "icons", "hicolor", "*", "apps", icon + ".*")), icon
 with open(help_document, "rb") as document:
     assert document.read(5) == b"%PDF-"
 
@@ -57,7 +67,7 @@ with open(viewer, "w") as script:
 os.chmod(viewer, 0o755)
 os.environ["PATH"] = os.path.dirname(viewer) + ":" + os.environ["PATH"]
 
-with Lumora(build, photo, program=os.path.join(root, "usr", "bin", "lumora")) as lumora:
+with Lumora(build, photo, program=os.path.join(root, "usr", "bin", program)) as lumora:
     lumora.wait_for_title("Lumora - " + os.path.basename(photo))
     with open(f"/proc/{lumora.process.pid}/maps") as maps:
         assert engine is None or os.path.realpath(engine) in maps.read(), engine

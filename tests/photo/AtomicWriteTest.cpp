@@ -4,7 +4,9 @@
 #include "tests/photo/SaveFolder.h"
 
 #include <QTest>
+#include <fcntl.h>
 #include <memory>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -179,6 +181,19 @@ private slots:
         QCOMPARE(reason, QString());
         QCOMPARE(samples::readFile(pathOf("old.jpg")), QByteArray("old"));
         QCOMPARE(names(), std::set<std::string>({"old.jpg"}));
+    }
+
+    void aHiddenFileOfAnotherSaveIsNotWrittenInto()
+    {
+        fileSystem.noUnnamedFiles = true;
+        const QByteArray other = pathOf(".lumora-" + QByteArray::number(getpid()) + "-0");
+        samples::writeFile(other, "of another save");
+        const int unfinished = ::open(other.constData(), O_RDONLY);
+        QVERIFY(unfinished >= 0 && flock(unfinished, LOCK_EX | LOCK_NB) == 0); // as long as it is being written
+        QVERIFY(saves(pathOf("photo.jpg"), "data"));
+        ::close(unfinished);
+        QCOMPARE(samples::readFile(pathOf("photo.jpg")), QByteArray("data"));
+        QCOMPARE(samples::readFile(other), QByteArray("of another save"));
     }
 
     void noRoomForTheData()
