@@ -298,8 +298,10 @@ private slots:
         QVERIFY(!bar->isVisible());
         desk.click("btnMono");
         watch.steps.clear();
+        watch.places.clear();
         desk.saveAs(desk.folder.filePath("large.jpg"));
         QCOMPARE(watch.steps, QStringList({"Fit", "Mono", "Border", "Encode"}));
+        QCOMPARE(watch.places, QStringList({"0 of 400", "100 of 400", "200 of 400", "300 of 400"}));
         watch.steps.clear();
         desk.click("btnFlatten");
         QCOMPARE(watch.steps, QStringList({"Fit", "Mono", "Border", "Fit", "Border"})); // the photo, then its preview
@@ -332,9 +334,17 @@ private slots:
         watch.closes = true;
         QVERIFY(desk.window.isVisible());
         desk.click("btnMono");
+        const QImage photo = desk.window.getoriginalImage();
+        watch.entered = 0;
         desk.window.flattenImage();
+        QVERIFY(watch.entered > 0 && !watch.closedAtOnce);
+        // The work was done to its end, and only then the window goes.
+        QVERIFY(desk.window.isVisible());
+        QCOMPARE(desk.looks(), std::vector<int>());
+        QCOMPARE(pixelsOf(desk.window.getoriginalImage()),
+            pixelsOf(renderPhoto(
+                photo, {.filter = Filter::mono, .cropFilter = Filter::mono, .borderFilter = Filter::mono})));
         QTRY_VERIFY(!desk.window.isVisible());
-        QVERIFY(!desk.window.getoriginalImage().isNull());
     }
 
 private:
@@ -349,18 +359,23 @@ private:
         }
 
         QStringList steps;
+        QStringList places; ///< of the bar when each of them began
         int entered = 0;
-        bool closes = false;
+        bool closes = false, closedAtOnce = false;
 
         bool eventFilter(QObject*, QEvent* event) override
         {
             if (event->type() != QEvent::Paint)
                 return false;
-            if (steps.isEmpty() || steps.last() != m_bar.format())
+            if (steps.isEmpty() || steps.last() != m_bar.format()) {
                 steps << m_bar.format();
+                places << QStringLiteral("%1 of %2").arg(m_bar.value()).arg(m_bar.maximum());
+            }
             entered++;
-            if (closes)
+            if (closes) {
                 m_window.close();
+                closedAtOnce |= !m_window.isVisible();
+            }
             m_window.pressFilterButton(Filter::helga);
             m_window.rotateImageRight();
             m_window.flattenImage();

@@ -77,6 +77,7 @@ private slots:
         QCOMPARE(fileNameOf("/a/b c.jpg"), QByteArray("b c.jpg"));
         QCOMPARE(fileNameOf("plain"), QByteArray("plain"));
         QCOMPARE(shownName("two\nlines\tand 100%s.jpg"), QString("two lines and 100%s.jpg"));
+        QCOMPARE(shownName("a\u2028b\u2029c\u0085.jpg"), QString("a b c .jpg"));
         QCOMPARE(shownName("\xff.jpg"), QString(QChar(0xfffd)) + ".jpg");
     }
 };

@@ -5,6 +5,7 @@
 #include "tests/app/Desk.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDirIterator>
 #include <QLabel>
 #include <QLineEdit>
@@ -103,6 +104,90 @@ private slots:
     }
 
     void init() { setPreferences({}); }
+
+    void aPhotoCarriesNothingOfTheOneBefore()
+    {
+        Desk desk;
+        const auto write = [&](const char* name, const QByteArray& comment) {
+            const QString path = desk.folder.filePath(name);
+            if (!makePhoto(60, 40).save(path, "JPEG"))
+                qFatal("cannot write %s", name);
+            QByteArray photo = contentsOf(QFile::encodeName(path));
+            if (!comment.isEmpty())
+                photo.insert(2, QByteArray("\xFF\xFE\0", 3) + char(comment.size() + 2) + comment);
+            QFile file(path);
+            if (!file.open(QIODevice::WriteOnly) || file.write(photo) != photo.size())
+                qFatal("cannot write %s", name);
+            return QFile::encodeName(path);
+        };
+        const QByteArray carries = write("carries.jpg", "of the first"), another = write("another.jpg", "of another"),
+                         nothing = write("nothing.jpg", {});
+        const auto savedOf = [&](const QByteArray& photo) {
+            if (!desk.window.loadImageFromFile(photo))
+                qFatal("the photo does not open");
+            desk.click("btnMono");
+            const QString path = desk.folder.filePath("saved.jpg");
+            QFile::remove(path);
+            printedBy([&] { desk.saveAs(path); });
+            return contentsOf(QFile::encodeName(path));
+        };
+        QVERIFY(savedOf(carries).contains("of the first"));
+        const QByteArray second = savedOf(another);
+        QVERIFY(second.contains("of another") && !second.contains("of the first"));
+        const QByteArray third = savedOf(nothing);
+        QVERIFY(third.size() > 100 && !third.contains("of another") && !third.contains("of the first"));
+    }
+
+    void aPhotoThatNoJpegHoldsIsNotSaved()
+    {
+        Desk desk(makePhoto(65600, 1));
+        bool asked = false;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, [&] {
+            if (auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+                asked = true;
+                panel->reject();
+            }
+        });
+        watch.start(0);
+        desk.click("btnSave");
+        watch.stop();
+        QVERIFY(!asked);
+        QCOMPARE(desk.sheet(),
+            QStringList({"The photo cannot be saved.", "A JPEG cannot hold 65600 x 1 pixels. Choose a smaller size."}));
+        QCOMPARE(QDir(desk.folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("photo.png"));
+        QVERIFY(desk.closeSheet());
+        desk.choose("btnImgSize", "1600");
+        printedBy([&] { desk.saveAs(desk.folder.filePath("small.jpg")); });
+        QCOMPARE(decoded(desk.folder.filePath("small.jpg")).size(), QSize(1600, 1));
+    }
+
+    void nothingBeginsWhileTheSavePanelWaits()
+    {
+        Desk desk(makePhoto(60, 40));
+        desk.click("btnMono");
+        const qint64 photo = desk.window.getoriginalImage().cacheKey();
+        desk.withPanel(
+            [&](QFileDialog& panel) {
+                // As a screen reader does, which needs no way past the panel.
+                for (const char* name : {"btnLeft", "btnRight", "btnFlatten", "btnReExpose", "btnSave", "btnLoad"})
+                    desk.find<QAbstractButton>(name)->click();
+                for (const char* name : {"btnHelga", "btnOriginal", "chkMultiFilter", "chkRandomness"})
+                    desk.find<QAbstractButton>(name)->toggle();
+                for (QAction* action : desk.window.findChildren<QAction*>())
+                    if (action->text().startsWith("&Undo") || action->text().startsWith("Rotate"))
+                        action->trigger();
+                QVERIFY(!desk.window.loadImageFromFile(QFile::encodeName(desk.folder.filePath("photo.png"))));
+                QVERIFY(panel.isVisible());
+                panel.reject();
+            },
+            [&] { desk.click("btnSave"); });
+        QCOMPARE(desk.window.getoriginalImage().cacheKey(), photo);
+        QCOMPARE(desk.looks(), (std::vector<int>{5}));
+        QCOMPARE(desk.pressedButtons(), QStringList("Mono"));
+        QVERIFY(!desk.find<QAbstractButton>("chkMultiFilter")->isChecked());
+        QVERIFY(!desk.find<QAbstractButton>("chkRandomness")->isChecked());
+    }
 
     void savingWritesTheFullSizeRender()
     {

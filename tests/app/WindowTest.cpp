@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QSet>
 #include <QUrl>
+#include <cstdlib>
+#include <vector>
 
 using namespace lumora;
 
@@ -45,6 +47,19 @@ private slots:
         Desk desk;
         for (float value : CharImage::random)
             QVERIFY(value >= 0.0f && value < 1.0f);
+    }
+
+    void theTableDoesNotFollowFromWhatCameBefore()
+    {
+        const auto table = [] {
+            return std::vector<float>(std::begin(CharImage::random), std::end(CharImage::random));
+        };
+        std::srand(5);
+        CharImage::renewRandomNumbers();
+        const std::vector<float> withoutASeed = table();
+        std::srand(5);
+        const MainWindowController window;
+        QVERIFY(table() != withoutASeed);
     }
 
     void theTenLookButtonsStandInTheirOrder()
