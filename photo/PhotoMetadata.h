@@ -14,6 +14,9 @@ struct PhotoMetadata {
     bool operator==(const PhotoMetadata&) const = default;
 };
 
+/// The most bytes of such a block that is kept.
+inline constexpr qint64 longestBlock = 4'000'000;
+
 /// How much of it goes into a saved file.
 enum class Kept {
     Everything,

@@ -16,7 +16,6 @@ namespace {
 constexpr int headerSize = 26;
 constexpr qint64 paletteSize = 768;
 constexpr qint64 largestProfile = 64 << 20; ///< bytes; those in use have a few millions
-constexpr qint64 largestBlock = 4'000'000; ///< of metadata; larger ones are not kept
 
 enum Mode { bitmap = 0, grey = 1, indexed = 2, rgb = 3, cmyk = 4, duotone = 8, lab = 9 };
 
@@ -96,11 +95,11 @@ void readResources(QIODevice& device, qint64 end, Sections& sections)
         if (id == iccProfile)
             take(sections.profile, size, largestProfile);
         else if (id == exif)
-            take(sections.metadata.exif, size, largestBlock);
+            take(sections.metadata.exif, size, longestBlock);
         else if (id == xmp)
-            take(sections.metadata.xmp, size, largestBlock);
+            take(sections.metadata.xmp, size, longestBlock);
         else if (id == iptc)
-            take(sections.metadata.iptc, size, largestBlock);
+            take(sections.metadata.iptc, size, longestBlock);
         device.seek(next);
     }
 }

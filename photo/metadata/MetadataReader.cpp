@@ -7,12 +7,12 @@
 #include <QBuffer>
 #include <QIODevice>
 #include <QtEndian>
+#include <algorithm>
 #include <exception>
 #include <exiv2/exiv2.hpp>
 
 namespace {
 
-constexpr qint64 longestBlock = 4'000'000; ///< bytes; longer ones are not kept
 constexpr int mostChunks = 100'000;
 
 const Exiv2::byte* bytesOf(const QByteArray& data)
@@ -90,6 +90,20 @@ QByteArray withoutPicture(QIODevice& device, PhotoMetadata& metadata)
     return file;
 }
 
+/// The entries as a block. Written anew, a maker's note would not stand where it was, and is left out.
+QByteArray writtenAnew(Exiv2::ExifData& entries)
+{
+    for (auto entry = entries.begin(); entry != entries.end();)
+        entry = entry->key() == "Exif.Photo.MakerNote" || Exiv2::ExifTags::isMakerGroup(entry->groupName())
+            ? entries.erase(entry)
+            : std::next(entry);
+    if (entries.empty())
+        return {};
+    Exiv2::Blob blob;
+    Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, entries);
+    return exifBlock(QByteArray(reinterpret_cast<const char*>(blob.data()), qsizetype(blob.size())));
+}
+
 PhotoMetadata ofPng(QIODevice& device)
 {
     PhotoMetadata metadata;
@@ -101,27 +115,26 @@ PhotoMetadata ofPng(QIODevice& device)
         metadata.comment = QByteArray::fromStdString(image->comment());
     const Exiv2::DataBuf iptc = Exiv2::IptcParser::encode(image->iptcData());
     metadata.iptc = QByteArray(reinterpret_cast<const char*>(iptc.pData_), qsizetype(iptc.size_));
-    if (metadata.exif.isEmpty() && !image->exifData().empty()) {
-        // Written anew, a maker's note would not stand where it was.
-        Exiv2::ExifData& entries = image->exifData();
-        for (auto entry = entries.begin(); entry != entries.end();)
-            entry = entry->key() == "Exif.Photo.MakerNote" || Exiv2::ExifTags::isMakerGroup(entry->groupName())
-                ? entries.erase(entry)
-                : std::next(entry);
-        Exiv2::Blob blob;
-        Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, entries);
-        metadata.exif = exifBlock(QByteArray(reinterpret_cast<const char*>(blob.data()), qsizetype(blob.size())));
-    }
+    if (metadata.exif.isEmpty())
+        metadata.exif = writtenAnew(image->exifData());
     return metadata;
+}
+
+/// The block of a file that stores a picture as a TIFF does, without what tells how: the size, which in a JPEG another
+/// place tells, and how a sensor's pixels lie and are developed.
+QByteArray withoutStorage(ExifBlock block)
+{
+    constexpr quint16 tags[] = {0x0100, 0x0101, 0x828D, 0x828E}, firstOfDng = 0xC612, lastOfDng = 0xCDFF;
+    std::erase_if(block.image, [&](const ExifEntry& entry) {
+        return std::ranges::count(tags, entry.tag) > 0 || (entry.tag >= firstOfDng && entry.tag <= lastOfDng);
+    });
+    return toBytes(block);
 }
 
 PhotoMetadata ofTiff(QIODevice& device)
 {
     PhotoMetadata metadata;
-    ExifBlock block = readExifBlock(device);
-    for (const quint16 size : {0x0100, 0x0101}) // of the picture as it is stored, which in a JPEG another place tells
-        ExifBlock::remove(block.image, size);
-    metadata.exif = toBytes(block);
+    metadata.exif = withoutStorage(readExifBlock(device));
     metadata.xmp = blockOfTiff(device, 0x02BC, longestBlock);
     metadata.iptc = blockOfTiff(device, 0x83BB, longestBlock);
     if (metadata.iptc.isEmpty())
@@ -144,6 +157,21 @@ PhotoMetadata readMetadata(QIODevice& device, const JpegMarkers& markers)
         if (start.startsWith("RIFF") && start.endsWith("WEBP"))
             return ofWebP(device);
         return ofTiff(device);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+PhotoMetadata metadataByLibrary(const QByteArray& file)
+{
+    try {
+        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        const auto image = Exiv2::ImageFactory::open(bytesOf(file), long(file.size()));
+        image->readMetadata();
+        QByteArray block = writtenAnew(image->exifData());
+        QBuffer buffer(&block);
+        buffer.open(QIODevice::ReadOnly);
+        return {withoutStorage(readExifBlock(buffer)), QByteArray::fromStdString(image->xmpPacket())};
     } catch (const std::exception&) {
         return {};
     }

@@ -1,7 +1,12 @@
+#include "photo/JpegMarkers.h"
 #include "photo/PhotoLoader.h"
 #include "photo/PhotoSaver.h"
+#include "photo/formats/ExifItem.h"
+#include "photo/metadata/MetadataReader.h"
+#include "tests/photo/PhoneSamples.h"
 #include "tests/photo/Samples.h"
 
+#include <QBuffer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <exiv2/exiv2.hpp>
@@ -67,7 +72,8 @@ const std::pair<const char*, const char*> places[] = {
 
 bool canHold(const QByteArray& format, const std::string& key)
 {
-    return format != "webp" || !key.starts_with("Iptc.");
+    const bool hasResources = format == "jpeg" || format == "png" || format == "tiff" || format == "psd";
+    return hasResources || !key.starts_with("Iptc.");
 }
 
 void set(Image& image, const std::string& key, const std::string& text)
@@ -80,8 +86,8 @@ void set(Image& image, const std::string& key, const std::string& text)
         image->iptcData()[key] = text;
 }
 
-/// A photo's file of that format that carries all of the values and the places.
-QByteArray richFile(const QByteArray& format)
+/// A photo's file of that format, which the library writes, that carries all of the values and the places.
+QByteArray fileByLibrary(const QByteArray& format)
 {
     const QImage picture = samples::quarters(64, 48);
     Image image = opened(format == "psd" ? samples::psd(picture, {}) : samples::encoded(picture, format.constData()));
@@ -94,6 +100,21 @@ QByteArray richFile(const QByteArray& format)
     image->xmpData()["Xmp.tiff.ImageWidth"] = "9999";
     image->xmpData()["Xmp.exif.PixelYDimension"] = "9999";
     return written(image);
+}
+
+/// The same of any format.
+QByteArray richFile(const QByteArray& format)
+{
+    const bool isHeic = format == "heic", isAvif = format == "avif", isJxl = format.startsWith("jxl");
+    if (!isHeic && !isAvif && !isJxl)
+        return fileByLibrary(format);
+    const QTemporaryDir folder;
+    const PhotoMetadata carried = samples::loaded(folder, fileByLibrary("jpeg")).metadata;
+    const QImage picture = samples::quarters(64, 48);
+    if (isJxl)
+        return samples::jxl(
+            picture, 1, format == "jxl" ? samples::JxlKind::Lossless : samples::JxlKind::Lossy, carried);
+    return samples::heif(picture, isHeic ? samples::HeifKind::Hevc : samples::HeifKind::Av1, 1, carried);
 }
 
 QByteArray withNote(std::size_t size = 0)
@@ -133,12 +154,29 @@ class MetadataTest : public QObject {
     static void formats()
     {
         QTest::addColumn<QByteArray>("format");
-        for (const char* format : {"jpeg", "png", "webp", "tiff", "psd"})
+        for (const char* format : {
+                 "jpeg",
+                 "png",
+                 "webp",
+                 "tiff",
+                 "psd",
+#ifdef LUMORA_HEIF
+                 "heic",
+                 "avif",
+#endif
+#ifdef LUMORA_JXL
+                 "jxl",
+                 "jxl, packed",
+#endif
+             })
             QTest::newRow(format) << QByteArray(format);
     }
 
 private slots:
-    void everythingIsKept_data() { formats(); }
+    void everythingIsKept_data()
+    {
+        formats();
+    }
     void everythingIsKept()
     {
         QFETCH(QByteArray, format);
@@ -149,7 +187,10 @@ private slots:
             QCOMPARE(value(image, key), canHold(format, key) ? text : std::string("none"));
     }
 
-    void whatNoLongerHoldsIsChanged_data() { formats(); }
+    void whatNoLongerHoldsIsChanged_data()
+    {
+        formats();
+    }
     void whatNoLongerHoldsIsChanged()
     {
         QFETCH(QByteArray, format);
@@ -163,7 +204,10 @@ private slots:
             QCOMPARE(value(image, key), std::string(text));
     }
 
-    void placeMayStayAway_data() { formats(); }
+    void placeMayStayAway_data()
+    {
+        formats();
+    }
     void placeMayStayAway()
     {
         QFETCH(QByteArray, format);
@@ -177,7 +221,10 @@ private slots:
             QVERIFY(!file.contains(word));
     }
 
-    void nothingMayBeKept_data() { formats(); }
+    void nothingMayBeKept_data()
+    {
+        formats();
+    }
     void nothingMayBeKept()
     {
         QFETCH(QByteArray, format);
@@ -217,6 +264,41 @@ private slots:
         QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
         QCOMPARE(value(image, "Exif.Canon.SerialNumber"), std::string("123456"));
         QCOMPARE(image->comment(), std::string("said"));
+    }
+
+    void anItemTellsWhereItsBlockBegins()
+    {
+        const auto item = [](quint32 begin, const QByteArray& rest) { return samples::bigEndian(begin) + rest; };
+        QCOMPARE(exifOfItem(item(0, "II*")), QByteArray("II*"));
+        QCOMPARE(exifOfItem(item(2, "xxII*")), QByteArray("II*"));
+        QCOMPARE(exifOfItem(item(6, QByteArray("Exif\0\0II*", 9))), QByteArray("II*"));
+        QCOMPARE(exifOfItem(item(0, QByteArray("Exif\0\0II*", 9))), QByteArray("II*"));
+        for (const QByteArray& broken : {QByteArray(), QByteArray("\0\0\0", 3), item(3, "II*"), item(~0u, "II*")})
+            QCOMPARE(exifOfItem(broken), QByteArray());
+    }
+
+    void rawPhotosKeepWhatTheyCarry_data()
+    {
+        QTest::addColumn<QByteArray>("magic");
+        QTest::newRow("a TIFF") << QByteArray("II*\0", 4);
+        QTest::newRow("another kind") << QByteArray("IIRO");
+    }
+    void rawPhotosKeepWhatTheyCarry()
+    {
+        QFETCH(QByteArray, magic);
+        QByteArray file = samples::dng(QSize(96, 64), {0.2, 0.4, 0.2}, {1, 1, 1}, 6).replace(0, 4, magic);
+        QBuffer device(&file);
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        const PhotoMetadata metadata = magic == "IIRO" ? metadataByLibrary(file) : readMetadata(device, {});
+        const Image image = opened(encodeJpeg(samples::noise(30, 20), metadata));
+        for (const auto& [key, text] : {std::pair("Exif.Image.Make", "Prism"), std::pair("Exif.Image.Model", "Model 7"),
+                 std::pair("Exif.Image.Orientation", "1"), std::pair("Exif.Image.ImageWidth", "none"),
+                 std::pair("Exif.Image.CFAPattern", "none"), std::pair("Exif.Image.ColorMatrix1", "none")})
+            QCOMPARE(key + value(image, key), key + std::string(text));
+#ifdef LUMORA_RAW
+        if (magic != "IIRO")
+            QCOMPARE(samples::loaded(m_folder, file).metadata, metadata);
+#endif
     }
 
     void notesStayWhereTheyWere()
@@ -305,7 +387,10 @@ private slots:
         QVERIFY(value(result, "Exif.Photo.UserComment").size() > 40000 - 10);
     }
 
-    void brokenFilesNeverPreventSaving_data() { formats(); }
+    void brokenFilesNeverPreventSaving_data()
+    {
+        formats();
+    }
     void brokenFilesNeverPreventSaving()
     {
         QFETCH(QByteArray, format);

@@ -32,15 +32,6 @@ QImage stored(const QImage& upright, int orientation)
     }
 }
 
-/// The EXIF block of a photo in that orientation.
-QByteArray exifBlock(int orientation, bool bigEndian)
-{
-    const QByteArray file =
-        samples::withCameraExif(samples::encoded(samples::flat(8, 8, Qt::red), "jpeg"), orientation, bigEndian);
-    const qsizetype at = file.indexOf(QByteArray("Exif\0\0", 6));
-    return file.mid(at + 6, qFromBigEndian<quint16>(file.constData() + at - 2) - 8);
-}
-
 QByteArray littleEndian(qsizetype value, int bytes)
 {
     QByteArray number(bytes, 0);
@@ -64,7 +55,7 @@ QByteArray webpWithExif(const QImage& picture, const QByteArray& exif)
 /// A file of that format.
 QByteArray fileWithExif(const QByteArray& format, const QImage& picture, int orientation, bool bigEndian)
 {
-    const QByteArray exif = exifBlock(orientation, bigEndian);
+    const QByteArray exif = samples::cameraExif(orientation, bigEndian);
     if (format == "jpeg")
         return samples::withCameraExif(samples::encoded(picture, "jpeg"), orientation, bigEndian);
     if (format == "psd")

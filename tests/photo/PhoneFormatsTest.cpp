@@ -29,10 +29,10 @@ void eachKind()
 }
 
 /// A file of the kind with that picture; `kind`: 0 HEIC, 1 AVIF, 2 JPEG XL.
-QByteArray encoded(int kind, const QImage& picture, int orientation = 1)
+QByteArray encoded(int kind, const QImage& picture, int orientation = 1, const PhotoMetadata& carried = {})
 {
-    return kind == 2 ? samples::jxl(picture, orientation)
-                     : samples::heif(picture, samples::HeifKind(kind), orientation);
+    return kind == 2 ? samples::jxl(picture, orientation, samples::JxlKind::Lossless, carried)
+                     : samples::heif(picture, samples::HeifKind(kind), orientation, carried);
 }
 
 } // namespace
@@ -70,7 +70,10 @@ private slots:
         const QImage upright = samples::quarters(96, 64);
         const int turns = orientation == 3 ? 180 : orientation == 6 ? -90 : orientation == 8 ? 90 : 0;
         const QImage stored = upright.transformed(QTransform().rotate(turns));
-        const LoadedPhoto photo = open(encoded(kind, stored, orientation));
+        // What the file carries says the same, and does not turn the picture once more.
+        const PhotoMetadata carried = {samples::cameraExif(orientation), "<x/>"};
+        const LoadedPhoto photo = open(encoded(kind, stored, orientation, carried));
+        QVERIFY(!photo.metadata.exif.isEmpty());
         QCOMPARE(photo.reason, QString());
         QVERIFY(samples::showsQuarters(photo.image, upright.size()));
         if (kind == 2)

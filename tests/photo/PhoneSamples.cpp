@@ -58,7 +58,7 @@ heif_image* heifImage(const QImage& picture)
 
 } // namespace
 
-QByteArray heif(const QImage& stored, HeifKind kind, int orientation)
+QByteArray heif(const QImage& stored, HeifKind kind, int orientation, const PhotoMetadata& carried)
 {
     heif_context* context = heif_context_alloc();
     heif_encoder* encoder = nullptr;
@@ -68,7 +68,13 @@ QByteArray heif(const QImage& stored, HeifKind kind, int orientation)
     heif_encoding_options* options = heif_encoding_options_alloc();
     options->image_orientation = heif_orientation(orientation);
     heif_image* image = heifImage(stored);
-    check(heif_context_encode_image(context, image, encoder, options, nullptr));
+    heif_image_handle* handle = nullptr;
+    check(heif_context_encode_image(context, image, encoder, options, &handle));
+    if (!carried.exif.isEmpty())
+        check(heif_context_add_exif_metadata(context, handle, carried.exif.constData(), int(carried.exif.size())));
+    if (!carried.xmp.isEmpty())
+        check(heif_context_add_XMP_metadata(context, handle, carried.xmp.constData(), int(carried.xmp.size())));
+    heif_image_handle_release(handle);
     QByteArray file;
     heif_writer writer = {1, append};
     check(heif_context_write(context, &writer, &file));
@@ -79,19 +85,21 @@ QByteArray heif(const QImage& stored, HeifKind kind, int orientation)
     return file;
 }
 #else
-QByteArray heif(const QImage&, HeifKind, int)
+QByteArray heif(const QImage&, HeifKind, int, const PhotoMetadata&)
 {
     return {};
 }
 #endif
 
 #ifdef LUMORA_JXL
-QByteArray jxl(const QImage& stored, int orientation, JxlKind kind)
+QByteArray jxl(const QImage& stored, int orientation, JxlKind kind, const PhotoMetadata& carried)
 {
     const bool isLossless = kind == JxlKind::Lossless;
     const bool hasAlpha = stored.hasAlphaChannel();
     const QImage picture = stored.convertToFormat(QImage::Format_RGBA8888);
     JxlEncoder* encoder = JxlEncoderCreate(nullptr);
+    if (carried != PhotoMetadata())
+        JxlEncoderUseBoxes(encoder);
     JxlBasicInfo info;
     JxlEncoderInitBasicInfo(&info);
     info.xsize = std::uint32_t(picture.width());
@@ -119,8 +127,18 @@ QByteArray jxl(const QImage& stored, int orientation, JxlKind kind)
     const JxlPixelFormat format = {hasAlpha ? 4u : 3u, JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0};
     if (JxlEncoderAddImageFrame(settings, &format, pixels.constData(), std::size_t(pixels.size())) != JXL_ENC_SUCCESS)
         qFatal("cannot encode");
+    const auto addBox = [&](const char* name, const QByteArray& content) {
+        if (JxlEncoderAddBox(encoder, name, reinterpret_cast<const std::uint8_t*>(content.constData()),
+                std::size_t(content.size()), !isLossless)
+            != JXL_ENC_SUCCESS)
+            qFatal("cannot add a box");
+    };
+    if (carried != PhotoMetadata()) {
+        addBox("Exif", QByteArray(4, '\0') + carried.exif);
+        addBox("xml ", carried.xmp);
+    }
     JxlEncoderCloseInput(encoder);
-    QByteArray file(pixels.size() * 2 + 10000, '\0');
+    QByteArray file(pixels.size() * 2 + carried.exif.size() + carried.xmp.size() + 10000, '\0');
     auto* next = reinterpret_cast<std::uint8_t*>(file.data());
     auto left = std::size_t(file.size());
     if (JxlEncoderProcessOutput(encoder, &next, &left) != JXL_ENC_SUCCESS)
@@ -129,7 +147,7 @@ QByteArray jxl(const QImage& stored, int orientation, JxlKind kind)
     return file.chopped(qsizetype(left));
 }
 #else
-QByteArray jxl(const QImage&, int, JxlKind)
+QByteArray jxl(const QImage&, int, JxlKind, const PhotoMetadata&)
 {
     return {};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "photo/PhotoMetadata.h"
+
 #include <QImage>
 
 /// Files as phones and cameras write them, made by the libraries themselves. Empty where this program is built without
@@ -7,11 +9,14 @@
 namespace samples {
 
 enum class HeifKind { Hevc, Av1 };
-/// `orientation`: as in EXIF, how a viewer turns the stored picture. The picture's colour profile is kept.
-QByteArray heif(const QImage& stored, HeifKind kind, int orientation = 1);
+/// `orientation`: as in EXIF, how a viewer turns the stored picture. The picture's colour profile is kept, and
+/// so are the EXIF and the XMP.
+QByteArray heif(const QImage& stored, HeifKind kind, int orientation = 1, const PhotoMetadata& carried = {});
 
 enum class JxlKind { Lossless, Lossy };
-QByteArray jxl(const QImage& stored, int orientation = 1, JxlKind kind = JxlKind::Lossless);
+/// A lossy file packs what it carries.
+QByteArray jxl(
+    const QImage& stored, int orientation = 1, JxlKind kind = JxlKind::Lossless, const PhotoMetadata& carried = {});
 
 /// A DNG file: a sensor of red, green, green and blue pixels with 16 bits that saw the channels of that picture.
 /// `neutral`: what they say of a grey that is as bright as can be, on 0 .. 1.

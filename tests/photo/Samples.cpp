@@ -140,6 +140,13 @@ QByteArray withCameraExif(const QByteArray& jpegFile, int orientation, bool bigE
     return QByteArray(reinterpret_cast<const char*>(io.mmap()), qsizetype(io.size()));
 }
 
+QByteArray cameraExif(int orientation, bool bigEndian)
+{
+    const QByteArray file = withCameraExif(encoded(flat(8, 8, Qt::red), "jpeg"), orientation, bigEndian);
+    const qsizetype at = file.indexOf(QByteArray("Exif\0\0", 6));
+    return file.mid(at + 6, qFromBigEndian<quint16>(file.constData() + at - 2) - 8);
+}
+
 QByteArray psd(const QImage& picture, const QByteArray& exif)
 {
     const auto sized = [](const QByteArray& block) { return bigEndian(quint32(block.size())) + block; };

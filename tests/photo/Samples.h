@@ -30,6 +30,9 @@ QByteArray jpeg(JpegKind kind, int width, int height, const QByteArray& pixels, 
 /// A JPEG file with EXIF of a camera: make, date, copyright, place, pixel size, the orientation and a thumbnail.
 QByteArray withCameraExif(const QByteArray& jpegFile, int orientation, bool bigEndian = false);
 
+/// The block alone.
+QByteArray cameraExif(int orientation, bool bigEndian = false);
+
 template <class T> QByteArray bigEndian(T value)
 {
     QByteArray bytes(sizeof(T), 0);

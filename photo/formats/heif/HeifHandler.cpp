@@ -1,5 +1,6 @@
 #include "photo/formats/heif/HeifHandler.h"
 
+#include "photo/formats/ExifItem.h"
 #include "photo/formats/heif/Av1Decoder.h"
 #include "photo/formats/heif/HevcDecoder.h"
 #include "photo/formats/heif/ItemReferences.h"
@@ -156,4 +157,27 @@ bool HeifHandler::read(QImage* image)
     picture.setColorSpace(coloursOf(m_picture.get()));
     *image = picture;
     return true;
+}
+
+PhotoMetadata HeifHandler::metadata() const
+{
+    PhotoMetadata found;
+    heif_item_id items[16];
+    const int count =
+        open() ? heif_image_handle_get_list_of_metadata_block_IDs(m_picture.get(), nullptr, items, 16) : 0;
+    for (int i = 0; i < count; i++) {
+        const std::size_t size = heif_image_handle_get_metadata_size(m_picture.get(), items[i]);
+        if (size > std::size_t(longestBlock))
+            continue;
+        QByteArray block(qsizetype(size), '\0');
+        if (heif_image_handle_get_metadata(m_picture.get(), items[i], block.data()).code != heif_error_Ok)
+            continue;
+        const QByteArray type = heif_image_handle_get_metadata_type(m_picture.get(), items[i]);
+        const QByteArray content = heif_image_handle_get_metadata_content_type(m_picture.get(), items[i]);
+        if (type == "Exif")
+            found.exif = exifOfItem(block);
+        else if (type == "mime" && content == "application/rdf+xml")
+            found.xmp = block;
+    }
+    return found;
 }

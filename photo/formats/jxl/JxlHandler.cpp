@@ -1,5 +1,7 @@
 #include "photo/formats/jxl/JxlHandler.h"
 
+#include "photo/formats/ExifItem.h"
+
 #include <QColorSpace>
 #include <QImage>
 #include <QVariant>
@@ -130,4 +132,31 @@ bool JxlHandler::read(QImage* image)
         return false;
     *image = picture;
     return true;
+}
+
+PhotoMetadata JxlHandler::metadata() const
+{
+    PhotoMetadata found;
+    const Decoder decoder = decoderOf(bytes(), JXL_DEC_BOX);
+    if (!decoder || JxlDecoderSetDecompressBoxes(decoder.get(), JXL_TRUE) != JXL_DEC_SUCCESS)
+        return found;
+    QByteArray content, *wanted = nullptr; // of the box in which the decoder is
+    for (;;) {
+        const JxlDecoderStatus status = JxlDecoderProcessInput(decoder.get());
+        const bool isWhole = status == JXL_DEC_BOX || status == JXL_DEC_SUCCESS; // not if it is too long, or broken
+        const auto unused = qsizetype(JxlDecoderReleaseBoxBuffer(decoder.get()));
+        if (wanted && isWhole)
+            *wanted = wanted == &found.exif ? exifOfItem(content.chopped(unused)) : content.chopped(unused);
+        if (status != JXL_DEC_BOX)
+            return found;
+        JxlBoxType type;
+        const bool isNamed = JxlDecoderGetBoxType(decoder.get(), type, JXL_TRUE) == JXL_DEC_SUCCESS;
+        const QByteArray name = isNamed ? QByteArray(type, sizeof type) : QByteArray();
+        wanted = name == "Exif" ? &found.exif : name == "xml " ? &found.xmp : nullptr;
+        if (!wanted)
+            continue;
+        content = QByteArray(longestBlock, '\0');
+        JxlDecoderSetBoxBuffer(
+            decoder.get(), reinterpret_cast<std::uint8_t*>(content.data()), std::size_t(content.size()));
+    }
 }

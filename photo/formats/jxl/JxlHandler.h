@@ -10,6 +10,7 @@ public:
     bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
     QVariant option(ImageOption option) const override;
     bool isUpright() const override { return true; }
+    PhotoMetadata metadata() const override;
 
 private:
     QByteArray bytes() const;

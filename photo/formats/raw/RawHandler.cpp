@@ -1,5 +1,8 @@
 #include "photo/formats/raw/RawHandler.h"
 
+#include "photo/formats/TiffDirectories.h"
+#include "photo/metadata/MetadataReader.h"
+
 #include <QImage>
 #include <QVariant>
 #include <cstring>
@@ -77,4 +80,9 @@ bool RawHandler::read(QImage* image)
     const std::unique_ptr<libraw_processed_image_t, FreeDeveloped> picture(raw->dcraw_make_mem_image());
     *image = picture ? imageOf(*picture) : QImage();
     return !image->isNull();
+}
+
+PhotoMetadata RawHandler::metadata() const
+{
+    return isTiff(m_bytes) ? PhotoMetadata() : metadataByLibrary(m_bytes);
 }

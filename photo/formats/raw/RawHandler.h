@@ -18,6 +18,7 @@ public:
     bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
     QVariant option(ImageOption option) const override;
     bool isUpright() const override { return true; }
+    PhotoMetadata metadata() const override;
 
 private:
     /// The file as the library has it before it decodes anything; null where it is none of its kinds.
