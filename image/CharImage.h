@@ -43,23 +43,24 @@ public:
     /// Refills `random` by exactly 100 draws from `rand()`, in order.
     static void renewRandomNumbers();
 
-    // ---- Filter catalogue: looks, lists, crop and border styles share one number space ----
-    static GrowArray<int> customFilterFiltersA; ///< what filter 11 applies
-    static GrowArray<int> customFilterFiltersB; ///< what filter 12 applies
-    static GrowArray<int> customFilterFiltersC; ///< what filter 13 applies
-    /// 15, the numbers of the main catalogue.
+    // ---- Filter catalogue: looks, lists, crops and borders share the numbers of FilterNumber.h ----
+    static GrowArray<int> customFilterFiltersA; ///< what Filter::customA applies
+    static GrowArray<int> customFilterFiltersB; ///< what Filter::customB applies
+    static GrowArray<int> customFilterFiltersC; ///< what Filter::customC applies
+    /// How many numbers the main catalogue has: 15, the last of which is Filter::original. The numbers beyond it are
+    /// later looks, crops and borders.
     static int getFilterCount();
-    /// The name of a filter number, a constant; "Filter" for 15 and for a number outside the catalogue.
+    /// The name of a filter number, a constant; that of Filter::unnamed, "Filter", for a number outside the catalogue.
     static const char* getFilterName(int filter);
-    /// The lowest number of that exact name, 14 ("Original") for a name that is not in the catalogue.
+    /// The lowest number of that exact name; Filter::original for a name that is not in the catalogue.
     static int getFilterFromName(const char* name);
     /// The numbers of all looks in the order of the catalogue: no list, crop, border or test.
     static GrowArray<int> getLooks();
-    /// Replaces a custom list. Entries 11, 12 and 13 are left out, so that a list never contains a list.
+    /// Replaces a custom list. The numbers of the custom lists are left out, so that a list never contains a list.
     static void setCustomFilterA(const GrowArray<int>& filters);
     static void setCustomFilterB(const GrowArray<int>& filters);
     static void setCustomFilterC(const GrowArray<int>& filters);
-    /// The custom list of 11, 12 or 13; null for every other number.
+    /// The list behind the number of a custom list; null for every other number.
     static const GrowArray<int>* customFilters(int filter);
     /// Applies one filter number. A number without an effect prints "applying original filter".
     void applyFilter(int filter);

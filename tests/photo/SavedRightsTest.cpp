@@ -102,7 +102,7 @@ private slots:
         QFETCH(mode_t, before);
         QFETCH(mode_t, after);
         samples::writeFile(pathOf("old.jpg"), "old");
-        const bool isOwn = geteuid() != 0; // then the file is one's own, and stays as it is
+        const bool isOwn = geteuid() != 0; // only the superuser can give the file to somebody else
         QVERIFY(isOwn || chown(pathOf("old.jpg").constData(), 1, group) == 0);
         QVERIFY(chmod(pathOf("old.jpg").constData(), before) == 0);
         QCOMPARE(resultInChild([&] { return saves(pathOf("old.jpg"), "new") ? 0 : 1; }), 0);
@@ -116,7 +116,7 @@ private slots:
 
     void groupThatCannotBeKeptWidensNothing()
     {
-        // Whom the group was to be kept out is one of everybody now.
+        // A member of the former group, which could do less than everybody, now counts as everybody.
         samples::writeFile(pathOf("old.jpg"), "old");
         const bool isOwn = geteuid() != 0;
         QVERIFY(isOwn || chown(pathOf("old.jpg").constData(), 1, 1) == 0);

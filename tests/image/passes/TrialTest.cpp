@@ -26,7 +26,8 @@ Inputs bytes(float heaviest)
     return {all, all, all, {0.0, heaviest}};
 }
 
-/// Holds what errorOf promises for a recipe to its evaluations of many colours, and to a promise that is of any use.
+/// Evaluates a recipe for many colours, exactly and in Single, and checks that the two are nowhere further apart than
+/// errorOf says, and that what it says is small enough to be of use.
 template <class... Step> void expectErrorHolds(const Steps<Step...>& steps)
 {
     const float heaviest = 0.75f;
@@ -144,7 +145,7 @@ TEST(Trial, LeavesTheUnclearHuesToTheExactRecipe)
 
 TEST(Trial, GivesUpWhereABoundIsOutOfReach)
 {
-    // Bytes only may be compared, or weighed by their whole luminance.
+    // A trial may compare values, or take their luminance as bytes, only while they are still whole bytes.
     const auto compared = [](auto c) {
         const auto level = luminance(c);
         return eachChannel(c, [=](auto v) { return select(level < 128.0f, v, v * 2.0f); });
@@ -154,7 +155,7 @@ TEST(Trial, GivesUpWhereABoundIsOutOfReach)
                           [](auto c) { return eachChannel(c, [level = byteLuminance(c)](auto) { return level; }); }),
                   bytes(1.0f)),
         infinite);
-    // A root steepens without end towards 0, and parts of 1 no longer fit an int.
+    // A square root is infinitely steep at 0; and values so large that their parts do not fit an int.
     EXPECT_EQ(errorOf(Steps([](auto c) { return eachChannel(c, [](auto v) { return sesquiPower(v - 1.0f); }); }),
                   bytes(1.0f)),
         infinite);
@@ -164,17 +165,17 @@ TEST(Trial, GivesUpWhereABoundIsOutOfReach)
 
 TEST(Trial, GivesTheBytesOfTheExactRecipe)
 {
-    // Every tenth value of this is a whole number, or would be without its rounding.
+    // Every tenth value of this recipe is a whole number, or would be one if nothing were rounded.
     expectPassIsExact(Steps(tenths));
-    // A third is never one, and 255 times it is.
+    // A third of a byte is rarely a whole number; three times that third nearly always is one.
     expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return rounded(v * (1.0 / 3.0)); }); },
         [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 2.9999999); }); }));
-    // Far out on both sides.
+    // Results far below 0 and far beyond 255.
     expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 9.7); }); }));
     // Behind levels, ordinary ones and those of a flat picture.
     expectPassIsExact(Steps(tenths), Levels{12.0f, 1.7f, 5.0f, 5.0f, 255.0f});
     expectPassIsExact(Steps(tenths), Levels{12.0f, static_cast<float>(infinite), 5.0f, 5.0f, 255.0f});
-    // Too inexact for a trial.
+    // A recipe whose error bound is too large for a trial.
     expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 4000.3); }); },
         [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 0.0003); }); }));
 }
@@ -193,7 +194,7 @@ TEST(Trial, VisitsThePixelsOnWhichItDoesNotDecide)
     EXPECT_EQ(visited, some);
     for (unsigned char& mark : marked)
         mark = 1;
-    // Of a block that is part filled, its own pixels only.
+    // In a block that is only partly filled, the pixels that it has and no others.
     for (int count : {1, 7, 63, 64, 65, 200, blockPixels}) {
         visited.clear();
         forEachMarked(marked, count, note);
@@ -228,7 +229,7 @@ TEST(Trial, DecidesWithTheWeightsOfItsPixels)
     for (const bool keepsPixels : {false, true}) {
         CharImage image(new unsigned char[width * height * 4], width, height);
         std::fill_n(image.data, width * height * 4, static_cast<unsigned char>(100));
-        // Whole numbers: every pixel is in doubt. The last columns on the left have none but 0.
+        // The results are whole numbers, so that the trial is in doubt about every pixel.
         const auto weightAt = [](int across, int down) {
             return across < 150 ? float(across % 7 + 10 * (down % 3)) : 0;
         };
@@ -249,7 +250,7 @@ TEST(Trial, DecidesWithTheWeightsOfItsPixels)
 
 TEST(Trial, PassesOverBlocksWhoseWeightsAllKeepTheirPixels)
 {
-    // A recipe that does not keep them shows which blocks are visited.
+    // The recipe changes every pixel that it is given, which shows the blocks that were visited.
     constexpr int width = 2 * blockPixels + 5;
     for (const bool keepsPixels : {false, true}) {
         CharImage image(new unsigned char[width * 4](), width, 1);
