@@ -4,6 +4,7 @@
 #include "image/passes/Block.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace lumora {
@@ -32,7 +33,7 @@ public:
     void repeatEnds()
     {
         std::fill_n(columns() - m_margin, m_margin, columns()[0]);
-        std::fill_n(columns() + m_width, m_margin, columns()[m_width - 1]);
+        std::fill_n(columns() + m_width, m_margin, columns()[std::ptrdiff_t(m_width) - 1]);
     }
 
 private:
