@@ -122,7 +122,8 @@ private slots:
     {
         Desk desk;
         const QSize least = desk.window.minimumSizeHint();
-        QVERIFY2(least.width() <= 900 && least.height() <= 480, QTest::toString(least));
+        QVERIFY2(least.width() <= 900 && least.height() <= 480,
+            qPrintable(QStringLiteral("%1 x %2").arg(least.width()).arg(least.height())));
         desk.window.resize(100, 100);
         QTRY_COMPARE(desk.window.size(), least);
         QCOMPARE(whatIsClipped(desk), QString());
