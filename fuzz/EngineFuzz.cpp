@@ -1,5 +1,5 @@
 // The engine on any pixels, sizes, filters and parameters:
-// build/fuzz/fuzz/EngineFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/EngineFuzz
+// build/asan/fuzz/EngineFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/EngineFuzz
 
 #include "image/CharImage.h"
 #include "image/FilterNumber.h"

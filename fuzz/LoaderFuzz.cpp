@@ -1,5 +1,5 @@
-// The loader on a file of any bytes: build/fuzz/fuzz/LoaderFuzz -max_total_time=600 FOLDER
-// build/fuzz/fuzz/seeds/LoaderFuzz
+// The loader on a file of any bytes: build/asan/fuzz/LoaderFuzz -max_total_time=600 FOLDER
+// build/asan/fuzz/seeds/LoaderFuzz
 
 #include "photo/PhotoLoader.h"
 #include "photo/PhotoSaver.h"

@@ -1,5 +1,5 @@
 // The preference reader on a store of any bytes:
-// build/fuzz/fuzz/PreferencesFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/PreferencesFuzz
+// build/asan/fuzz/PreferencesFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/PreferencesFuzz
 
 #include "app/Preferences.h"
 

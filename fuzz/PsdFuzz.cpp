@@ -1,4 +1,4 @@
-// The PSD reader on any bytes: build/fuzz/fuzz/PsdFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/PsdFuzz
+// The PSD reader on any bytes: build/asan/fuzz/PsdFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/PsdFuzz
 
 #include "fuzz/ReaderFuzz.h"
 #include "photo/formats/PsdHandler.h"

@@ -1,5 +1,5 @@
 // What the window takes from a reader, which a hostile file may have taken over: the size of the shared memory, then
-// the message. build/fuzz/fuzz/ReaderMessageFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/ReaderMessageFuzz
+// the message. build/asan/fuzz/ReaderMessageFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/ReaderMessageFuzz
 
 #include "photo/PhotoDecoder.h"
 #include "photo/reader/Message.h"

@@ -1,4 +1,4 @@
-// The TGA reader on any bytes: build/fuzz/fuzz/TgaFuzz -max_total_time=600 FOLDER build/fuzz/fuzz/seeds/TgaFuzz
+// The TGA reader on any bytes: build/asan/fuzz/TgaFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/TgaFuzz
 
 #include "fuzz/ReaderFuzz.h"
 #include "photo/formats/TgaHandler.h"

@@ -290,7 +290,7 @@ void draw(const PixelRows& source, const Side& columns, const Side& rows, unsign
 
 // Made twice by GCC on Linux, with all that it calls: for every x86-64 processor, and for those with AVX2, where it
 // takes a sixth less time. The program takes the one that the processor can run; the bytes are the same.
-#if defined(__x86_64__) && defined(__linux__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
+#if defined(__x86_64__) && defined(__linux__) && !defined(__clang__)
 __attribute__((target_clones("avx2", "default"), flatten))
 #endif
 void drawScaled(

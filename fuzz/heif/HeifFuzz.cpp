@@ -1,5 +1,5 @@
 // The HEIC and AVIF reader on any bytes:
-// build/fuzz/fuzz/HeifFuzz -max_total_time=600 -keep_seed=1 FOLDER build/fuzz/fuzz/seeds/HeifFuzz
+// build/asan/fuzz/HeifFuzz -max_total_time=600 -keep_seed=1 FOLDER build/asan/fuzz/seeds/HeifFuzz
 
 #include "fuzz/ReaderFuzz.h"
 #include "photo/formats/heif/HeifHandler.h"

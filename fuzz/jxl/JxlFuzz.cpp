@@ -1,5 +1,5 @@
 // The JPEG XL reader on any bytes:
-// build/fuzz/fuzz/JxlFuzz -max_total_time=600 -keep_seed=1 FOLDER build/fuzz/fuzz/seeds/JxlFuzz
+// build/asan/fuzz/JxlFuzz -max_total_time=600 -keep_seed=1 FOLDER build/asan/fuzz/seeds/JxlFuzz
 
 #include "fuzz/ReaderFuzz.h"
 #include "photo/formats/jxl/JxlHandler.h"

@@ -1,5 +1,5 @@
 // The camera raw reader on any bytes:
-// build/fuzz/fuzz/RawFuzz -max_total_time=600 -keep_seed=1 FOLDER build/fuzz/fuzz/seeds/RawFuzz
+// build/asan/fuzz/RawFuzz -max_total_time=600 -keep_seed=1 FOLDER build/asan/fuzz/seeds/RawFuzz
 
 #include "fuzz/ReaderFuzz.h"
 #include "photo/formats/raw/RawHandler.h"

@@ -72,7 +72,7 @@ std::string digestOf(const QImage& image)
 
 [[noreturn]] void openAndTell(const std::string& file, int pipe, [[maybe_unused]] const Limits& limits)
 {
-#ifndef __SANITIZE_ADDRESS__
+#ifndef LUMORA_SANITIZE
     // Well beyond the limit, so that passing it is seen and the machine is safe.
     const rlim_t most = rlim_t(limits.mebibytes) * 4 << 20;
     const rlimit space = {most, most};
