@@ -126,6 +126,7 @@ private slots:
         QVERIFY(refusalOf(animation(1 << 24, 1 << 24)).contains("16777216 x 16777216"));
         QCOMPARE(refusalOf(animation(16384, 16384, 0)), QString()); // is none
         QVERIFY(!decoded(animation(16384, 16384)).reason.isEmpty());
+        QCOMPARE(decoded(animation(8193, 4096)).reason, refusalOf(animation(8193, 4096))); // before any decoder
     }
 
     void tiffCountsAreThoseOfPictures_data()
@@ -148,6 +149,8 @@ private slots:
                     .contains("65535 channels of 8 bits"));
         QVERIFY(refusalOf(Tiff(sides).withBits(5, 65535).with(samplesTag, shortType, 5).file())
                     .contains("5 channels of 65535 bits"));
+        const QByteArray channels = Tiff(sides).withBits(5, 8).with(samplesTag, shortType, 65535).file();
+        QCOMPARE(decoded(channels).reason, refusalOf(channels));
         const auto tiles = [&](quint64 width, quint64 height) {
             return refusalOf(
                 Tiff(sides).with(tileWidthTag, longType, width).with(tileHeightTag, longType, height).file());
