@@ -50,7 +50,7 @@ heif_error pushData(void* pushed, const void* data, std::size_t size)
 {
     Dav1dData& to = static_cast<Decoder*>(pushed)->data;
     dav1d_data_unref(&to);
-    std::uint8_t* bytes = dav1d_data_create(&to, size);
+    std::uint8_t* bytes = size > 0 ? dav1d_data_create(&to, size) : nullptr;
     if (!bytes)
         return notDecoded;
     std::memcpy(bytes, data, size);

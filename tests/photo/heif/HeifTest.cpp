@@ -18,6 +18,23 @@ private slots:
         QVERIFY2(reason.startsWith("The picture is too large: 20000 x 20000 pixels."), qPrintable(reason));
     }
 
+    void aPictureWithoutDataIsRefused_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("HEIC") << int(samples::HeifKind::Hevc);
+        QTest::newRow("AVIF") << int(samples::HeifKind::Av1);
+    }
+    void aPictureWithoutDataIsRefused()
+    {
+        QFETCH(int, kind);
+        QByteArray file = samples::heif(samples::quarters(64, 64), samples::HeifKind(kind));
+        const qsizetype data = file.indexOf("mdat") + 4;
+        const qsizetype size = file.lastIndexOf(samples::bigEndian(quint32(file.size() - data)), data - 9);
+        QVERIFY(size > 0); // where the file tells of it
+        file.replace(size, 4, QByteArray(4, '\0'));
+        QVERIFY(samples::loaded(m_folder, file).reason.contains("damaged"));
+    }
+
     void aPictureThatIsMadeOfItselfIsRefused()
     {
         // The transparency, a grid as the picture itself, has the picture in place of its tile.
