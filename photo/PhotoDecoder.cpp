@@ -7,6 +7,7 @@
 #include "photo/JpegMarkers.h"
 #include "photo/OnWhite.h"
 #include "photo/Orientation.h"
+#include "photo/formats/GifEnd.h"
 #include "photo/formats/OwnFormats.h"
 #include "photo/formats/PngColourKey.h"
 #include "photo/formats/UnsupportedKind.h"
@@ -90,7 +91,8 @@ Decoded decodeByPlatform(QIODevice& file, const Room& room)
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    if (!reader.canRead() || !isForPhotos(reader.format()))
+    const QByteArray format = reader.format(); // empty once it is read
+    if (!reader.canRead() || !isForPhotos(format))
         return refused(QStringLiteral("The file is not a picture of a kind that can be read."));
     const QSize size = reader.size();
     if (size.isValid()) {
@@ -103,6 +105,7 @@ Decoded decodeByPlatform(QIODevice& file, const Room& room)
         return refused(isUnsupportedKind(file) ? QStringLiteral("The picture is of a kind that is not supported.")
                                                : QStringLiteral("The picture is damaged and cannot be read."));
     decoded.isUpright = reader.transformation() != QImageIOHandler::TransformationNone;
+    decoded.restIsMissing = format == "gif" && gifBreaksOff(file);
     return decoded;
 }
 

@@ -1,0 +1,6 @@
+#pragma once
+
+class QIODevice;
+
+/// Whether a GIF file ends before its first picture does. The device is left anywhere.
+bool gifBreaksOff(QIODevice& file);
