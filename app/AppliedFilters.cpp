@@ -129,6 +129,7 @@ void MainWindowController::multiFilterToggled()
     if (!work)
         return showSwitch(*m_ui->chkMultiFilter, !m_ui->chkMultiFilter->isChecked());
     doMultiFiltering = m_ui->chkMultiFilter->isChecked();
+    showAppliedFilters();
     if (!doMultiFiltering) {
         // Only the look that was added last stays.
         removeOtherFilters(filterIDs.last());
@@ -167,8 +168,7 @@ void MainWindowController::showAppliedFilters()
 {
     for (QAction* action : m_lookActions)
         action->setChecked(filterIDs.isShownAsApplied(action->data().toInt()));
-    for (int i = 0; i < filterButtons.numThings; i++)
-        showSwitch(*filterButtons.theArray[i], m_lookActions[i]->isChecked());
+    m_ui->filtersBox->showApplied(filterIDs, doMultiFiltering);
     m_ui->sldStrength->setEnabled(filterIDs.numThings > 0);
     for (QAction* action : m_strengthActions)
         action->setEnabled(filterIDs.numThings > 0);

@@ -1,3 +1,4 @@
+#include "app/LookButton.h"
 #include "app/MainWindowController.h"
 #include "ui_MainWindow.h"
 
@@ -8,10 +9,13 @@
 #include <QSlider>
 
 // What a key, a click, the wheel and a drag mean in the window does not depend on the control that was used last: a
-// click leaves the focus on the photo, and the space bar compares wherever the focus is. Lists, menus, sheets and
-// panels are windows of their own and are left alone.
+// click leaves the focus on the photo, and holding the space bar compares wherever the focus is. A tap on it also
+// presses the look to which keys brought the focus. Lists, menus, sheets and panels are windows of their own and are
+// left alone.
 
 namespace {
+
+constexpr quint64 tapTime = 300; ///< milliseconds; a key that is let go later was held
 
 /// Keys that walk through a pop-up's items or from control to control: the only ones that may repeat when held.
 bool walks(int key)
@@ -105,6 +109,7 @@ bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press
         return false;
     switch (press.key()) {
     case Qt::Key_Space:
+        m_spacePressed = press.timestamp();
         m_ui->mainImageView->setComparing(true);
         return true;
     case Qt::Key_Return:
@@ -120,5 +125,10 @@ bool MainWindowController::takesKeyRelease(const QKeyEvent& release)
     m_keyRepeat.noteRelease(release);
     if (!release.isAutoRepeat())
         m_ui->mainImageView->setComparing(false);
-    return release.key() == Qt::Key_Space;
+    if (release.key() != Qt::Key_Space)
+        return false;
+    auto* look = qobject_cast<LookButton*>(focusWidget());
+    if (look && !release.isAutoRepeat() && release.timestamp() - m_spacePressed < tapTime)
+        look->click();
+    return true;
 }

@@ -1,9 +1,12 @@
 #include "app/LookStrip.h"
 
 #include "app/LookButton.h"
+#include "app/LookList.h"
 #include "app/Rules.h"
+#include "app/ShownOnly.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -21,6 +24,34 @@ LookStrip::LookStrip(QWidget* parent)
 QList<LookButton*> LookStrip::buttons() const
 {
     return findChildren<LookButton*>();
+}
+
+void LookStrip::addLooks(const std::vector<int>& filters)
+{
+    auto* line = new QFrame;
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    widget()->layout()->addWidget(line);
+    for (const int filter : filters) {
+        QWidget* before = buttons().last();
+        auto* button = new LookButton;
+        button->setFilter(filter);
+        widget()->layout()->addWidget(button);
+        setTabOrder(before, button);
+    }
+}
+
+void LookStrip::showApplied(const LookList& looks, bool multi)
+{
+    for (LookButton* button : buttons()) {
+        showSwitch(*button, looks.isShownAsApplied(button->filter()));
+        button->setPlace(multi ? looks.find(button->filter()) + 1 : 0);
+        if (button->filter() == looks.last())
+            m_lastApplied = button;
+    }
+    // A look that is switched off where the pointer is may be switched on again: its button stays there.
+    if (looks.numThings > 0 || !underMouse())
+        ensureWidgetVisible(m_lastApplied);
 }
 
 void LookStrip::fit()
@@ -56,11 +87,32 @@ void LookStrip::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
     fit();
+    if (m_lastApplied)
+        ensureWidgetVisible(m_lastApplied);
 }
 
 void LookStrip::wheelEvent(QWheelEvent* event)
 {
     QApplication::sendEvent(horizontalScrollBar(), event); // which takes either direction
+}
+
+void LookStrip::keyPressEvent(QKeyEvent* event)
+{
+    const QList<LookButton*> all = buttons();
+    const qsizetype last = all.size() - 1, at = all.indexOf(static_cast<LookButton*>(focusWidget()));
+    const auto walkTo = [&](qsizetype to) { all[qBound(qsizetype(0), to, last)]->setFocus(Qt::TabFocusReason); };
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return walkTo(at - 1);
+    case Qt::Key_Right:
+        return walkTo(at + 1);
+    case Qt::Key_Home:
+        return walkTo(0);
+    case Qt::Key_End:
+        return walkTo(last);
+    default:
+        event->ignore(); // nothing else scrolls
+    }
 }
 
 void LookStrip::showFocused(QWidget*, QWidget* now)

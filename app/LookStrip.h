@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QScrollArea>
+#include <vector>
 
 class LookButton;
+class LookList;
 
 /// The buttons of the looks beside each other. Their pictures are as large as the window allows; where the buttons need
-/// more room than there is, the strip scrolls, also by the wheel, and shows the button that gets the focus.
+/// more room than there is, the strip scrolls: by the wheel, to the button that gets the focus and to an applied look.
+/// The arrow keys walk from button to button.
 class LookStrip : public QScrollArea {
     Q_OBJECT
 
@@ -13,6 +16,10 @@ public:
     explicit LookStrip(QWidget* parent = nullptr);
 
     QList<LookButton*> buttons() const; ///< from left to right
+    /// Makes the buttons of further looks behind a thin line.
+    void addLooks(const std::vector<int>& filters);
+    /// Presses the buttons of the applied looks; several carry their places (`multi`). The last one is scrolled to.
+    void showApplied(const LookList& looks, bool multi);
     /// The side of the pictures, in points.
     int side() const { return m_side; }
     /// Makes the pictures as large as the window allows.
@@ -23,9 +30,11 @@ protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void showFocused(QWidget* before, QWidget* now);
 
     int m_side = 0;
+    LookButton* m_lastApplied = nullptr;
 };

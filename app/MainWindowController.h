@@ -202,6 +202,7 @@ private:
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown
     QAction *m_undoAction = nullptr, *m_redoAction = nullptr; ///< owned by the menu
+    quint64 m_spacePressed = 0; ///< when the space bar went down, in the milliseconds of key events
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 
     KeyRepeat m_keyRepeat;

@@ -6,7 +6,6 @@
 
 #include <QActionGroup>
 #include <QMenu>
-#include <algorithm>
 
 using namespace lumora;
 
@@ -39,7 +38,7 @@ void MainWindowController::buildMenus()
     photo->addSeparator();
     photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
 
-    // The ten looks of the buttons with their digits, then the ones that have no button.
+    // In the order of the strip; the first ten have digits.
     QMenu* looks = m_ui->menubar->addMenu(tr("&Looks"));
     const auto addLook = [&](int filter) {
         QAction* action = looks->addAction(QString::fromUtf8(CharImage::getFilterName(filter)));
@@ -57,10 +56,8 @@ void MainWindowController::buildMenus()
         }
     }
     looks->addSeparator();
-    const GrowArray<int> all = CharImage::getLooks();
-    for (int i = 0; i < all.numThings; i++)
-        if (std::ranges::count(buttonFilters, all.theArray[i]) == 0)
-            addLook(all.theArray[i]);
+    for (const int filter : furtherLooks())
+        addLook(filter);
     for (QAction* action : m_lookActions.sliced(1))
         connect(action, &QAction::triggered, this, [this, action] { pressFilterButton(action->data().toInt()); });
     buildStrengthEntries(*looks);

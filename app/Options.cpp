@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 using namespace lumora;
 
@@ -90,7 +91,9 @@ void MainWindowController::saveWindow() const
 void MainWindowController::updateFromSettings()
 {
     doCropping = doBorders = false;
-    doMultiFiltering = m_ui->chkMultiFilter->isChecked();
+    const bool before = std::exchange(doMultiFiltering, m_ui->chkMultiFilter->isChecked());
+    if (doMultiFiltering != before)
+        showAppliedFilters();
     cropFilter = chosenFilter(*m_ui->btnCropping, filterIDs);
     borderFilter = chosenFilter(*m_ui->btnBorders, filterIDs);
     strength = m_ui->sldStrength->value();

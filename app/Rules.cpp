@@ -9,6 +9,16 @@
 
 using namespace lumora;
 
+std::vector<int> furtherLooks()
+{
+    std::vector<int> looks;
+    const GrowArray<int> all = CharImage::getLooks();
+    for (int i = 0; i < all.numThings; i++)
+        if (std::ranges::count(buttonFilters, all.theArray[i]) == 0)
+            looks.push_back(all.theArray[i]);
+    return looks;
+}
+
 int displayResAtLoad(int frameSide)
 {
     int res = 800;

@@ -7,6 +7,7 @@
 #include <QSize>
 #include <QSizeF>
 #include <QString>
+#include <vector>
 
 // The rules of the window that need no window.
 
@@ -14,6 +15,9 @@
 inline constexpr int buttonFilters[] = {lumora::Filter::original, lumora::Filter::helga, lumora::Filter::lolo,
     lumora::Filter::cinema, lumora::Filter::look1962, lumora::Filter::look1974, lumora::Filter::mono,
     lumora::Filter::colorcross, lumora::Filter::instant, lumora::Filter::magazine};
+
+/// The looks of the catalogue that have none of these buttons, in its order.
+std::vector<int> furtherLooks();
 
 /// The longest side of the display copy for a window whose larger frame side is `frameSide` pixels: the first 800 + 20
 /// k that is not smaller.

@@ -75,6 +75,8 @@ void MainWindowController::completeNibLoading()
         button->setToolTip(QStringLiteral("%1 (%2)").arg(button->text()).arg(filterButtons.numThings % 10));
     }
 
+    m_ui->filtersBox->addLooks(furtherLooks());
+
     fill(*m_ui->btnBorders, {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"});
     fill(*m_ui->btnCropping, {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"});
     fill(*m_ui->btnImgSize, {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
@@ -133,6 +135,8 @@ void MainWindowController::connectControls()
     toggle(m_ui->btnFishEye, &Self::applyFishEyeFilter);
     toggle(m_ui->btnInstant, &Self::applyInstantFilter);
     toggle(m_ui->btnMagazine, &Self::applyMagazineFilter);
+    for (LookButton* button : m_ui->filtersBox->buttons().sliced(filterButtons.numThings))
+        connect(button, &QAbstractButton::toggled, this, [this, button] { pressFilterButton(button->filter()); });
     toggle(m_ui->chkMultiFilter, &Self::multiFilterToggled);
     toggle(m_ui->chkRandomness, &Self::useRandomToggled);
     connectStrength();
@@ -157,10 +161,8 @@ void MainWindowController::updateThumbnailImages()
 {
     if (m_photo.isNull() || m_photo.thumb().isNull())
         return;
-    for (int i = 0; i < filterButtons.numThings; i++) {
-        const QImage thumbnail = filterNSImage(m_photo.thumb(), buttonFilters[i], true);
-        filterButtons.theArray[i]->setIcon(QPixmap::fromImage(thumbnail));
-    }
+    for (LookButton* button : m_ui->filtersBox->buttons())
+        button->setIcon(QPixmap::fromImage(filterNSImage(m_photo.thumb(), button->filter(), true)));
 }
 
 /// Of the window with its frame, in pixels of the screen.

@@ -132,9 +132,9 @@ void measureWindow(const QByteArray& photo)
     });
     strength->setSliderDown(false);
     say(QStringLiteral("drag of the strength to the painted preview: Helga"), drag * 1e3, "ms");
-    say(QStringLiteral("ten thumbnails, painted"),
+    say(QStringLiteral("sixteen thumbnails, painted"),
         1e3
-            * leastOf(rounds,
+            * leastOf(pressRounds,
                 [&] {
                     return secondsOf([&] {
                         window.updateThumbnailImages();

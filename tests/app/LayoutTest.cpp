@@ -1,16 +1,12 @@
 #include "app/LookButton.h"
 #include "app/LookStrip.h"
-#include "app/Rules.h"
-#include "render/RenderPipeline.h"
 #include "tests/app/Desk.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QLabel>
-#include <QMenuBar>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QScrollBar>
+#include <QSlider>
 
 // What stands where in the window, at every size. Run at several densities of the screen.
 
@@ -35,8 +31,8 @@ private:
         for (auto* widget : desk.find<QWidget>("centralwidget")->findChildren<QWidget*>())
             if (widget->isVisible()
                 && (qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget)
-                    || qobject_cast<QLabel*>(widget) || widget->objectName() == "mainImageView"
-                    || widget->objectName() == "filtersBox"))
+                    || qobject_cast<QLabel*>(widget) || qobject_cast<QSlider*>(widget)
+                    || widget->objectName() == "mainImageView" || widget->objectName() == "filtersBox"))
                 all << widget;
         return all;
     }

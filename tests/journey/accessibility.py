@@ -34,7 +34,7 @@ with Lumora(build, photo) as lumora:
             seen += 1
             assert node.name, f"a control without a name: {node.getRoleName()} in {node.parent.name}"
     say(f"{seen} controls, each with a name")
-    assert seen >= 10 + 9 + 3 + 2, "ten looks, nine buttons and menus, three pop-ups, two boxes at least"
+    assert seen >= 16 + 9 + 3 + 2, "sixteen looks, nine buttons and menus, three pop-ups, two boxes at least"
 
     for look in LOOK_BUTTONS[1:] + ["Original"]:
         press_by_name(lumora.control(look))
