@@ -21,6 +21,12 @@ LookStrip::LookStrip(QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, &LookStrip::showFocused);
 }
 
+LookStrip::~LookStrip()
+{
+    // The focus leaves the buttons while they go, after the strip itself.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QList<LookButton*> LookStrip::buttons() const
 {
     return findChildren<LookButton*>();

@@ -14,6 +14,7 @@ class LookStrip : public QScrollArea {
 
 public:
     explicit LookStrip(QWidget* parent = nullptr);
+    ~LookStrip() override;
 
     QList<LookButton*> buttons() const; ///< from left to right
     /// Makes the buttons of further looks behind a thin line.

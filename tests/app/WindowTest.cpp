@@ -307,7 +307,8 @@ private slots:
                 all << widget->geometry();
             return all;
         };
-        QTest::qWait(0); // the strip finds its height when the window has been laid out
+        const auto* strip = desk.find<QWidget>("filtersBox");
+        QTRY_COMPARE(strip->height(), strip->maximumHeight()); // it has found its height
         before = places();
         QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "p.png", makePhoto(60, 40))));
         desk.click("chkMultiFilter");
