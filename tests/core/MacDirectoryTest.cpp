@@ -87,3 +87,11 @@ TEST_F(MacDirectory, IsEmptyForOtherCodesAndWithoutAHome)
     for (unsigned long code : {home, desktop, documents, pictures, preferences})
         EXPECT_EQ(textOf(getMacDirectory(code)), "");
 }
+
+TEST_F(MacDirectory, PassesOverPathsThatDependOnTheWorkingFolder)
+{
+    setenv("XDG_CONFIG_HOME", "config", 1);
+    EXPECT_EQ(textOf(getMacDirectory(preferences)), "/home/someone/.config");
+    setenv("HOME", "someone", 1);
+    EXPECT_EQ(textOf(getMacDirectory(home)), "");
+}
