@@ -102,7 +102,7 @@ bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press
 {
     if (m_keyRepeat.isRepeat(press)) {
         if (press.key() == Qt::Key_Space && !press.isAutoRepeat())
-            m_ui->mainImageView->setComparing(true); // its release was none
+            m_ui->mainImageView->setComparing(true); // its release, just before, was part of the repeat
         return !walks(press.key());
     }
     if (press.modifiers() & ~Qt::KeypadModifier)

@@ -32,7 +32,8 @@ QImage renderPhoto(const QImage& source, const RenderSettings& settings, const R
 /// render. The looks are not applied again for another strength.
 class RenderedLooks {
 public:
-    /// As renderPhoto does it, for the strength of whole looks and no thumbnail; null where that gives a null picture.
+    /// Crops, fits and applies the looks as renderPhoto does, which `settings` tells; their strength and `asThumbnail`
+    /// are not read. Null without a source, or without the memory for both pictures.
     static std::unique_ptr<RenderedLooks> of(const QImage& source, const RenderSettings& settings);
     ~RenderedLooks();
 

@@ -35,7 +35,7 @@ public:
     /// What the preview shows.
     QImage preview() { return pixelsOf(find<DragDropImageView>("mainImageView")->image()); }
     void type(Qt::Key key) { QTest::keyClick(&window, key); }
-    /// Drags the slider's handle by the mouse.
+    /// What the mouse does to a slider whose handle it holds.
     void drag(const std::vector<int>& values)
     {
         slider().setSliderDown(true);
