@@ -2,6 +2,7 @@
 
 #include "tests/photo/Samples.h"
 
+#include <QColorSpace>
 #include <QFile>
 #include <QProcess>
 
@@ -27,6 +28,17 @@ QImage deepRamps(int width, int height)
         for (int x = 0; x < width; x++)
             reinterpret_cast<QRgba64*>(picture.scanLine(y))[x].setAlpha(65535);
     return picture;
+}
+
+QList<Given> toConvert(int width, int height)
+{
+    const QImage opaque = deepRamps(width, height), transparent = transparentRamps(width, height);
+    QImage wide = opaque, adobe = opaque;
+    wide.setColorSpace(QColorSpace::DisplayP3);
+    adobe.setColorSpace(QColorSpace::AdobeRgb);
+    return {{"8 bits", opaque, 8}, {"deep", opaque, 16}, {"8 bits, transparent", transparent, 8},
+        {"deep, transparent", transparent, 16}, {"8 bits, Display P3", wide, 8}, {"deep, Display P3", wide, 16},
+        {"8 bits, Adobe RGB", adobe, 8}, {"grey", opaque.convertToFormat(QImage::Format_Grayscale8), 8}};
 }
 
 void run(const char* program, const QStringList& arguments)

@@ -12,6 +12,15 @@ QImage deepRamps(int width, int height);
 /// The same with every transparency, Format_RGBA64.
 QImage transparentRamps(int width, int height);
 
+/// A picture that is encoded with so many bits a channel, 8 or 16 where the format has room for that many.
+struct Given {
+    const char* name;
+    QImage picture;
+    int bits;
+};
+/// Opaque, transparent and grey ones, in sRGB and in wider spaces.
+QList<Given> toConvert(int width, int height);
+
 /// Runs a program, which must succeed.
 void run(const char* program, const QStringList& arguments);
 

@@ -2,7 +2,6 @@
 #include "tests/photo/PhoneSamples.h"
 #include "tests/photo/Samples.h"
 
-#include <QColorSpace>
 #include <QTest>
 
 // HEIC and AVIF photos have the pixels that the library's own converter finds in them.
@@ -10,23 +9,6 @@
 namespace {
 
 constexpr int width = 121, height = 83; // odd: colours of half the size end between two pixels
-
-struct Picture {
-    const char* name;
-    QImage picture;
-    int bits;
-};
-
-QList<Picture> pictures()
-{
-    const QImage opaque = samples::deepRamps(width, height), transparent = samples::transparentRamps(width, height);
-    QImage wide = opaque, adobe = opaque;
-    wide.setColorSpace(QColorSpace::DisplayP3);
-    adobe.setColorSpace(QColorSpace::AdobeRgb);
-    return {{"8 bits", opaque, 8}, {"deep", opaque, 16}, {"8 bits, transparent", transparent, 8},
-        {"deep, transparent", transparent, 16}, {"8 bits, Display P3", wide, 8}, {"deep, Display P3", wide, 16},
-        {"8 bits, Adobe RGB", adobe, 8}, {"grey", opaque.convertToFormat(QImage::Format_Grayscale8), 8}};
-}
 
 } // namespace
 
@@ -50,7 +32,7 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QStringList>("options");
         for (const char* format : {"heic", "avif"})
-            for (const Picture& given : pictures())
+            for (const samples::Given& given : samples::toConvert(width, height))
                 for (const char* chroma : {"420", "422", "444"}) {
                     const bool isAvif = qstrcmp(format, "avif") == 0;
                     // What the encoder writes with more than eight bits: AVIF with 12, as its 10 do not come out.

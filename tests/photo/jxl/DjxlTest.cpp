@@ -1,7 +1,6 @@
 #include "tests/photo/Converters.h"
 #include "tests/photo/Samples.h"
 
-#include <QColorSpace>
 #include <QFile>
 #include <QTest>
 #include <algorithm>
@@ -12,23 +11,6 @@
 namespace {
 
 constexpr int width = 321, height = 283; // more than one group of 256, the last ones not whole
-
-struct Picture {
-    const char* name;
-    QImage picture;
-    int bits;
-};
-
-QList<Picture> pictures()
-{
-    const QImage opaque = samples::deepRamps(width, height), transparent = samples::transparentRamps(width, height);
-    QImage wide = opaque, adobe = opaque;
-    wide.setColorSpace(QColorSpace::DisplayP3);
-    adobe.setColorSpace(QColorSpace::AdobeRgb);
-    return {{"8 bits", opaque, 8}, {"16 bits", opaque, 16}, {"8 bits, transparent", transparent, 8},
-        {"16 bits, transparent", transparent, 16}, {"8 bits, Display P3", wide, 8}, {"16 bits, Adobe RGB", adobe, 16},
-        {"grey", opaque.convertToFormat(QImage::Format_Grayscale8), 8}};
-}
 
 } // namespace
 
@@ -78,7 +60,7 @@ private slots:
         QTest::addColumn<QStringList>("options");
         const std::pair<const char*, QStringList> ways[] = {
             {"without loss", {"-d", "0"}}, {"with loss", {"-d", "1"}}, {"progressive", {"-d", "2", "-p"}}};
-        for (const Picture& given : pictures())
+        for (const samples::Given& given : samples::toConvert(width, height))
             for (const auto& [name, options] : ways)
                 QTest::addRow("%s, %s", given.name, name) << given.picture << given.bits << options;
     }
