@@ -1,6 +1,6 @@
-#include "app/Appearance.h"
-#include "app/MainWindowController.h"
-#include "app/SessionEnd.h"
+#include "app/desktop/Appearance.h"
+#include "app/desktop/SessionEnd.h"
+#include "app/window/MainWindowController.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -3,7 +3,7 @@
 // LUMORA is the program, FOLDER takes the photo. Opening is measured once, everything else a few times,
 // of which the shortest is shown. Times are those of a clock on the wall unless they say that they are the processor's.
 
-#include "app/MainWindowController.h"
+#include "app/window/MainWindowController.h"
 #include "bench/Measure.h"
 #include "bench/Photo.h"
 #include "bench/Start.h"

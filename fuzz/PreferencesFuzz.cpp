@@ -1,7 +1,7 @@
 // The preference reader on a store of any bytes:
 // build/asan/fuzz/PreferencesFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/PreferencesFuzz
 
-#include "app/Preferences.h"
+#include "app/state/Preferences.h"
 
 #include <QDir>
 #include <QFile>

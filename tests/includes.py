@@ -11,6 +11,9 @@ import sys
 
 ROOMS = ["image/numbers", "image/passes", "image/toolkit", "image/looks", "image/framing"]  # from the bottom
 ENGINE = ["core", *ROOMS]
+RENDER = [*ENGINE, "image", "photo", "render"]
+# Of the application: the controller in app/window brings the others together.
+APP_ROOMS = ["app/state", "app/controls", "app/preview", "app/panels", "app/desktop"]
 
 # What the files of each place may include beside their own. The longest place that fits a file is its own.
 BELOW = {
@@ -19,8 +22,11 @@ BELOW = {
     "image": ENGINE,
     "photo": ["core"],
     "render": [*ENGINE, "image", "photo"],
-    "app": [*ENGINE, "image", "photo", "render"],
-    "tools": [*ENGINE, "image", "photo", "render", "app"],
+    "app/state": RENDER,
+    **{room: [*RENDER, "app/state"] for room in APP_ROOMS[1:]},
+    "app/window": [*RENDER, *APP_ROOMS],
+    "app": [*APP_ROOMS, "app/window"],
+    "tools": RENDER,
 }
 # Of all operations, and of the catalogue's rows: every room may include these.
 DECLARATIONS = ["image/CharImage.h", "image/FilterCatalogue.h", "image/FilterNumber.h"]
@@ -33,7 +39,7 @@ def place_of(file):
     """The floor or the room of a file; None for what belongs to neither."""
     folder = file.rpartition("/")[0]
     while folder and folder not in BELOW:
-        if folder.startswith("image/"):
+        if folder.startswith(("image/", "app/")):
             return None  # a room that is not listed above
         folder = folder.rpartition("/")[0]
     return folder or None

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/MainWindowController.h"
+#include "app/window/MainWindowController.h"
 
 #include <QComboBox>
 #include <QFileDialog>

@@ -1,0 +1,78 @@
+#include "app/state/Preferences.h"
+#include "app/state/Rules.h"
+#include "app/window/MainWindowController.h"
+#include "image/CharImage.h"
+#include "ui_MainWindow.h"
+
+#include <QActionGroup>
+#include <QMenu>
+
+using namespace lumora;
+
+void MainWindowController::buildMenus()
+{
+    using Self = MainWindowController;
+
+    QMenu* file = m_ui->menubar->addMenu(tr("&File"));
+    file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
+    m_photoActions << file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
+    // What a saved photo carries besides its picture, in the order of Kept.
+    QMenu* kept = file->addMenu(tr("&Keep with the photo"));
+    auto* levels = new QActionGroup(kept);
+    for (const QString& level : {tr("&Everything it carried"), tr("Everything but the &place"), tr("&Nothing")}) {
+        QAction* action = levels->addAction(kept->addAction(level));
+        action->setCheckable(true);
+        m_keptActions << action;
+        connect(action, &QAction::triggered, this, [this] { setPreferenceInt("Saving/Kept", int(this->kept())); });
+    }
+    file->addSeparator();
+    QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
+    quit->setMenuRole(QAction::QuitRole);
+
+    buildEditMenu();
+
+    QMenu* photo = m_ui->menubar->addMenu(tr("&Photo"));
+    m_photoActions << photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
+    m_photoActions << photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);
+    m_photoActions << photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
+    photo->addSeparator();
+    photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
+
+    // In the order of the strip; the first ten have digits.
+    QMenu* looks = m_ui->menubar->addMenu(tr("&Looks"));
+    const auto addLook = [&](int filter) {
+        QAction* action = looks->addAction(QString::fromUtf8(CharImage::getFilterName(filter)));
+        action->setCheckable(true);
+        action->setData(filter);
+        m_lookActions << action;
+        return action;
+    };
+    for (int filter : buttonFilters) {
+        QAction* action = addLook(filter);
+        action->setShortcut(QKeySequence(Qt::Key_0 + m_lookActions.size() % 10));
+        if (filter == Filter::original) {
+            connect(action, &QAction::triggered, this, &Self::applyOriginalFilter);
+            looks->addSeparator();
+        }
+    }
+    looks->addSeparator();
+    for (const int filter : furtherLooks())
+        addLook(filter);
+    for (QAction* action : m_lookActions.sliced(1))
+        connect(action, &QAction::triggered, this, [this, action] { pressFilterButton(action->data().toInt()); });
+    buildStrengthEntries(*looks);
+
+    QMenu* help = m_ui->menubar->addMenu(tr("&Help"));
+    help->addAction(tr("Lumora &Help"), QKeySequence::HelpContents, this, &Self::openHelp);
+    help->addAction(tr("&About Lumora"), this, &Self::openAbout)->setMenuRole(QAction::AboutRole);
+}
+
+/// Without a photo there is nothing to turn, to flatten or to save.
+void MainWindowController::showWhatCanBeDone()
+{
+    const bool hasPhoto = !m_photo.isNull();
+    for (QAction* action : m_photoActions)
+        action->setEnabled(hasPhoto);
+    for (QWidget* button : {m_ui->btnLeft, m_ui->btnRight, m_ui->btnFlatten, m_ui->btnSave})
+        button->setEnabled(hasPhoto);
+}

@@ -1,0 +1,108 @@
+#include "app/state/Preferences.h"
+#include "app/window/MainWindowController.h"
+#include "image/CharImage.h"
+#include "ui_MainWindow.h"
+
+#include <QAction>
+#include <QFile>
+#include <QScreen>
+#include <algorithm>
+#include <utility>
+
+using namespace lumora;
+
+namespace {
+
+constexpr int prefsVersion = 2; ///< of the order of the items in the three pop-ups, which are stored by position
+
+/// The filter number that a crop or border pop-up stands for.
+int chosenFilter(const QComboBox& popUp, const GrowArray<int>& filterIDs)
+{
+    if (popUp.currentText() == QLatin1String("By Filter") && filterIDs.numThings > 0)
+        return filterIDs.theArray[filterIDs.numThings - 1];
+    return CharImage::getFilterFromName(popUp.currentText().toUtf8().constData());
+}
+
+/// Selects the item at a stored index; the first one for an index that the pop-up does not have.
+void select(QComboBox& popUp, int index)
+{
+    popUp.setCurrentIndex(index >= 0 && index < popUp.count() ? index : 0);
+}
+
+} // namespace
+
+void MainWindowController::loadOptions()
+{
+    const bool saved = getPreferenceInt("PrefsVersion") == prefsVersion;
+    m_ui->chkMultiFilter->setChecked(saved && getPreferenceBool("UseMultiFilter"));
+    select(*m_ui->btnBorders, saved ? getPreferenceInt("BorderStyle") : 0);
+    select(*m_ui->btnCropping, saved ? getPreferenceInt("CroppingStyle") : 0);
+    select(*m_ui->btnImgSize, saved ? getPreferenceInt("OutputSize") : 0);
+    // Variation is a mood of the moment: it is saved, and never restored.
+    m_ui->chkRandomness->setChecked(false);
+    CharImage::useRandom = 0;
+    m_keptActions[std::clamp(getPreferenceInt("Saving/Kept"), 0, int(Kept::Nothing))]->setChecked(true);
+    m_choicesAtStart = shownNow().choices;
+}
+
+Kept MainWindowController::kept() const
+{
+    return Kept(std::ranges::find_if(m_keptActions, &QAction::isChecked) - m_keptActions.begin());
+}
+
+void MainWindowController::saveOptions() const
+{
+    // Another window may have saved its choices since this one was opened: what was not touched here stays as it is.
+    const bool saved = getPreferenceInt("PrefsVersion") == prefsVersion;
+    const Choices now = shownNow().choices, &before = m_choicesAtStart;
+    if (!saved || now.multi != before.multi)
+        setPreferenceBool("UseMultiFilter", now.multi);
+    setPreferenceBool("UseRandomness", now.varied);
+    if (!saved || now.border != before.border)
+        setPreferenceInt("BorderStyle", now.border);
+    if (!saved || now.crop != before.crop)
+        setPreferenceInt("CroppingStyle", now.crop);
+    if (!saved || now.size != before.size)
+        setPreferenceInt("OutputSize", now.size);
+    setPreferenceInt("PrefsVersion", prefsVersion);
+}
+
+/// Size and state of the window, and where its panels stood: a group of their own, which no version counts.
+void MainWindowController::loadWindow()
+{
+    const QSize saved(getPreferenceInt("Window/Width"), getPreferenceInt("Window/Height"));
+    const QSize room = screen()->availableSize() - QSize(0, 40); // for the title bar
+    resize((saved.isEmpty() ? size() : saved).boundedTo(room));
+    if (getPreferenceBool("Window/Maximised"))
+        setWindowState(Qt::WindowMaximized);
+    m_panelFolder = QFile::decodeName(QByteArray::fromPercentEncoding(getPreferenceString("Window/Folder").cString()));
+}
+
+void MainWindowController::saveWindow() const
+{
+    const QSize size = isMaximized() ? normalGeometry().size() : this->size();
+    setPreferenceInt("Window/Width", size.width());
+    setPreferenceInt("Window/Height", size.height());
+    setPreferenceBool("Window/Maximised", isMaximized());
+    // Of any bytes, where preferences are ASCII.
+    setPreferenceString("Window/Folder", QFile::encodeName(m_panelFolder).toPercentEncoding("/ ").constData());
+}
+
+void MainWindowController::updateFromSettings()
+{
+    doCropping = doBorders = false;
+    const bool before = std::exchange(doMultiFiltering, m_ui->chkMultiFilter->isChecked());
+    if (doMultiFiltering != before)
+        showAppliedFilters();
+    cropFilter = chosenFilter(*m_ui->btnCropping, filterIDs);
+    borderFilter = chosenFilter(*m_ui->btnBorders, filterIDs);
+    strength = m_ui->sldStrength->value();
+    const QString size = m_ui->btnImgSize->currentText();
+    imgOutputSize = size == QLatin1String("Original") ? -1 : size.toInt();
+    updateBreadcrumb();
+}
+
+void MainWindowController::settingChanged()
+{
+    applyMultipleFilters();
+}

@@ -1,0 +1,120 @@
+#include "app/panels/PlainText.h"
+#include "app/panels/SavePanel.h"
+#include "app/state/Rules.h"
+#include "app/window/MainWindowController.h"
+#include "ui_MainWindow.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace {
+
+/// While this lives, settings are written nowhere, or to the user's configuration; afterwards the other way round. The
+/// platform's own panel would write its history there when it goes. While it is up, the program may be quit, which
+/// saves the choices.
+class SettingsAreWritten {
+public:
+    explicit SettingsAreWritten(bool written)
+        : m_written(written)
+    {
+        set(m_written);
+    }
+    ~SettingsAreWritten() { set(!m_written); }
+    SettingsAreWritten(const SettingsAreWritten&) = delete;
+    SettingsAreWritten& operator=(const SettingsAreWritten&) = delete;
+
+private:
+    static void set(bool written)
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+            written ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+                    : QStringLiteral("/dev/null"));
+    }
+    const bool m_written;
+};
+
+/// Whatever opens, by the names that such files have. The content decides, not the name.
+QString allPhotos()
+{
+    return QStringLiteral(
+        "All photos (*.jpg *.jpeg *.jpe *.gif *.png *.psd *.psb *.tga *.bmp *.tif *.tiff *.webp *.heic *.heif *.hif "
+        "*.avif *.jxl *.ppm *.pgm *.dng *.3fr *.arw *.cr2 *.cr3 *.crw *.dcr *.erf *.iiq *.kdc *.mef *.mos *.mrw *.nef "
+        "*.nrw *.orf *.pef *.raf *.rw2 *.rwl *.sr2 *.srw *.x3f)");
+}
+
+/// What both panels share: the six types, and the folder where the last one was left.
+void prepare(QFileDialog& panel, const QString& folder)
+{
+    panel.setNameFilter(QStringLiteral("Photos (*.jpg *.jpeg *.gif *.png *.psd *.tga)"));
+    if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        panel.setDirectory(folder);
+}
+
+} // namespace
+
+/// Runs a file panel; true when it was confirmed.
+bool MainWindowController::runPanel(QFileDialog& panel)
+{
+    m_ui->progressBar->hide(); // nothing is worked on while the panel waits
+    const WorkWaits waits(m_work);
+    const SettingsAreWritten meanwhile(true);
+    const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
+    activateWindow(); // where a question went with the panel, some desktops give the keys to nobody
+    if (confirmed)
+        m_panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
+    return confirmed;
+}
+
+void MainWindowController::loadImageButtonPressed()
+{
+    if (!m_work.mayBegin())
+        return;
+    QStringList chosen;
+    {
+        const SettingsAreWritten noHistory(false);
+        QFileDialog panel(this, tr("Select a file to open"));
+        panel.setFileMode(QFileDialog::ExistingFile);
+        panel.setWindowOpacity(0.95);
+        prepare(panel, m_panelFolder);
+        panel.setNameFilters(panel.nameFilters() << allPhotos());
+        if (runPanel(panel))
+            chosen = panel.selectedFiles();
+    }
+    for (const QString& file : chosen)
+        loadImageFromFile(QFile::encodeName(file));
+}
+
+/// Asks for the path of a JPEG of so many bytes; empty when the panel was cancelled.
+QByteArray MainWindowController::askWhereToSave(qint64 bytes)
+{
+    const SettingsAreWritten noHistory(false);
+    const QString looks = filterIDs.numThings > 0 ? breadcrumb(filterIDs, false).replace(" > ", " ") : QString();
+    SavePanel panel(this, bytes, m_photo.filePath, looks);
+    prepare(panel, m_panelFolder);
+    // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
+    // is what it asks about: a name that cannot be shown is not taken back.
+    const QString proposed = shownName(m_photo.fileName()).replace(u'"', u'\'');
+    panel.selectFile(proposed); // after the types, which would change the name's extension to theirs
+    return runPanel(panel) ? QFile::encodeName(panel.path()) : QByteArray();
+}
+
+void MainWindowController::openModalSheetWithText(const QString& text, const QString& auxText)
+{
+    showSheet(text, auxText, Qt::WindowModal);
+}
+
+void MainWindowController::showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality)
+{
+    if (m_sheet)
+        m_sheet->close();
+    auto* sheet = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("Lumora"), text, QMessageBox::Ok, this);
+    sheet->setInformativeText(auxText);
+    showPlainText(*sheet);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(modality);
+    sheet->setAcceptDrops(true);
+    sheet->show();
+    m_sheet = sheet;
+}
