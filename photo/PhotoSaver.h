@@ -6,10 +6,18 @@
 #include <QImage>
 #include <QString>
 
-/// JPEG data of a picture at the encoder's default quality, marked as sRGB. `metadata` is what the source carried: as
-/// much of it as is to be kept goes in, with orientation 1, the picture's size, this program's name and no preview.
-/// What is broken does not. Empty data when the picture cannot be encoded, as with a side beyond 65500 pixels.
-QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata, Kept kept = Kept::Everything);
+/// How much of a picture a JPEG holds.
+enum class JpegQuality {
+    Standard, ///< the encoder's default; four pixels share their colour
+    High, ///< 92 of 100; each pixel has its colour
+    Best, ///< 97 of 100; each pixel has its colour
+};
+
+/// JPEG data of a picture, marked as sRGB. `metadata` is what the source carried: as much of it as is to be kept goes
+/// in, with orientation 1, the picture's size, this program's name and no preview. What is broken does not. Empty data
+/// when the picture cannot be encoded, as with a side beyond 65500 pixels.
+QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata, Kept kept = Kept::Everything,
+    JpegQuality quality = JpegQuality::Standard);
 
 /// Writes `data` to `path` (any bytes) so that a file that stands there is replaced whole or left as it was, whatever
 /// fails. A replaced file's owner, permissions, access control list and `user.*` attributes stay, or its rights become

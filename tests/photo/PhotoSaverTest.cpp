@@ -33,6 +33,19 @@ QImage decoded(QByteArray file)
     return QImageReader(&buffer, "jpeg").read();
 }
 
+/// The segments of a JPEG file with that marker, one after the other.
+QByteArray segments(const QByteArray& file, char marker)
+{
+    QByteArray found;
+    for (qsizetype at = 2; file[at] == '\xFF' && file[at + 1] != '\xDA';) {
+        const qsizetype length = 2 + uchar(file[at + 2]) * 256 + uchar(file[at + 3]);
+        if (file[at + 1] == marker)
+            found += file.mid(at, length);
+        at += length;
+    }
+    return found;
+}
+
 /// A photo as the loader gives it, from a JPEG file with the EXIF of a camera.
 LoadedPhoto cameraPhoto(int orientation = 6, bool bigEndian = false)
 {
@@ -52,17 +65,19 @@ private slots:
     void jpegIsMarkedAsSRgb()
     {
         const QImage picture = samples::quarters(64, 48);
-        for (const PhotoMetadata& metadata : {PhotoMetadata(), cameraPhoto().metadata}) {
-            const QByteArray file = encodeJpeg(picture, metadata);
-            QVERIFY(file.startsWith("\xFF\xD8\xFF"));
-            QVERIFY(file.contains("ICC_PROFILE"));
-            QCOMPARE(decoded(file).colorSpace(), QColorSpace(QColorSpace::SRgb));
-            QVERIFY(samples::showsQuarters(decoded(file), QSize(64, 48)));
-        }
+        for (const PhotoMetadata& metadata : {PhotoMetadata(), cameraPhoto().metadata})
+            for (const JpegQuality quality : {JpegQuality::Standard, JpegQuality::High, JpegQuality::Best}) {
+                const QByteArray file = encodeJpeg(picture, metadata, Kept::Everything, quality);
+                QVERIFY(file.startsWith("\xFF\xD8\xFF"));
+                QVERIFY(file.contains("ICC_PROFILE"));
+                QCOMPARE(decoded(file).colorSpace(), QColorSpace(QColorSpace::SRgb));
+                QVERIFY(samples::showsQuarters(decoded(file), QSize(64, 48)));
+                QCOMPARE(value(exifOf(file), "Exif.Image.Make"), metadata.exif.isEmpty() ? "none" : "Prism");
+            }
         QVERIFY(!picture.colorSpace().isValid()); // as it was
     }
 
-    void qualityIsTheEncodersDefault()
+    void standardQualityIsTheEncodersDefault()
     {
         QImage picture = samples::noise(64, 48);
         picture.setColorSpace(QColorSpace::SRgb);
@@ -72,18 +87,66 @@ private slots:
         QCOMPARE(encodeJpeg(picture, {}), buffer.data());
     }
 
+    void otherQualitiesAreNumbersOfTheSameScale_data()
+    {
+        QTest::addColumn<JpegQuality>("quality");
+        QTest::addColumn<int>("number");
+        QTest::newRow("high") << JpegQuality::High << 92;
+        QTest::newRow("best") << JpegQuality::Best << 97;
+    }
+    void otherQualitiesAreNumbersOfTheSameScale()
+    {
+        QFETCH(JpegQuality, quality);
+        QFETCH(int, number);
+        const QImage picture = samples::noise(64, 48);
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        QVERIFY(picture.save(&buffer, "jpeg", number));
+        constexpr char tables = '\xDB';
+        const QByteArray file = encodeJpeg(picture, {}, Kept::Everything, quality);
+        QVERIFY(!segments(file, tables).isEmpty());
+        QCOMPARE(segments(file, tables), segments(buffer.data(), tables));
+    }
+
+    void otherQualitiesKeepTheColourOfEachPixel()
+    {
+        QImage stripes(64, 48, QImage::Format_RGB32);
+        for (int y = 0; y < 48; y++)
+            for (int x = 0; x < 64; x++)
+                stripes.setPixelColor(x, y, x % 2 ? Qt::red : Qt::blue);
+        for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_RGBX8888}) {
+            const auto redOf = [&](int x, JpegQuality quality) {
+                const QByteArray file = encodeJpeg(stripes.convertToFormat(format), {}, Kept::Everything, quality);
+                return decoded(file).pixelColor(x, 20).red();
+            };
+            for (const JpegQuality quality : {JpegQuality::High, JpegQuality::Best}) {
+                QVERIFY(redOf(30, quality) < 20);
+                QVERIFY(redOf(31, quality) > 235);
+            }
+            QVERIFY(qAbs(redOf(30, JpegQuality::Standard) - redOf(31, JpegQuality::Standard)) < 100);
+        }
+    }
+
     void otherFormatsAreEncodedToo()
     {
         for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
                  QImage::Format_Grayscale8, QImage::Format_RGBX64})
-            QVERIFY(!decoded(encodeJpeg(samples::noise(9, 7).convertToFormat(format), {})).isNull());
+            for (const JpegQuality quality : {JpegQuality::Standard, JpegQuality::High, JpegQuality::Best}) {
+                const QImage picture = samples::noise(9, 7).convertToFormat(format);
+                QCOMPARE(decoded(encodeJpeg(picture, {}, Kept::Everything, quality)).size(), QSize(9, 7));
+            }
     }
 
     void whatCannotBeEncodedIsEmpty()
     {
-        QVERIFY(encodeJpeg(QImage(), {}).isEmpty());
-        QVERIFY(encodeJpeg(samples::flat(65501, 1, Qt::red), {}).isEmpty());
-        QVERIFY(!encodeJpeg(samples::flat(65500, 1, Qt::red), {}).isEmpty());
+        for (const JpegQuality quality : {JpegQuality::Standard, JpegQuality::High, JpegQuality::Best}) {
+            const auto isEncoded = [quality](const QImage& picture) {
+                return !encodeJpeg(picture, {}, Kept::Everything, quality).isEmpty();
+            };
+            QVERIFY(!isEncoded(QImage()));
+            QVERIFY(!isEncoded(samples::flat(65501, 1, Qt::red)));
+            QVERIFY(isEncoded(samples::flat(65500, 1, Qt::red)));
+        }
     }
 
     void whatTheCameraWroteStays_data()
