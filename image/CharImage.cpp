@@ -7,6 +7,7 @@ namespace lumora {
 
 float CharImage::random[100] = {};
 int CharImage::useRandom = 1;
+bool CharImage::prints = true;
 unsigned char* CharImage::samplePixels = new unsigned char[108];
 
 CharImage::CharImage(unsigned char* pixels, int columns, int rows)

@@ -43,6 +43,11 @@ public:
     /// Refills `random` by exactly 100 draws from `rand()`, in order.
     static void renewRandomNumbers();
 
+    // ---- Lines ----
+    /// Whether the operations that are said to print write their lines to standard output. A program that is to print
+    /// something else there, and a library that is to print nothing, switch it off.
+    static bool prints;
+
     // ---- Filter catalogue: looks, lists, crops and borders share the numbers of FilterNumber.h ----
     static GrowArray<int> customFilterFiltersA; ///< what Filter::customA applies
     static GrowArray<int> customFilterFiltersB; ///< what Filter::customB applies

@@ -174,7 +174,8 @@ void CharImage::applyFilter(int filter)
 
 void CharImage::applyOriginalFilter()
 {
-    std::puts("applying original filter");
+    if (prints)
+        std::puts("applying original filter");
 }
 
 void CharImage::applyCustomFilterA()

@@ -36,8 +36,9 @@ void setApart(float (&exponent)[3], float choice)
 void CharImage::applyCrossProcessFilter()
 {
     const ColorcrossParameters p = currentParameters<ColorcrossParameters>();
-    std::printf("powers %s %s %s\n", sixPlaces(p.exponent[0]).c_str(), sixPlaces(p.exponent[1]).c_str(),
-        sixPlaces(p.exponent[2]).c_str());
+    if (prints)
+        std::printf("powers %s %s %s\n", sixPlaces(p.exponent[0]).c_str(), sixPlaces(p.exponent[1]).c_str(),
+            sixPlaces(p.exponent[2]).c_str());
     forEachPixel(
         *this, filmCurve(p.exponent[0]), filmCurve(p.exponent[1]), filmCurve(p.exponent[2]), [](Rgb c) { return c; });
 }

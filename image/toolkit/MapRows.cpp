@@ -1,6 +1,7 @@
 #include "image/toolkit/MapRows.h"
 
 #include "core/SixPlaces.h"
+#include "image/CharImage.h"
 #include "image/toolkit/Kernel.h"
 
 #include <cstdio>
@@ -29,6 +30,8 @@ GrowArray<float> printedKernel(int size, float exponent)
 {
     GrowArray<float> weights;
     fillKernel(weights, size, exponent, false);
+    if (!CharImage::prints)
+        return weights;
     std::printf("%i gauss kernel values\n", weights.numThings);
     for (int i = 0; i < weights.numThings; i++)
         std::printf("   val %s\n", sixPlaces(weights.theArray[i]).c_str());

@@ -108,6 +108,18 @@ TEST(FilterCatalogue, OnlyPrintsForNumbersWithoutAnEffect)
     }
 }
 
+TEST(FilterCatalogue, PrintsNothingWherePrintingIsOff)
+{
+    const auto image = imageOf(randomPicture(40, 30, 6));
+    testing::internal::CaptureStdout();
+    CharImage::prints = false;
+    for (int filter = -1; filter <= Filter::end; filter++)
+        image->applyFilter(filter);
+    CharImage::smoothCharMap(image->data, 40, 30, 3, 1.0f, 0.0f);
+    CharImage::prints = true;
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+}
+
 TEST(FilterCatalogue, AppliesEveryLookToPicturesWithoutPixels)
 {
     const GrowArray<int> looks = CharImage::getLooks();
