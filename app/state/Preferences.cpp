@@ -1,6 +1,8 @@
 #include "app/state/Preferences.h"
 
 #include <QFile>
+#include <QLockFile>
+#include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QVariant>
@@ -18,7 +20,10 @@ QString text(const GrowString& string)
     return QString::fromLatin1(string.cString());
 }
 
-constexpr const char* ownSections[] = {"[General]", "[Saving]", "[Window]"}; ///< one for each group of keys
+// The described choices are keys without a group, which is "[General]" in the file. What is remembered beside them has
+// groups of its own, which no version counts.
+constexpr char describedSection[] = "[General]\n";
+constexpr const char* ownSections[] = {"[General]", "[Saving]", "[Window]"}; ///< those that a file may begin with
 constexpr off_t longestFile = 1'000'000; ///< bytes; a store has some hundred
 
 /// The file of the store. The platform opens it as soon as it is asked for its name.
@@ -72,6 +77,28 @@ bool isForeign(const QByteArray& path)
     return !text.isEmpty() && (!beginsAsOurs || !std::ranges::all_of(lines, isOurs));
 }
 
+/// Older programs know the file by the described section at its beginning, where the platform puts sections in the
+/// order in which they come.
+void putDescribedFirst(const QByteArray& path)
+{
+    QLockFile lock(QFile::decodeName(path + ".lock")); // the platform's own, against another window that writes
+    QFile file(QFile::decodeName(path));
+    if (!lock.tryLock() || !file.open(QIODevice::ReadOnly))
+        return; // the next choice that is saved does it
+    QByteArray others = file.readAll(), described = describedSection;
+    if (others.startsWith(describedSection))
+        return;
+    const qsizetype begin = others.indexOf(QByteArray("\n") + describedSection) + 1;
+    if (begin > 0) {
+        const qsizetype next = others.indexOf("\n[", begin) + 1, length = (next > 0 ? next : others.size()) - begin;
+        described = others.mid(begin, length).trimmed() + '\n';
+        others.remove(begin, length);
+    }
+    QSaveFile changed(file.fileName());
+    if (changed.open(QIODevice::WriteOnly) && changed.write(described + '\n' + others.trimmed() + '\n') > 0)
+        changed.commit();
+}
+
 /// The store; none where something else stands in the place of its file, or of the one that it looks into besides.
 std::unique_ptr<QSettings> openStore()
 {
@@ -86,9 +113,10 @@ void store(const GrowString& key, const QVariant& value)
     const auto settings = openStore();
     // A file that is not a preferences file at all is somebody's: it is not written over.
     if (!settings || isForeign(fileName()))
-        qWarning("%s is not a preferences file: choices are not saved", fileName().constData());
-    else
-        settings->setValue(text(key), value);
+        return qWarning("%s is not a preferences file: choices are not saved", fileName().constData());
+    settings->setValue(text(key), value);
+    settings->sync();
+    putDescribedFirst(fileName());
 }
 
 QVariant stored(const GrowString& key)

@@ -198,6 +198,61 @@ private slots:
         QCOMPARE(MainWindowController().size(), QSize(700, 620));
     }
 
+    void theDescribedKeysAreWhatTheyWouldBeAlone()
+    {
+        // As the platform itself writes them, one after the other, where nothing else is remembered.
+        const std::pair<const char*, QVariant> choices[] = {{"UseMultiFilter", true}, {"UseRandomness", true},
+            {"BorderStyle", 4}, {"CroppingStyle", 4}, {"OutputSize", 7}, {"PrefsVersion", 2}};
+        for (const auto& [key, value] : choices)
+            QSettings("Dovrel", "Lumora").setValue(key, value);
+        const QByteArray alone = contentsOf(QFile::encodeName(preferencesFile()));
+        QVERIFY(alone.startsWith("[General]\n") && alone.count('[') == 1);
+
+        for (const char* before : {"", "[Window]\nHeight=620\nWidth=900\n"}) {
+            setPreferences(before);
+            Desk desk;
+            setPreferenceInt("Saving/Kept", 1); // before the first of them
+            QVERIFY(contentsOf(QFile::encodeName(preferencesFile())).startsWith("[General]\n"));
+            desk.click("chkMultiFilter");
+            desk.click("chkRandomness");
+            desk.choose("btnBorders", "Rounded");
+            desk.choose("btnCropping", "4x3");
+            desk.choose("btnImgSize", "500");
+            desk.window.applicationWillTerminate();
+            const QByteArray all = contentsOf(QFile::encodeName(preferencesFile()));
+            QVERIFY2(all.startsWith(alone + "\n["), all.constData());
+            QCOMPARE(getPreferenceInt("Saving/Kept"), 1);
+            QCOMPARE(getPreferenceInt("Window/Height"), desk.window.height());
+        }
+    }
+
+    void theDescribedSectionIsMovedToTheBeginning()
+    {
+        setPreferences("[Window]\nWidth=900\n\n[General]\nBorderStyle=1\n\n[Saving]\nKept=2\n");
+        setPreferenceInt("Saving/Kept", 1);
+        const QByteArray all = contentsOf(QFile::encodeName(preferencesFile()));
+        QVERIFY2(all.startsWith("[General]\nBorderStyle=1\n\n["), all.constData());
+        QVERIFY2(all.count('[') == 3 && all.contains("\n[Window]\nWidth=900\n"), all.constData());
+        QVERIFY2(all.contains("\n[Saving]\nKept=1\n"), all.constData());
+    }
+
+    void anOlderProgramFindsAndKeepsTheFile()
+    {
+        {
+            Desk desk;
+            setPreferenceInt("Saving/Kept", 1);
+            desk.choose("btnBorders", "Rounded");
+            desk.window.applicationWillTerminate();
+        }
+        // It takes a file of plain lines that begins with the described section, and knows those keys alone.
+        for (const QByteArray& line : contentsOf(QFile::encodeName(preferencesFile())).split('\n'))
+            QVERIFY2(QRegularExpression("^(\\[[A-Za-z]+\\]|[A-Za-z]+=.*|)$").match(line).hasMatch(), line.constData());
+        QSettings("Dovrel", "Lumora").setValue("BorderStyle", 2);
+        Desk desk;
+        QCOMPARE(chosen(desk).border, 2);
+        QCOMPARE(getPreferenceInt("Saving/Kept"), 1);
+    }
+
     void quittingBehindAPanelSavesTheChoices_data()
     {
         QTest::addColumn<QByteArray>("button");
