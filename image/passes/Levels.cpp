@@ -47,17 +47,21 @@ constexpr std::size_t neverSampled = 11; ///< but none of the last ones
 void countLuminances(
     const unsigned char* pixels, std::size_t end, std::size_t step, GrowArray<int>* histogram, int* minLum)
 {
+    const std::size_t ahead = 64 * step; // asked for early, as there is little else to do while the memory answers
     int counts[256] = {};
-    int lowest = 255, highest = -1;
     for (std::size_t i = 0; i < end; i += step) {
-        const int lum = int(byteLuminance(pixelAt(pixels + i * 4)));
-        counts[lum]++;
-        lowest = lum < lowest ? lum : lowest;
-        highest = lum > highest ? lum : highest;
+        if (end - i > ahead)
+            __builtin_prefetch(pixels + (i + ahead) * 4);
+        counts[int(byteLuminance(pixelAt(pixels + i * 4)))]++;
     }
-    for (int k = 0; k <= highest; k++)
+    int lowest = 0, levels = 256;
+    while (levels > 0 && counts[levels - 1] == 0)
+        levels--;
+    while (lowest < levels && counts[lowest] == 0)
+        lowest++;
+    for (int k = 0; k < levels; k++)
         histogram->add(counts[k]);
-    *minLum = highest < 0 ? 0 : lowest;
+    *minLum = lowest;
 }
 
 std::size_t sampledEnd(const CharImage& image)
