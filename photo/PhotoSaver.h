@@ -8,7 +8,7 @@
 
 /// How much of a picture a JPEG holds.
 enum class JpegQuality {
-    Standard, ///< the encoder's default; four pixels share their colour
+    Standard, ///< 75 of 100, as encoders have it; four pixels share their colour
     High, ///< 92 of 100; each pixel has its colour
     Best, ///< 97 of 100; each pixel has its colour
 };

@@ -33,7 +33,7 @@ public:
     Encoder& operator=(const Encoder&) = delete;
 
     /// Of Format_RGBX8888 or Format_RGB32.
-    bool write(const QImage& image, int quality, const QByteArray& profile)
+    bool write(const QImage& image, int quality, JpegColours colours, const QByteArray& profile)
     {
         if (setjmp(m_failed) != 0)
             return false;
@@ -45,8 +45,8 @@ public:
         m_info.in_color_space = image.format() == QImage::Format_RGBX8888 ? JCS_EXT_RGBX : nativeColours;
         jpeg_set_defaults(&m_info);
         jpeg_set_quality(&m_info, quality, TRUE);
-        for (int i = 0; i < m_info.num_components; i++)
-            m_info.comp_info[i].h_samp_factor = m_info.comp_info[i].v_samp_factor = 1;
+        const int pixelsPerColour = colours == JpegColours::OfEachPixel ? 1 : 2; // in each direction
+        m_info.comp_info[0].h_samp_factor = m_info.comp_info[0].v_samp_factor = pixelsPerColour;
         jpeg_start_compress(&m_info, TRUE);
         jpeg_write_icc_profile(&m_info, reinterpret_cast<const JOCTET*>(profile.constData()), unsigned(profile.size()));
         while (m_info.next_scanline < m_info.image_height) {
@@ -69,11 +69,11 @@ private:
 
 } // namespace
 
-QByteArray fineJpeg(const QImage& image, int quality)
+QByteArray encodedPixels(const QImage& image, int quality, JpegColours colours)
 {
     const bool isRgbx = image.format() == QImage::Format_RGBX8888;
     const QImage rows = isRgbx ? image : image.convertToFormat(QImage::Format_RGB32);
     const QByteArray profile = QColorSpace(QColorSpace::SRgb).iccProfile();
     Encoder encoder;
-    return !rows.isNull() && encoder.write(rows, quality, profile) ? encoder.bytes() : QByteArray();
+    return !rows.isNull() && encoder.write(rows, quality, colours, profile) ? encoder.bytes() : QByteArray();
 }

@@ -77,14 +77,27 @@ private slots:
         QVERIFY(!picture.colorSpace().isValid()); // as it was
     }
 
-    void standardQualityIsTheEncodersDefault()
+    void standardQualityIsThePlatformsDefault()
     {
-        QImage picture = samples::noise(64, 48);
-        picture.setColorSpace(QColorSpace::SRgb);
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        QVERIFY(picture.save(&buffer, "jpeg"));
-        QCOMPARE(encodeJpeg(picture, {}), buffer.data());
+        for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_RGBX8888}) {
+            QImage picture = samples::noise(64, 48).convertToFormat(format);
+            picture.setColorSpace(QColorSpace::SRgb);
+            QBuffer buffer;
+            buffer.open(QIODevice::WriteOnly);
+            QVERIFY(picture.save(&buffer, "jpeg"));
+            constexpr qsizetype heading = 20; // tells the density of the screen, which is nothing of the picture's
+            QVERIFY(buffer.data().size() > 1000);
+            QCOMPARE(encodeJpeg(picture, {}).mid(heading), buffer.data().mid(heading));
+        }
+    }
+
+    void pictureHasNoDensity()
+    {
+        QImage picture = samples::noise(9, 7);
+        const QByteArray file = encodeJpeg(picture, {});
+        picture.setDotsPerMeterX(6000);
+        picture.setDotsPerMeterY(5000);
+        QCOMPARE(encodeJpeg(picture, {}), file);
     }
 
     void otherQualitiesAreNumbersOfTheSameScale_data()
