@@ -12,6 +12,10 @@ LookButton::LookButton(QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // An empty place for the picture. A button without one is as low as its text: the strip would leap at the first.
+    QPixmap nothing(120, 120); // as large as one gets: its name stands where it will be
+    nothing.fill(Qt::transparent);
+    setIcon(nothing);
 }
 
 void LookButton::setFilter(int filter)

@@ -69,6 +69,7 @@ void LookStrip::fit()
     m_side = thumbnailSide((width() + spacing) / int(all.size()) - spacing, window()->height());
     for (LookButton* button : all)
         button->setIconSize({m_side, m_side});
+    widget()->layout()->invalidate(); // which buttons that are about to be shown have not told it
     widget()->layout()->activate();
     const QSize needed = widget()->minimumSizeHint();
     const bool scrolls = needed.width() > width();

@@ -157,6 +157,18 @@ private slots:
         QCOMPARE(side(), QSize(72, 72));
     }
 
+    void theFirstPhotoMovesNothing()
+    {
+        for (const QSize size : {QSize(900, 480), QSize(1180, 800)}) {
+            Desk desk;
+            resizeTo(desk, size);
+            const QRect strip = desk.find<LookStrip>("filtersBox")->geometry();
+            QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "a.png", makePhoto(300, 200))));
+            QApplication::sendPostedEvents();
+            QCOMPARE(desk.find<LookStrip>("filtersBox")->geometry(), strip);
+        }
+    }
+
     /// A picture has the pixels that it takes on the screen, whatever the photo's shape.
     void thumbnailsHaveTheScreensPixels()
     {
