@@ -1,5 +1,6 @@
 #include "app/preview/DragDropImageView.h"
 
+#include "app/preview/CornerLabel.h"
 #include "render/Scaled.h"
 
 #include <QDragEnterEvent>
@@ -27,6 +28,15 @@ DragDropImageView::DragDropImageView(QWidget* parent)
     : QWidget(parent)
 {
     setAcceptDrops(true);
+    tellState();
+}
+
+/// For whoever listens to the screen.
+void DragDropImageView::tellState()
+{
+    setAccessibleDescription(m_comparing ? tr("Before: the photo without its looks, in its crop and border.")
+                                         : tr("The photo under the applied looks. Hold the mouse or the space bar to "
+                                              "see it before."));
 }
 
 void DragDropImageView::setImage(const QImage& image, const QString& reason)
@@ -35,21 +45,18 @@ void DragDropImageView::setImage(const QImage& image, const QString& reason)
     m_comparing = false;
     m_rendered = image;
     m_reason = reason;
+    tellState();
     update(before | shownArea());
-}
-
-void DragDropImageView::setComparedImage(const QImage& image)
-{
-    m_compared = image;
-    if (m_comparing)
-        update();
 }
 
 void DragDropImageView::setComparing(bool on)
 {
     if (m_comparing == on)
         return;
+    if (on)
+        m_compared = m_before ? m_before() : QImage();
     m_comparing = on;
+    tellState();
     update();
 }
 
@@ -124,6 +131,8 @@ void DragDropImageView::paintEvent(QPaintEvent*)
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_reason.isEmpty() ? invitation : m_reason);
     } else {
         painter.drawImage(imageRect(), fitted());
+        if (m_comparing)
+            paintCornerLabel(painter, imageRect(), tr("Before"));
     }
     if (m_dropSign)
         paintDropSign(painter);

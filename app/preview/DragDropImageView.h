@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QImage>
 #include <QWidget>
+#include <functional>
+#include <utility>
 
 class QMimeData;
 
@@ -15,8 +17,8 @@ public:
 };
 
 /// The preview: shows a picture fitted and never enlarged, a pixel of the picture being a pixel of the screen at the
-/// most, and accepts files dropped on it. While the mouse is held on it, or comparing is set, it shows another picture:
-/// the photo as it came.
+/// most, and accepts files dropped on it. While the mouse is held on it, or comparing is set, it shows another picture,
+/// "Before".
 class DragDropImageView : public QWidget {
     Q_OBJECT
 
@@ -27,8 +29,9 @@ public:
     /// Also ends comparing: what is new must be seen. `reason`: why there is no picture, shown in its place; without
     /// one a null picture invites to drop a photo.
     void setImage(const QImage& image, const QString& reason = {});
-    /// What is shown while comparing.
-    void setComparedImage(const QImage& image);
+    /// Gives the picture that is shown while comparing. It is asked each time that comparing begins, not while it goes
+    /// on.
+    void setBefore(std::function<QImage()> before) { m_before = std::move(before); }
     void setComparing(bool on);
     /// The picture that is shown now.
     const QImage& shownImage() const;
@@ -73,7 +76,9 @@ private:
     QRect shownArea() const;
     const QImage& fitted();
     void paintDropSign(QPainter& painter);
+    void tellState();
 
+    std::function<QImage()> m_before;
     QImage m_rendered, m_compared;
     Fitted m_fittedImages[2]; ///< of the render and of the compared picture
     QString m_reason;

@@ -58,7 +58,7 @@ void MainWindowController::setCurrentFile(const QByteArray& path)
 void MainWindowController::setoriginalImage(const QImage& image)
 {
     m_photo.setOriginal(image, displayRes, thumbDensity());
-    m_ui->mainImageView->setComparedImage(m_photo.display());
+    m_framedOriginal = {}; // it may be as large as the photo
     showWhatCanBeDone();
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/controls/KeyRepeat.h"
 #include "app/preview/DragDropImageView.h"
+#include "app/preview/FramedOriginal.h"
 #include "app/state/DocumentSlots.h"
 #include "app/state/History.h"
 #include "app/state/LookList.h"
@@ -208,6 +209,7 @@ private:
     WorkInProgress m_work{*this};
     std::unique_ptr<PhotoReader> m_reader;
     Photo m_photo;
+    FramedOriginal m_framedOriginal; ///< what the preview is compared with
     History m_history{*this, &MainWindowController::roomForFormerPhotos};
     unsigned m_renderSeed = 0; ///< of the random numbers that the preview drew while it was rendered
     QImage m_filtersAppliedImage; ///< the latest render

@@ -82,6 +82,8 @@ void MainWindowController::completeNibLoading()
     fill(*m_ui->btnImgSize, {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
 
     m_ui->mainImageView->setDelegate(this);
+    // Crop and border are those of the render before: each one reads them from the options.
+    m_ui->mainImageView->setBefore([this] { return m_framedOriginal.of(m_photo.display(), cropFilter, borderFilter); });
     qApp->installEventFilter(this);
     buildMenus();
     showStrength(wholeStrength);

@@ -1,6 +1,7 @@
 #include "tests/app/Desk.h"
 
 #include "photo/PhotoReader.h"
+#include "render/RenderPipeline.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -102,6 +103,12 @@ QString Desk::breadcrumb()
 std::vector<int> Desk::looks() const
 {
     return {window.filterIDs.theArray, window.filterIDs.theArray + window.filterIDs.numThings};
+}
+
+QImage Desk::before() const
+{
+    return renderPhoto(
+        window.getoriginalDisplay(), {.cropFilter = window.cropFilter, .borderFilter = window.borderFilter});
 }
 
 QStringList Desk::pressedButtons()

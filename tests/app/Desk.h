@@ -55,6 +55,8 @@ public:
     QStringList pressedButtons();
     /// Changes whenever something was rendered.
     qint64 render() const { return window.getFiltersAppliedImage().cacheKey(); }
+    /// What the preview is compared with: the photo without looks, under the crop and border of the preview.
+    QImage before() const;
 
     /// Calls `action` and answers the file panel that it opens.
     void withPanel(const std::function<void(QFileDialog&)>& answer, const std::function<void()>& action);

@@ -151,4 +151,8 @@ def write(text):
 
 def take_screenshot(tools, path, node):
     """Saves what the display shows where a node is."""
-    subprocess.run([os.path.join(tools, "journey_screenshot"), path, *map(str, extents(node))], check=True)
+    take_screenshot_of_box(tools, path, *extents(node))
+
+
+def take_screenshot_of_box(tools, path, x, y, width, height):
+    subprocess.run([os.path.join(tools, "journey_screenshot"), path, *map(str, (x, y, width, height))], check=True)

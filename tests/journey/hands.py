@@ -20,38 +20,40 @@ def looks_of(lumora, name):
 
 
 def compare(lumora, as_it_came):
-    """Holds the space bar: the photo as it came is seen for that long, and nothing else happens."""
-    shown, line = lumora.seen(), lumora.breadcrumb()
+    """Holds the space bar: the photo without its looks is seen for that long, and nothing else happens."""
+    shown, line = lumora.seen_beside_label(), lumora.breadcrumb()
     assert shown != as_it_came
     with held("space"):
-        wait_for("the photo as it came", lambda: lumora.seen() == as_it_came)
-    wait_for("the photo under its look", lambda: lumora.seen() == shown)
+        wait_for("the photo as it came", lambda: lumora.seen_beside_label() == as_it_came)
+    wait_for("the photo under its look", lambda: lumora.seen_beside_label() == shown)
     hold("space")
-    wait_for("the photo under its look", lambda: lumora.seen() == shown)
+    wait_for("the photo under its look", lambda: lumora.seen_beside_label() == shown)
     assert lumora.breadcrumb() == line, lumora.breadcrumb()
 
 
 with Lumora(build, photo) as lumora:
     lumora.wait_for_title("Lumora - " + os.path.basename(photo))
     lumora.wait_for_breadcrumb("Original")
-    came = wait_for("the photo", lumora.seen)
+    for label in ("Crop", "Border"):
+        lumora.choose(label, "None")  # so that a look changes nothing but colours
+    came = wait_for("the photo", lumora.seen_beside_label)
     unpressed = looks_of(lumora, "Helga")
 
     # After a click on a look, and after one on a turn.
     lumora.press("Helga")
     lumora.wait_for_breadcrumb("Helga")
     compare(lumora, came)
-    under_helga = lumora.seen()
+    under_helga = lumora.seen_beside_label()
     lumora.press("Rotate right")
-    wait_for("the photo to turn", lambda: lumora.seen() != under_helga)
+    wait_for("the photo to turn", lambda: lumora.seen_beside_label() != under_helga)
     with held("space"):
-        wait_for("the photo as it came", lambda: lumora.seen() not in (under_helga, came))
-        turned = lumora.seen()
+        wait_for("the photo as it came", lambda: lumora.seen_beside_label() not in (under_helga, came))
+        turned = lumora.seen_beside_label()
     compare(lumora, turned)
     key("1")
-    wait_for("the turned photo", lambda: lumora.seen() == turned)
+    wait_for("the turned photo", lambda: lumora.seen_beside_label() == turned)
     key("ctrl+z", "ctrl+z")  # one look, one turn
-    wait_for("the photo before the turn", lambda: lumora.seen() == under_helga)
+    wait_for("the photo before the turn", lambda: lumora.seen_beside_label() == under_helga)
 
     # A look that is taken off again is as it was, without a frame.
     lumora.press("Helga")
@@ -79,13 +81,13 @@ with Lumora(build, photo) as lumora:
     lumora.wait_for_breadcrumb("Helga")
     with held("ctrl"):
         hold("r")
-    wait_for("the photo to turn", lambda: lumora.seen() != under_helga)
+    wait_for("the photo to turn", lambda: lumora.seen_beside_label() != under_helga)
     key("ctrl+z")
-    wait_for("the photo before the turn", lambda: lumora.seen() == under_helga)
+    wait_for("the photo before the turn", lambda: lumora.seen_beside_label() == under_helga)
     with held("ctrl"), held("shift"):
         hold("f")
     lumora.wait_for_breadcrumb("Original")
     key("ctrl+z")
     lumora.wait_for_breadcrumb("Helga")
-    wait_for("the photo before it was flattened", lambda: lumora.seen() == under_helga)
+    wait_for("the photo before it was flattened", lambda: lumora.seen_beside_label() == under_helga)
     lumora.quit()

@@ -6,23 +6,16 @@ import sys
 
 import pyatspi
 
-from desk import click, find, has_state, is_checked, key, middle, point_at, take_screenshot, wait_for, xdotool
+from desk import click, find, has_state, is_checked, key, middle, point_at, wait_for, xdotool
 from lumora import BUTTONS, LOOK_BUTTONS, MENU_LOOKS, Lumora
 
 build, photo = sys.argv[1:3]
-picture = os.path.join(os.environ["HOME"], "preview.png")
 all_looks = LOOK_BUTTONS + MENU_LOOKS
 
 
 def extents(node):
     node.clear_cache()
     return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-
-
-def seen(lumora):
-    take_screenshot(lumora.tools, picture, lumora.preview())
-    with open(picture, "rb") as file:
-        return file.read()
 
 
 with Lumora(build, photo) as lumora:
@@ -51,16 +44,16 @@ with Lumora(build, photo) as lumora:
         key("Right")
         focus_on(name)
         assert in_sight(name), name
-    shown = [seen(lumora)]
+    shown = [lumora.seen_beside_label()]
     key("space")
     lumora.wait_for_breadcrumb("Blowout")
     wait_for("Blowout to be shown as pressed", lambda: is_checked(look("Blowout")))
-    wait_for("the screen to change", lambda: seen(lumora) != shown[-1])
-    shown.append(seen(lumora))
+    wait_for("the screen to change", lambda: lumora.seen_beside_label() != shown[-1])
+    shown.append(lumora.seen_beside_label())
     xdotool("keydown", "space")  # held, it compares
-    wait_for("the photo as it came", lambda: seen(lumora) == shown[0])
+    wait_for("the photo before its look", lambda: lumora.seen_beside_label() == shown[0])
     xdotool("sleep", 0.5, "keyup", "space")  # so long that it is no tap
-    wait_for("the look again", lambda: seen(lumora) == shown[1])
+    wait_for("the look again", lambda: lumora.seen_beside_label() == shown[1])
     lumora.wait_for_breadcrumb("Blowout")
     key("Left")
     focus_on("Arctic")
@@ -68,7 +61,7 @@ with Lumora(build, photo) as lumora:
     lumora.wait_for_breadcrumb("Arctic")
     key("ctrl+z")
     lumora.wait_for_breadcrumb("Blowout")
-    wait_for("the picture of before", lambda: seen(lumora) == shown[1])
+    wait_for("the picture of before", lambda: lumora.seen_beside_label() == shown[1])
     key("2")  # digits mean the ten first
     lumora.wait_for_breadcrumb("Helga")
     wait_for("the strip to scroll to Helga", lambda: in_sight("Helga"))

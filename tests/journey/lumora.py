@@ -6,8 +6,8 @@ import tempfile
 
 import pyatspi
 
-from desk import (application, click, deadline, find, has_state, is_showing, key, say, take_screenshot, wait_for,
-                  wait_for_window_manager, walk, write)
+from desk import (application, click, deadline, extents, find, has_state, is_showing, key, say, take_screenshot,
+                  take_screenshot_of_box, wait_for, wait_for_window_manager, walk, write)
 
 BUTTONS = (pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_TOGGLE_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON)
 FIELDS = (pyatspi.ROLE_TEXT, pyatspi.ROLE_ENTRY)
@@ -84,6 +84,14 @@ class Lumora:
         """What the screen shows of the photo."""
         picture = os.path.join(os.environ["HOME"], "seen.png")
         take_screenshot(self.tools, picture, self.preview())
+        with open(picture, "rb") as file:
+            return file.read()
+
+    def seen_beside_label(self):
+        """What the screen shows of the right half of the photo, where no label stands while it is compared."""
+        x, y, width, height = extents(self.preview())
+        picture = os.path.join(os.environ["HOME"], "half.png")
+        take_screenshot_of_box(self.tools, picture, x + width // 2, y, width // 2, height)
         with open(picture, "rb") as file:
             return file.read()
 

@@ -80,7 +80,7 @@ private slots:
             QCOMPARE((*own)->text(), QString(text));
         }
         QCOMPARE(desk.find<QWidget>("mainImageView")->toolTip(),
-            QString("Drop a photo here. Hold to see the photo as it came."));
+            QString("Drop a photo here. Hold to see the photo without its looks."));
     }
 };
 

@@ -230,7 +230,7 @@ private slots:
         LookButton* arctic = desk.button(Filter::arctic);
         arctic->setFocus(Qt::TabFocusReason);
         QTest::keyPress(arctic, Qt::Key_Space);
-        QCOMPARE(view->shownImage(), desk.window.getoriginalDisplay());
+        QCOMPARE(view->shownImage(), desk.before());
         desk.space(arctic, 400);
         QCOMPARE(desk.looks(), Looks{Filter::mono});
         QCOMPARE(view->shownImage(), desk.window.getFiltersAppliedImage());

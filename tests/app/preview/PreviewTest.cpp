@@ -68,25 +68,68 @@ private slots:
     {
         Preview preview;
         const QImage render = makePhoto(1200, 800), came = render.mirrored(true, false);
+        QImage before = came;
         const auto shows = [&](const QImage& picture) {
-            return preview.onScreen() == Preview::ofNewOne(preview.size(), picture);
+            const QRect below(0, 60, preview.width(), preview.height() - 60); // the label
+            return preview.onScreen().copy(below) == Preview::ofNewOne(preview.size(), picture).copy(below);
         };
         preview.setImage(render);
-        preview.setComparedImage(came);
+        preview.setBefore([&before] { return before; });
         QTRY_VERIFY(shows(render));
         preview.setComparing(true);
         QTRY_VERIFY(shows(came));
         preview.resize(240, 180);
         QTRY_VERIFY(shows(came));
-        const QImage another = render.mirrored(false, true);
-        preview.setComparedImage(another);
-        QTRY_VERIFY(shows(another));
         preview.setComparing(false);
         QTRY_VERIFY(shows(render));
+        const QImage another = before = render.mirrored(false, true);
         preview.setComparing(true);
         QTRY_VERIFY(shows(another));
         preview.setImage(came); // a new render ends it
         QTRY_VERIFY(shows(came));
+    }
+
+    void aLabelSaysThatItIsBefore()
+    {
+        Preview preview;
+        const QImage picture = makePhoto(1200, 800);
+        preview.setBefore([&picture] { return picture; });
+        preview.setImage(picture);
+        const QImage plain = Preview::ofNewOne(preview.size(), picture);
+        QTRY_COMPARE(preview.onScreen(), plain);
+        preview.setComparing(true);
+        QTRY_VERIFY(preview.onScreen() != plain);
+        const QImage labelled = preview.onScreen();
+        QRect place;
+        for (int y = 0; y < plain.height(); y++)
+            for (int x = 0; x < plain.width(); x++)
+                if (labelled.pixel(x, y) != plain.pixel(x, y))
+                    place |= QRect(x, y, 1, 1);
+        QVERIFY2(QRect(4, 4, 90, 36).contains(place), qPrintable(QDebug::toString(place)));
+        QVERIFY(place.width() > 20 && place.height() > 8);
+        preview.setComparing(false);
+        QTRY_COMPARE(preview.onScreen(), plain);
+    }
+
+    void aPictureWithoutRoomForTheLabelHasNone()
+    {
+        Preview preview;
+        for (const QSize size : {QSize(200, 16), QSize(30, 150)}) {
+            const QImage picture = makePhoto(size.width(), size.height());
+            preview.setBefore([&picture] { return picture; });
+            preview.setImage(picture);
+            preview.setComparing(true);
+            QTRY_COMPARE(preview.onScreen(size), picture);
+        }
+    }
+
+    void withoutAPictureThereIsNothingToCompare()
+    {
+        Preview preview;
+        const QImage words = Preview::ofNewOne(preview.size(), {});
+        QTRY_COMPARE(preview.onScreen(), words);
+        preview.setComparing(true);
+        QTRY_COMPARE(preview.onScreen(), words);
     }
 };
 

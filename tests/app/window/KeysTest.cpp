@@ -58,7 +58,7 @@ private:
                 qFatal("%s does not take the focus", control);
             return widget;
         }
-        bool compares() const { return view->shownImage() == window.getoriginalDisplay(); }
+        bool compares() const { return view->shownImage() == before(); }
         bool showsRender() const { return view->shownImage() == window.getFiltersAppliedImage(); }
         QList<int> chosen()
         {

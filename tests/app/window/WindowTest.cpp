@@ -173,14 +173,14 @@ private slots:
         QVERIFY(desk.window.getFiltersAppliedImage().isNull());
     }
 
-    void holdingShowsThePhotoAsItCame()
+    void holdingShowsThePhotoWithoutItsLooks()
     {
         Desk desk(makePhoto(300, 200));
         desk.click("btnMono");
         auto* view = desk.find<DragDropImageView>("mainImageView");
         const qint64 render = desk.render();
         const auto showsRender = [&] { return view->shownImage() == desk.window.getFiltersAppliedImage(); };
-        const auto showsPhoto = [&] { return view->shownImage() == desk.window.getoriginalDisplay(); };
+        const auto showsPhoto = [&] { return view->shownImage() == desk.before(); };
         QVERIFY(showsRender());
         QTest::mousePress(view, Qt::LeftButton);
         QVERIFY(showsPhoto());

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+/// Paints a word in an upper corner of `room`, small and on a veil, so that it can be read on any picture: in the
+/// right corner where `right`, else in the left one. Where the word does not fit nothing is painted.
+void paintCornerLabel(QPainter& painter, const QRectF& room, const QString& word, bool right = false);

@@ -1,0 +1,17 @@
+#include "app/preview/FramedOriginal.h"
+
+#include "render/RenderPipeline.h"
+
+const QImage& FramedOriginal::of(const QImage& source, int cropFilter, int borderFilter)
+{
+    if (m_source == source.cacheKey() && m_cropFilter == cropFilter && m_borderFilter == borderFilter)
+        return m_picture;
+    m_source = source.cacheKey();
+    m_cropFilter = cropFilter;
+    m_borderFilter = borderFilter;
+    m_picture = {}; // may be as large as the photo
+    m_picture = renderPhoto(source, {.cropFilter = cropFilter, .borderFilter = borderFilter});
+    if (m_picture.isNull() || m_picture == source)
+        m_picture = source;
+    return m_picture;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QImage>
+
+/// The photo without its looks under the crop and border of a preview: what the preview is compared with, so that only
+/// the looks make the difference. It is made when it is first asked for, and kept until something else is asked for.
+class FramedOriginal {
+public:
+    /// What a render of `source` without looks gives for the crop and the border of these filter numbers: `source`
+    /// itself where they leave it as it is, or where there is no memory for another picture.
+    const QImage& of(const QImage& source, int cropFilter, int borderFilter);
+
+private:
+    qint64 m_source = 0; ///< its cache key
+    int m_cropFilter = -1, m_borderFilter = -1;
+    QImage m_picture;
+};
