@@ -20,6 +20,7 @@ BELOW = {
     "core": [],
     **{room: ENGINE[: ENGINE.index(room)] for room in ROOMS},
     "image": ENGINE,
+    "library": [*ENGINE, "image"],
     "photo": ["core"],
     "render": [*ENGINE, "image", "photo"],
     "app/state": RENDER,
