@@ -3,6 +3,7 @@
 #include "app/panels/PlainText.h"
 #include "app/state/Rules.h"
 #include "photo/PhotoSaver.h"
+#include "render/Export.h"
 
 #include <QDir>
 #include <QGridLayout>
@@ -11,7 +12,9 @@
 #include <QPushButton>
 #include <sys/stat.h>
 
-SavePanel::SavePanel(QWidget* parent, qint64 bytes, const QByteArray& openPhoto, const QString& looks)
+using namespace lumora;
+
+SavePanel::SavePanel(QWidget* parent, qint64 bytes, const QByteArray& openPhoto, const GrowArray<int>& looks)
     : QFileDialog(parent, tr("Save as JPEG"))
     , m_bytes(bytes)
     , m_openPhoto(openPhoto)
@@ -58,7 +61,7 @@ bool SavePanel::isOpenPhoto(const QString& path) const
 QString SavePanel::pathBeside(const QString& path) const
 {
     const QFileInfo file(path);
-    const QString name = m_looks.isEmpty() ? file.completeBaseName() : file.completeBaseName() + u' ' + m_looks;
+    const QString name = QFile::decodeName(exportName(QFile::encodeName(file.fileName()), m_looks, {}));
     QFileInfo beside(file.dir(), name + ".jpg");
     for (int number = 2; beside.exists() || beside.isSymbolicLink(); number++)
         beside.setFile(file.dir(), QStringLiteral("%1 %2.jpg").arg(name, QString::number(number)));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/GrowArray.h"
+
 #include <QByteArray>
 #include <QFileDialog>
 
@@ -11,9 +13,9 @@ class SavePanel : public QFileDialog {
     Q_OBJECT
 
 public:
-    /// For a file of `bytes` bytes. `openPhoto` is the path of the photo that is worked on, of any bytes; `looks` names
-    /// the looks that it is saved with, empty for none.
-    SavePanel(QWidget* parent, qint64 bytes, const QByteArray& openPhoto, const QString& looks);
+    /// For a file of `bytes` bytes. `openPhoto` is the path of the photo that is worked on, of any bytes; `looks` are
+    /// those that it is saved with.
+    SavePanel(QWidget* parent, qint64 bytes, const QByteArray& openPhoto, const lumora::GrowArray<int>& looks);
 
     /// The path that was chosen, absolute, with one of the six endings; once the panel was confirmed.
     const QString& path() const { return m_path; }
@@ -28,7 +30,7 @@ private:
 
     qint64 m_bytes;
     QByteArray m_openPhoto;
-    QString m_looks;
+    const lumora::GrowArray<int>& m_looks;
     QString m_path;
     QLabel* m_trouble; ///< owned by the panel; says why a name will not do
 };

@@ -1,6 +1,7 @@
 #include "app/state/Photo.h"
 
 #include "app/state/Rules.h"
+#include "render/Export.h"
 #include "render/Scaled.h"
 
 #include <algorithm>

@@ -58,20 +58,6 @@ int thumbnailSide(int buttonWidth, int windowHeight)
     return std::clamp(std::min(buttonWidth - frame, windowHeight / shareOfHeight), smallest, largest);
 }
 
-QSizeF exportSize(const QSize& render, int maxSide)
-{
-    const qreal width = render.width(), height = render.height();
-    if (width > height)
-        return {qreal(maxSide), maxSide * height / width};
-    return {maxSide * width / height, qreal(maxSide)};
-}
-
-QSize bitmapSize(const QSizeF& size)
-{
-    const auto side = [](qreal s) { return std::max(int(std::floor(s + 0.5)), 1); };
-    return {side(size.width()), side(size.height())};
-}
-
 QString breadcrumb(const GrowArray<int>& filterIDs, bool multi)
 {
     QString text;

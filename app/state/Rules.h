@@ -30,13 +30,9 @@ int displayResAfterResize(int displayRes, int frameSide);
 QSizeF displaySize(const QSize& photo, int displayRes);
 /// The size of the thumbnail copy: the shorter side is 100.
 QSizeF thumbnailSize(const QSize& photo);
-/// The size of an export whose longer side is `maxSide`, also when that enlarges.
-QSizeF exportSize(const QSize& render, int maxSide);
 /// The side of the square at which a thumbnail stands in the strip of looks, in points: 72 to 120, as the width for
 /// each button and the height of the window allow.
 int thumbnailSide(int buttonWidth, int windowHeight);
-/// The bitmap of a fractional size: halves are rounded up, and no side is below 1.
-QSize bitmapSize(const QSizeF& size);
 
 /// "Original", one look's name, or the chain "Original > Helga > Mono" in multi mode.
 QString breadcrumb(const lumora::GrowArray<int>& filterIDs, bool multi);

@@ -4,7 +4,7 @@
 #include "photo/EscapedText.h"
 #include "photo/FreeMemory.h"
 #include "photo/PhotoSaver.h"
-#include "render/Scaled.h"
+#include "render/Export.h"
 #include "ui_MainWindow.h"
 
 #include <QColorSpace>
@@ -72,9 +72,7 @@ void MainWindowController::showNote(const QString& line)
 
 QSizeF MainWindowController::downsizeNSImage(QImage& image, int maxSide)
 {
-    const QSizeF size = exportSize(image.size(), maxSide);
-    image = scaledTo(image, bitmapSize(size));
-    return size;
+    return scaleForExport(image, maxSide);
 }
 
 QImage MainWindowController::rotateNSImage(const QImage& image, float degrees)
@@ -142,8 +140,7 @@ void MainWindowController::saveFilteredImage()
     m_work.beginStep(tr("Encode"));
     const QByteArray jpeg = encodeJpeg(render, m_photo.metadata, kept());
     if (jpeg.isEmpty())
-        return openModalSheetWithText(tr("The photo cannot be saved."),
-            tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.").arg(render.width()).arg(render.height()));
+        return openModalSheetWithText(tr("The photo cannot be saved."), jpegRefusal(render.size()));
     const QByteArray path = askWhereToSave(jpeg.size());
     if (path.isEmpty())
         return;

@@ -1,6 +1,7 @@
 #include "app/state/Preferences.h"
 #include "app/window/MainWindowController.h"
 #include "image/CharImage.h"
+#include "render/FramingChoice.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
@@ -14,14 +15,6 @@ using namespace lumora;
 namespace {
 
 constexpr int prefsVersion = 2; ///< of the order of the items in the three pop-ups, which are stored by position
-
-/// The filter number that a crop or border pop-up stands for.
-int chosenFilter(const QComboBox& popUp, const GrowArray<int>& filterIDs)
-{
-    if (popUp.currentText() == QLatin1String("By Filter") && filterIDs.numThings > 0)
-        return filterIDs.theArray[filterIDs.numThings - 1];
-    return CharImage::getFilterFromName(popUp.currentText().toUtf8().constData());
-}
 
 /// Selects the item at a stored index; the first one for an index that the pop-up does not have.
 void select(QComboBox& popUp, int index)
@@ -94,11 +87,10 @@ void MainWindowController::updateFromSettings()
     const bool before = std::exchange(doMultiFiltering, m_ui->chkMultiFilter->isChecked());
     if (doMultiFiltering != before)
         showAppliedFilters();
-    cropFilter = chosenFilter(*m_ui->btnCropping, filterIDs);
-    borderFilter = chosenFilter(*m_ui->btnBorders, filterIDs);
+    cropFilter = chosenFilter(m_ui->btnCropping->currentText(), filterIDs);
+    borderFilter = chosenFilter(m_ui->btnBorders->currentText(), filterIDs);
     strength = m_ui->sldStrength->value();
-    const QString size = m_ui->btnImgSize->currentText();
-    imgOutputSize = size == QLatin1String("Original") ? -1 : size.toInt();
+    imgOutputSize = chosenSize(m_ui->btnImgSize->currentText());
     updateBreadcrumb();
 }
 

@@ -90,8 +90,7 @@ void MainWindowController::loadImageButtonPressed()
 QByteArray MainWindowController::askWhereToSave(qint64 bytes)
 {
     const SettingsAreWritten noHistory(false);
-    const QString looks = filterIDs.numThings > 0 ? breadcrumb(filterIDs, false).replace(" > ", " ") : QString();
-    SavePanel panel(this, bytes, m_photo.filePath, looks);
+    SavePanel panel(this, bytes, m_photo.filePath, filterIDs);
     prepare(panel, m_panelFolder);
     // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
     // is what it asks about: a name that cannot be shown is not taken back.

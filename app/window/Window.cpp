@@ -1,6 +1,7 @@
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "image/CharImage.h"
+#include "render/FramingChoice.h"
 #include "render/FreedBlocks.h"
 #include "ui_MainWindow.h"
 
@@ -77,9 +78,9 @@ void MainWindowController::completeNibLoading()
 
     m_ui->filtersBox->addLooks(furtherLooks());
 
-    fill(*m_ui->btnBorders, {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"});
-    fill(*m_ui->btnCropping, {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"});
-    fill(*m_ui->btnImgSize, {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"});
+    fill(*m_ui->btnBorders, borderChoices());
+    fill(*m_ui->btnCropping, cropChoices());
+    fill(*m_ui->btnImgSize, sizeChoices());
 
     m_ui->mainImageView->setDelegate(this);
     // Crop and border are those of the render before: each one reads them from the options.

@@ -252,7 +252,8 @@ private slots:
         const qint64 room = QStorageInfo(folder.path()).bytesAvailable();
         QVERIFY(room > 0);
         for (const bool fits : {false, true}) {
-            SavePanel panel(nullptr, fits ? room / 2 : room * 2, "photo.png", "Helga");
+            const LookList looks;
+            SavePanel panel(nullptr, fits ? room / 2 : room * 2, "photo.png", looks);
             panel.show();
             QVERIFY(QTest::qWaitForWindowActive(&panel));
             typeName(panel, folder.filePath("out.jpg"));

@@ -1,4 +1,5 @@
 #include "app/state/Rules.h"
+#include "render/Export.h"
 
 #include <QtTest>
 
@@ -46,19 +47,6 @@ private slots:
         QCOMPARE(thumbnailSize({3000, 2000}), QSizeF(150, 100));
         QCOMPARE(thumbnailSize({2000, 3000}), QSizeF(100, 150));
         QCOMPARE(thumbnailSize({50, 50}), QSizeF(100, 100));
-    }
-
-    void exportReachesItsLongerSideAlsoUpwards()
-    {
-        QCOMPARE(exportSize({640, 480}, 1000), QSizeF(1000, 750));
-        QCOMPARE(exportSize({2000, 3000}, 600), QSizeF(400, 600));
-        QCOMPARE(exportSize({70, 70}, 100), QSizeF(100, 100));
-    }
-
-    void bitmapsRoundHalvesUpAndKeepAPixel()
-    {
-        QCOMPARE(bitmapSize({10.5, 10.49}), QSize(11, 10));
-        QCOMPARE(bitmapSize({100, 0.02}), QSize(100, 1));
     }
 
     void breadcrumbNamesTheChain()

@@ -1,0 +1,32 @@
+#include "render/FramingChoice.h"
+
+#include "image/CharImage.h"
+
+using namespace lumora;
+
+QStringList cropChoices()
+{
+    return {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"};
+}
+
+QStringList borderChoices()
+{
+    return {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"};
+}
+
+QStringList sizeChoices()
+{
+    return {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"};
+}
+
+int chosenFilter(const QString& choice, const GrowArray<int>& looks)
+{
+    if (choice == QLatin1String("By Filter") && looks.numThings > 0)
+        return looks.theArray[looks.numThings - 1];
+    return CharImage::getFilterFromName(choice.toUtf8().constData());
+}
+
+int chosenSize(const QString& choice)
+{
+    return choice == QLatin1String("Original") ? -1 : choice.toInt();
+}
