@@ -34,6 +34,8 @@ QString failure(int error)
         return QStringLiteral("The file's name is too long.");
     case ELOOP:
         return QStringLiteral("The link leads to itself.");
+    case EEXIST:
+        return QStringLiteral("There is a file of that name already.");
     case EISDIR:
         return QStringLiteral("There is a folder of that name.");
     default:
@@ -72,6 +74,16 @@ public:
 private:
     void (*m_before)(int);
 };
+
+/// The new name is on the disk when its folder is.
+void synchroniseFolder(const std::string& folder)
+{
+    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        fsync(descriptor);
+        close(descriptor);
+    }
+}
 
 /// Replaces `target`, which has that status where one stands there, or makes it; the error number when it could not be
 /// done, 0 otherwise.
@@ -135,13 +147,30 @@ int write(const std::string& target, const QByteArray& data)
         error = replace(target, replaced, data, UnfinishedFile::Hidden);
     if (error != 0)
         return error;
-    // The new name is on the disk when its folder is.
-    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        fsync(descriptor);
-        close(descriptor);
-    }
+    synchroniseFolder(folder);
     return 0;
+}
+
+int makeNew(const std::string& target, const QByteArray& data, UnfinishedFile::Kind kind)
+{
+    UnfinishedFile file(folderOf(target), kind, 0666);
+    const bool made = file.isOpen() && file.write(data) && file.synchronise() && file.placeNew(target);
+    return made ? 0 : errno;
+}
+
+/// Writes a file where none stands; the error number when it could not be done, 0 otherwise.
+int writeNew(const std::string& target, const QByteArray& data)
+{
+    const std::string folder = folderOf(target);
+    const SizeLimitFails sizeLimitFails;
+    int error = makeNew(target, data, UnfinishedFile::Unnamed);
+    if (error != 0 && error != EEXIST) {
+        removeLeftovers(folder);
+        error = makeNew(target, data, UnfinishedFile::Hidden);
+    }
+    if (error == 0)
+        synchroniseFolder(folder);
+    return error;
 }
 
 } // namespace
@@ -149,6 +178,14 @@ int write(const std::string& target, const QByteArray& data)
 bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason)
 {
     const int error = write(linkTarget(path.toStdString()), data);
+    if (error != 0)
+        *reason = failure(error);
+    return error == 0;
+}
+
+bool writeNewFile(const QByteArray& path, const QByteArray& data, QString* reason)
+{
+    const int error = writeNew(path.toStdString(), data);
     if (error != 0)
         *reason = failure(error);
     return error == 0;

@@ -25,6 +25,10 @@ QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata, Kept k
 /// written. Only a killed process can leave a hidden ".lumora-" file in the folder, which the next save there removes.
 bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason);
 
+/// The same for a file that is not there yet: one that stands there by the time that the data is complete is left as it
+/// is, and so is a link that leads nowhere.
+bool writeNewFile(const QByteArray& path, const QByteArray& data, QString* reason);
+
 /// Whether `writeFileAtomically` is likely to write so many bytes to `path`: whether what stands there may be replaced,
 /// a file be made in its folder, and the disk has room. False and a `reason` otherwise. Nothing is changed.
 bool mayWriteFile(const QByteArray& path, qint64 bytes, QString* reason);

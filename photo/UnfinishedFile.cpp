@@ -117,6 +117,19 @@ bool UnfinishedFile::place(const std::string& target)
     return true;
 }
 
+bool UnfinishedFile::placeNew(const std::string& target)
+{
+    if (m_hiddenName.empty())
+        return linkTo(target);
+    // Not every file system has this kind of renaming; those have links.
+    const bool renamed = renameat2(AT_FDCWD, m_hiddenName.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0;
+    if (!renamed && (errno == EEXIST || linkat(AT_FDCWD, m_hiddenName.c_str(), AT_FDCWD, target.c_str(), 0) != 0))
+        return false;
+    if (renamed)
+        m_hiddenName.clear();
+    return true;
+}
+
 void removeLeftovers(const std::string& folder)
 {
     DIR* const entries = opendir(folder.empty() ? "." : folder.c_str());

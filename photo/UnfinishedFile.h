@@ -25,6 +25,8 @@ public:
     bool synchronise();
     /// Puts it where `target` is, a name in its folder, in one step; what stood there is replaced.
     bool place(const std::string& target);
+    /// The same where nothing stands; errno is EEXIST otherwise.
+    bool placeNew(const std::string& target);
 
 private:
     bool linkTo(const std::string& name) const;

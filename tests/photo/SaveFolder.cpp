@@ -121,6 +121,11 @@ int rename(const char* from, const char* to) noexcept
     return int(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
 }
 
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept
+{
+    return fileSystem.noNewNames ? refused(EINVAL) : int(syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
+}
+
 int fsync(int descriptor)
 {
     return fileSystem.synchronising != 0 ? refused(fileSystem.synchronising) : int(syscall(SYS_fsync, descriptor));

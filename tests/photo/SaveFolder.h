@@ -35,10 +35,11 @@ int resultInChild(const std::function<int()>& child);
 struct FileSystemFaults {
     bool noUnnamedFiles = false; ///< no O_TMPFILE
     bool noLinks = false; ///< no hard links
+    bool noNewNames = false; ///< no renaming that tells whether the name was free
     bool noRights = false; ///< neither permissions nor owners nor attributes, as on a memory card
     int settingLists = 0; ///< the error of setting an access control list
     int synchronising = 0; ///< the error of fsync
-    std::function<void()> atWrite; ///< called before the first write of a file's data
-    std::function<void()> atRename; ///< called before a file is renamed
+    std::function<void()> atWrite = {}; ///< called before the first write of a file's data
+    std::function<void()> atRename = {}; ///< called before a file is renamed
 };
 extern FileSystemFaults fileSystem;
