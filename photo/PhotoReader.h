@@ -24,7 +24,11 @@ public:
         NotStarted, ///< there is no process
     };
 
-    PhotoReader();
+    enum class Reads {
+        Many,
+        One, ///< no process waits, neither now nor for a second photo
+    };
+    explicit PhotoReader(Reads reads = Reads::Many);
     /// Cancels what is being read.
     ~PhotoReader();
     PhotoReader(const PhotoReader&) = delete;

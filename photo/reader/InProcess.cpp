@@ -11,7 +11,7 @@ public:
     LoadedPhoto photo;
 };
 
-PhotoReader::PhotoReader()
+PhotoReader::PhotoReader(Reads)
     : m(std::make_unique<Private>())
 {
 }

@@ -46,13 +46,27 @@ QString reasonOf(PhotoReader::End end)
 
 class PhotoReader::Private {
 public:
-    std::unique_ptr<ReaderProcess> waiting = std::make_unique<ReaderProcess>(readerProgram());
+    explicit Private(Reads r)
+        : reads(r)
+    {
+        getReady();
+    }
+
+    const Reads reads;
+    std::unique_ptr<ReaderProcess> waiting;
     std::unique_ptr<ReaderProcess> reading; ///< null when nothing is read
     QElapsedTimer clock;
     qint64 allowed = 0; ///< milliseconds of the processor
     QByteArray path;
     LoadedPhoto photo;
     End end = End::Answered;
+
+    /// Has a process wait for the next photo.
+    void getReady()
+    {
+        if (!waiting && reads == Reads::Many)
+            waiting = std::make_unique<ReaderProcess>(readerProgram());
+    }
 
     /// Hands the file to the process that waits, or to a new one where that has gone meanwhile.
     bool handOver(int file, const ReadingLimits& limits)
@@ -91,8 +105,8 @@ public:
     bool isOutOfTime() const { return reading->milliseconds() > allowed || clock.elapsed() > allowed * patience; }
 };
 
-PhotoReader::PhotoReader()
-    : m(std::make_unique<Private>())
+PhotoReader::PhotoReader(Reads reads)
+    : m(std::make_unique<Private>(reads))
 {
 }
 
@@ -150,8 +164,7 @@ LoadedPhoto PhotoReader::take()
 {
     while (!isDone(glance))
         ;
-    if (!m->waiting)
-        m->waiting = std::make_unique<ReaderProcess>(readerProgram());
+    m->getReady();
     m->path.clear();
     return std::exchange(m->photo, {});
 }
