@@ -55,6 +55,7 @@ const QCommandLineOption look(
         "Original"),
     random("random",
         "Vary the looks; the same number gives the same bytes. Without it looks have their fixed settings.", "SEED"),
+    quality("quality", "How much of the picture a JPEG holds: standard, high, best.", "LEVEL", "standard"),
     metadata("metadata", "What the photo carried that goes along: all, no-place (not where it was taken), none.",
         "KEPT", "all"),
     png("png", "Write lossless PNG files, which carry no metadata."),
@@ -75,8 +76,8 @@ public:
         m_parser.setApplicationDescription(QStringLiteral(
             "Renders photos as Lumora's window does, each into a file \"PHOTO LOOK.jpg\". A PHOTO of - is the standard "
             "input.\nStatus: 0 all went well, 1 some photo did not, 2 the arguments are wrong."));
-        m_parser.addOptions({look, strength, crop, border, size, random, metadata, png, output, replace, skipExisting,
-            filesFrom, null, jobs, json, list, help, version});
+        m_parser.addOptions({look, strength, crop, border, size, random, quality, metadata, png, output, replace,
+            skipExisting, filesFrom, null, jobs, json, list, help, version});
         m_parser.addPositionalArgument(QStringLiteral("PHOTO..."), QStringLiteral("The photos."));
         QStringList texts = {QString()};
         for (const QByteArray& argument : arguments)
@@ -116,6 +117,12 @@ private:
         return {};
     }
 
+    /// The place of the option's value among `levels`; 0, which is a fault, for any other value.
+    int level(const QCommandLineOption& option, const QStringList& levels)
+    {
+        return int(std::max<qsizetype>(levels.indexOf(named(option, m_parser.value(option), levels)), 0));
+    }
+
     qint64 number(const QCommandLineOption& option, qint64 least, qint64 most)
     {
         bool isNumber = false;
@@ -152,8 +159,8 @@ private:
             order.size = int(number(size, 1, longestSide));
         if (m_parser.isSet(random))
             order.seed = unsigned(number(random, 0, 0xffffffff));
-        const QStringList levels = {"all", "no-place", "none"}; // in the order of Kept
-        order.kept = Kept(std::max<qsizetype>(levels.indexOf(named(metadata, m_parser.value(metadata), levels)), 0));
+        order.kept = Kept(level(metadata, {"all", "no-place", "none"}));
+        order.quality = JpegQuality(level(quality, {"standard", "high", "best"}));
         order.lossless = m_parser.isSet(png);
         order.mayReplace = m_parser.isSet(replace);
     }

@@ -2,7 +2,6 @@
 
 #include "photo/FreeMemory.h"
 #include "photo/PhotoReader.h"
-#include "photo/PhotoSaver.h"
 #include "photo/reader/Descriptor.h"
 #include "render/Export.h"
 #include "render/RenderPipeline.h"
@@ -135,7 +134,8 @@ Outcome renderOne(const Task& task, const Order& order, const FileNumbers& photo
     if (picture.isNull())
         return outcome;
     photo.image = {};
-    const QByteArray data = order.lossless ? encodePng(picture) : encodeJpeg(picture, photo.metadata, order.kept);
+    const QByteArray data =
+        order.lossless ? encodePng(picture) : encodeJpeg(picture, photo.metadata, order.kept, order.quality);
     if (data.isEmpty()) {
         outcome.reason =
             order.lossless ? QStringLiteral("The picture cannot be encoded.") : jpegRefusal(picture.size());

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "image/FilterNumber.h"
-#include "photo/PhotoMetadata.h"
+#include "photo/PhotoSaver.h"
 
 #include <QByteArray>
 #include <QString>
@@ -18,6 +18,7 @@ struct Order {
     int size = -1; ///< the longer side in pixels; -1: the picture's own
     std::optional<unsigned> seed; ///< of the variation; without one looks use their fixed settings
     Kept kept = Kept::Everything;
+    JpegQuality quality = JpegQuality::Standard;
     bool lossless = false; ///< a PNG in place of a JPEG
     bool mayReplace = false; ///< a file that stands where the output goes
 };

@@ -1,6 +1,7 @@
 #include "image/FilterNumber.h"
 #include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
+#include "render/Variation.h"
 #include "tests/photo/Samples.h"
 #include "tests/tools/render/RenderRun.h"
 
@@ -79,6 +80,7 @@ private slots:
         add("--crop 5x4: there is none", {"--crop", "5x4", "a.png"});
         add("--border Wide: there is none", {"--border", "Wide", "a.png"});
         add("--metadata some: there is none", {"--metadata", "some", "a.png"});
+        add("--quality 92: there is none", {"--quality", "92", "a.png"});
         add("--strength 101: it takes a whole number from 0 to 100.", {"--strength", "101", "a.png"});
         add("--strength -1:", {"--strength=-1", "a.png"});
         add("--size 0:", {"--size", "0", "a.png"});
@@ -308,11 +310,25 @@ private slots:
         QCOMPARE(run({"--png", "--look", "Cinema", "a.png"}).status, 0);
         RenderSettings settings;
         settings.filter = settings.cropFilter = settings.borderFilter = Filter::cinema;
+        useFixedSettings();
         const QImage wanted = renderPhoto(photo, settings);
         const QByteArray png = contents("a Cinema.png");
         QVERIFY(png.startsWith("\x89PNG"));
         const QImage read = QImage::fromData(png, "PNG").convertToFormat(wanted.format());
         QCOMPARE(samples::largestDifference(read, wanted), 0);
+    }
+
+    void qualityHasThreeLevels()
+    {
+        makePhoto("a.png");
+        const QByteArray levels[] = {"standard", "High", "best"};
+        for (const QByteArray& level : levels)
+            QCOMPARE(run({"--quality", level, "--output", level + ".jpg", "a.png"}).status, 0);
+        for (int i = 0; i < 3; i++)
+            QVERIFY(contents(levels[i] + ".jpg")
+                == encodeJpeg(samples::noise(40, 30), {}, Kept::Everything, JpegQuality(i)));
+        QCOMPARE(run({"a.png"}).status, 0);
+        QVERIFY(contents("a.jpg") == contents("standard.jpg"));
     }
 
     void itIsNoProgramOfTheWindow()
