@@ -77,25 +77,19 @@ bool isForeign(const QByteArray& path)
     return !text.isEmpty() && (!beginsAsOurs || !std::ranges::all_of(lines, isOurs));
 }
 
-/// Older programs know the file by the described section at its beginning, where the platform puts sections in the
-/// order in which they come.
-void putDescribedFirst(const QByteArray& path)
+/// Older programs know the file by the described section at its beginning. The platform leaves it out until the first
+/// of its keys is saved.
+void beginAsDescribed(const QByteArray& path)
 {
     QLockFile lock(QFile::decodeName(path + ".lock")); // the platform's own, against another window that writes
     QFile file(QFile::decodeName(path));
     if (!lock.tryLock() || !file.open(QIODevice::ReadOnly))
         return; // the next choice that is saved does it
-    QByteArray others = file.readAll(), described = describedSection;
-    if (others.startsWith(describedSection))
+    const QByteArray bytes = file.readAll();
+    if (bytes.startsWith(describedSection))
         return;
-    const qsizetype begin = others.indexOf(QByteArray("\n") + describedSection) + 1;
-    if (begin > 0) {
-        const qsizetype next = others.indexOf("\n[", begin) + 1, length = (next > 0 ? next : others.size()) - begin;
-        described = others.mid(begin, length).trimmed() + '\n';
-        others.remove(begin, length);
-    }
     QSaveFile changed(file.fileName());
-    if (changed.open(QIODevice::WriteOnly) && changed.write(described + '\n' + others.trimmed() + '\n') > 0)
+    if (changed.open(QIODevice::WriteOnly) && changed.write(describedSection + ('\n' + bytes)) > 0)
         changed.commit();
 }
 
@@ -116,7 +110,7 @@ void store(const GrowString& key, const QVariant& value)
         return qWarning("%s is not a preferences file: choices are not saved", fileName().constData());
     settings->setValue(text(key), value);
     settings->sync();
-    putDescribedFirst(fileName());
+    beginAsDescribed(fileName());
 }
 
 QVariant stored(const GrowString& key)

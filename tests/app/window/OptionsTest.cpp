@@ -226,16 +226,6 @@ private slots:
         }
     }
 
-    void theDescribedSectionIsMovedToTheBeginning()
-    {
-        setPreferences("[Window]\nWidth=900\n\n[General]\nBorderStyle=1\n\n[Saving]\nKept=2\n");
-        setPreferenceInt("Saving/Kept", 1);
-        const QByteArray all = contentsOf(QFile::encodeName(preferencesFile()));
-        QVERIFY2(all.startsWith("[General]\nBorderStyle=1\n\n["), all.constData());
-        QVERIFY2(all.count('[') == 3 && all.contains("\n[Window]\nWidth=900\n"), all.constData());
-        QVERIFY2(all.contains("\n[Saving]\nKept=1\n"), all.constData());
-    }
-
     void anOlderProgramFindsAndKeepsTheFile()
     {
         {
