@@ -1,3 +1,4 @@
+#include "app/controls/ChoiceMenu.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "core/SixPlaces.h"
@@ -138,7 +139,7 @@ void MainWindowController::saveFilteredImage()
     std::printf("downsizing image to %i, ended with %s %s\n", imgOutputSize, lumora::sixPlaces(size.width()).c_str(),
         lumora::sixPlaces(size.height()).c_str());
     m_work.beginStep(tr("Encode"));
-    const QByteArray jpeg = encodeJpeg(render, m_photo.metadata, kept());
+    const QByteArray jpeg = encodeJpeg(render, m_photo.metadata, Kept(m_kept->chosen()));
     if (jpeg.isEmpty())
         return openModalSheetWithText(tr("The photo cannot be saved."), jpegRefusal(render.size()));
     const QByteArray path = askWhereToSave(jpeg.size());

@@ -18,6 +18,7 @@
 #include <QTimer>
 #include <memory>
 
+class ChoiceMenu;
 class QAction;
 class QFileDialog;
 class QKeyEvent;
@@ -192,11 +193,9 @@ private:
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave(qint64 bytes);
 
-    Kept kept() const; ///< how much of what the photo carried is saved with it
-
     std::unique_ptr<Ui::MainWindow> m_ui;
     Choices m_choicesAtStart; ///< as the preferences had them
-    QList<QAction*> m_keptActions; ///< one for each Kept, one of them checked
+    ChoiceMenu* m_kept = nullptr; ///< in the order of Kept; owned by the menu
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
     QList<QAction*> m_strengthActions; ///< of no use without a look
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo

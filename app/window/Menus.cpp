@@ -1,10 +1,9 @@
-#include "app/state/Preferences.h"
+#include "app/controls/ChoiceMenu.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "image/CharImage.h"
 #include "ui_MainWindow.h"
 
-#include <QActionGroup>
 #include <QMenu>
 
 using namespace lumora;
@@ -17,14 +16,9 @@ void MainWindowController::buildMenus()
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
     m_photoActions << file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
     // What a saved photo carries besides its picture, in the order of Kept.
-    QMenu* kept = file->addMenu(tr("&Keep with the photo"));
-    auto* levels = new QActionGroup(kept);
-    for (const QString& level : {tr("&Everything it carried"), tr("Everything but the &place"), tr("&Nothing")}) {
-        QAction* action = levels->addAction(kept->addAction(level));
-        action->setCheckable(true);
-        m_keptActions << action;
-        connect(action, &QAction::triggered, this, [this] { setPreferenceInt("Saving/Kept", int(this->kept())); });
-    }
+    m_kept = new ChoiceMenu(tr("&Keep with the photo"), "Saving/Kept",
+        {tr("&Everything it carried"), tr("Everything but the &place"), tr("&Nothing")}, file);
+    file->addMenu(m_kept);
     file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);

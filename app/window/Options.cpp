@@ -4,10 +4,8 @@
 #include "render/FramingChoice.h"
 #include "ui_MainWindow.h"
 
-#include <QAction>
 #include <QFile>
 #include <QScreen>
-#include <algorithm>
 #include <utility>
 
 using namespace lumora;
@@ -34,13 +32,7 @@ void MainWindowController::loadOptions()
     // Variation is a mood of the moment: it is saved, and never restored.
     m_ui->chkRandomness->setChecked(false);
     CharImage::useRandom = 0;
-    m_keptActions[std::clamp(getPreferenceInt("Saving/Kept"), 0, int(Kept::Nothing))]->setChecked(true);
     m_choicesAtStart = shownNow().choices;
-}
-
-Kept MainWindowController::kept() const
-{
-    return Kept(std::ranges::find_if(m_keptActions, &QAction::isChecked) - m_keptActions.begin());
 }
 
 void MainWindowController::saveOptions() const
