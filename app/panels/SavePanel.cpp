@@ -25,7 +25,7 @@ SavePanel::SavePanel(QWidget* parent, qint64 bytes, const QByteArray& openPhoto,
     setOption(DontConfirmOverwrite); // the panel's own question stands for it
     setAcceptMode(AcceptSave);
     auto* rows = qobject_cast<QGridLayout*>(layout());
-    for (QLabel* line : {new QLabel(tr("JPEG, whatever the ending"), this), m_trouble})
+    for (QLabel* line : {new QLabel(tr("JPEG, whatever the ending: %1").arg(shownLength(bytes)), this), m_trouble})
         rows->addWidget(line, rows->rowCount(), 0, 1, -1);
     m_trouble->setTextFormat(Qt::PlainText);
     m_trouble->setWordWrap(true);

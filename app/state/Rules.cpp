@@ -71,11 +71,16 @@ QString breadcrumb(const GrowArray<int>& filterIDs, bool multi)
     return text;
 }
 
+QString shownLength(qint64 bytes)
+{
+    return QLocale().formattedDataSize(bytes, bytes < 1'000'000 ? 0 : 1, QLocale::DataSizeSIFormat);
+}
+
 QString savedLine(const QByteArray& fileName, const QSize& picture, qint64 bytes)
 {
     return QCoreApplication::translate("MainWindowController", "Saved %1, %2 x %3, %4")
         .arg(shownName(fileName), QString::number(picture.width()), QString::number(picture.height()),
-            QLocale().formattedDataSize(bytes, 0, QLocale::DataSizeSIFormat));
+            shownLength(bytes));
 }
 
 QString withJpegEnding(const QString& path)

@@ -37,6 +37,9 @@ int thumbnailSide(int buttonWidth, int windowHeight);
 /// "Original", one look's name, or the chain "Original > Helga > Mono" in multi mode.
 QString breadcrumb(const lumora::GrowArray<int>& filterIDs, bool multi);
 
+/// The length of a file in bytes, for people: "412 kB", "2.1 MB".
+QString shownLength(qint64 bytes);
+
 /// What people are told of a saved file: its name, its picture's size in pixels and its length in bytes.
 QString savedLine(const QByteArray& fileName, const QSize& picture, qint64 bytes);
 

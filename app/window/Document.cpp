@@ -139,7 +139,8 @@ void MainWindowController::saveFilteredImage()
     std::printf("downsizing image to %i, ended with %s %s\n", imgOutputSize, lumora::sixPlaces(size.width()).c_str(),
         lumora::sixPlaces(size.height()).c_str());
     m_work.beginStep(tr("Encode"));
-    const QByteArray jpeg = encodeJpeg(render, m_photo.metadata, Kept(m_kept->chosen()));
+    const QByteArray jpeg =
+        encodeJpeg(render, m_photo.metadata, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen()));
     if (jpeg.isEmpty())
         return openModalSheetWithText(tr("The photo cannot be saved."), jpegRefusal(render.size()));
     const QByteArray path = askWhereToSave(jpeg.size());

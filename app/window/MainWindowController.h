@@ -196,6 +196,7 @@ private:
     std::unique_ptr<Ui::MainWindow> m_ui;
     Choices m_choicesAtStart; ///< as the preferences had them
     ChoiceMenu* m_kept = nullptr; ///< in the order of Kept; owned by the menu
+    ChoiceMenu* m_quality = nullptr; ///< in the order of JpegQuality; owned by the menu
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
     QList<QAction*> m_strengthActions; ///< of no use without a look
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo

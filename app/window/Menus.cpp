@@ -19,6 +19,9 @@ void MainWindowController::buildMenus()
     m_kept = new ChoiceMenu(tr("&Keep with the photo"), "Saving/Kept",
         {tr("&Everything it carried"), tr("Everything but the &place"), tr("&Nothing")}, file);
     file->addMenu(m_kept);
+    m_quality =
+        new ChoiceMenu(tr("&JPEG quality"), "Saving/Quality", {tr("&Standard"), tr("&High"), tr("&Best")}, file);
+    file->addMenu(m_quality);
     file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);

@@ -92,13 +92,10 @@ private slots:
 
     void thePanelSaysWhatIsWritten()
     {
-        Desk desk(makePhoto(60, 40));
-        desk.withPanel(
-            [&](QFileDialog& panel) {
-                QCOMPARE(lineOf(panel, "JPEG"), "JPEG, whatever the ending");
-                panel.reject();
-            },
-            [&] { desk.click("btnSave"); });
+        for (const auto& [bytes, length] : {std::pair(412'345, "412 kB"), std::pair(2'123'456, "2.1 MB")}) {
+            SavePanel panel(nullptr, bytes, "photo.png", "Helga");
+            QCOMPARE(lineOf(panel, "JPEG"), QString("JPEG, whatever the ending: %1").arg(length));
+        }
     }
 
     void theOpenPhotoIsKnownByEveryName_data()

@@ -11,6 +11,9 @@ class RulesTest : public QObject {
 private slots:
     void aSavedFileIsNamedWithoutControlCharacters()
     {
+        QCOMPARE(shownLength(0), "0 bytes");
+        QCOMPARE(shownLength(999'400), "999 kB");
+        QCOMPARE(shownLength(2'149'000), "2.1 MB");
         QCOMPARE(savedLine("over\nHelga.jpg", QSize(1600, 1067), 412'345), "Saved over Helga.jpg, 1600 x 1067, 412 kB");
     }
 

@@ -1,4 +1,5 @@
 #include "app/state/Preferences.h"
+#include "app/state/Rules.h"
 #include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
 #include "tests/TurkishLocale.h"
@@ -101,6 +102,43 @@ private slots:
         setPreferences("[Saving]\nKept=1\n");
         Desk desk;
         QVERIFY(entry(desk, "Everything but the place")->isChecked());
+    }
+
+    void theQualityIsAsChosen()
+    {
+        setPreferences({});
+        const QImage photo = makePhoto(300, 200);
+        for (const auto& [chosen, quality] :
+            {std::pair("Best", JpegQuality::Best), std::pair("", JpegQuality::Best), // as it was remembered
+                std::pair("High", JpegQuality::High), std::pair("Standard", JpegQuality::Standard)}) {
+            Desk desk(photo);
+            if (*chosen)
+                entry(desk, chosen)->trigger();
+            for (const auto& [name, one] : {std::pair("Standard", JpegQuality::Standard),
+                     std::pair("High", JpegQuality::High), std::pair("Best", JpegQuality::Best)})
+                QCOMPARE(entry(desk, name)->isChecked(), one == quality);
+            const QString saved = desk.folder.filePath("out.jpg");
+            QString panelLine;
+            printedBy([&] {
+                desk.withPanel(
+                    [&](QFileDialog& panel) {
+                        for (const QLabel* label : panel.findChildren<QLabel*>())
+                            if (label->text().startsWith("JPEG"))
+                                panelLine = label->text();
+                        typeName(panel, saved);
+                    },
+                    [&] { desk.click("btnSave"); });
+            });
+            const QByteArray expected = encodeJpeg(pixelsOf(desk.window.getoriginalImage()), {}, {}, quality);
+            QCOMPARE(contentsOf(QFile::encodeName(saved)), expected);
+            const QString length = shownLength(expected.size());
+            QCOMPARE(panelLine, "JPEG, whatever the ending: " + length);
+            QCOMPARE(desk.find<QLabel>("noteText")->text(), "Saved out.jpg, 300 x 200, " + length);
+        }
+        QCOMPARE(getPreferenceInt("Saving/Quality"), 0);
+        setPreferences("[Saving]\nQuality=7\n");
+        Desk desk;
+        QVERIFY(entry(desk, "Best")->isChecked());
     }
 
     void init() { setPreferences({}); }

@@ -278,6 +278,22 @@ private slots:
         QVERIFY(met.contains(QKeySequence(Qt::ALT | Qt::Key_E)));
     }
 
+    void noLetterOfAMenuMeansTwoThings()
+    {
+        Desk desk;
+        int letters = 0;
+        for (const auto* menu : desk.window.findChildren<QMenu*>()) {
+            QSet<QKeySequence> met;
+            for (const QAction* entry : menu->actions()) {
+                const QKeySequence letter = QKeySequence::mnemonic(entry->text());
+                QVERIFY2(letter.isEmpty() || !met.contains(letter), qPrintable(entry->text()));
+                met << letter;
+                letters += !letter.isEmpty();
+            }
+        }
+        QVERIFY(letters > 15);
+    }
+
     void theTabKeyReachesEveryControl()
     {
         Desk desk(makePhoto(60, 40));
