@@ -117,7 +117,7 @@ void addBridge(std::vector<Row>& rows)
 Subject::Subject(int width, int height)
     : photo(benchPhoto(width, height))
     , platform(photo.pixels.data(), width, height, qsizetype(width) * 4, QImage::Format_RGBX8888)
-    , image(imageOf(photo))
+    , image(charImageFromNSImage(platform, -1, -1, -1, 0, 0, 0, 0, false, 3))
     , map(image->pixelCount())
     , copySeconds(1e9)
 {

@@ -15,7 +15,7 @@ struct Subject {
 
     const Picture photo;
     const QImage platform; ///< the photo again, over the same bytes
-    const std::unique_ptr<lumora::CharImage> image; ///< a copy, the photo anew before each measurement
+    const std::unique_ptr<lumora::CharImage> image; ///< a copy as the bridge makes it, anew before each measurement
     std::vector<unsigned char> map;
     double copySeconds; ///< of a plain memcpy of the photo
 
