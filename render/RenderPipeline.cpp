@@ -87,6 +87,14 @@ bool isMixed(const RenderSettings& settings)
     return settings.strength < 100 && !settings.asThumbnail && hasLooks(settings);
 }
 
+/// Whether a render would be the source once more. Its copy would cost as much as a look.
+bool leavesAll(const QImage& source, const RenderSettings& settings, const Frame& frame)
+{
+    return !settings.asThumbnail && !hasLooks(settings) && settings.borderFilter == Filter::original
+        && sizeOf(source, frame, false) == source.size()
+        && (source.format() == QImage::Format_RGB32 || source.format() == QImage::Format_RGBX8888);
+}
+
 void applyLooks(CharImage& image, const RenderSettings& settings, const RenderProgress& progress)
 {
     if (settings.filter != -1)
@@ -116,6 +124,10 @@ QImage pictureOf(CharImage& image, const Frame& frame, const QColorSpace& space)
 QImage render(const QImage& source, const RenderSettings& settings, const Frame& frame, const RenderProgress& progress)
 {
     report(progress, "Fit");
+    if (leavesAll(source, settings, frame)) {
+        report(progress, "Border");
+        return source;
+    }
     const std::unique_ptr<CharImage> image = fitted(source, frame);
     if (isMixed(settings)) {
         const CharImage before(*image);

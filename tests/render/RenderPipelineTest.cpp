@@ -61,6 +61,15 @@ private slots:
         }
     }
 
+    void whatNothingIsDoneToIsNotCopied()
+    {
+        const QImage source = samples::noise(30, 20).convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(render(source, none, none).constBits(), source.constBits());
+        QImage clear(30, 20, QImage::Format_ARGB32);
+        clear.fill(Qt::transparent);
+        QVERIFY(isFlat(render(clear, none, none), qRgb(255, 255, 255)));
+    }
+
     void squareWithInstantFrame()
     {
         const QImage picture = render(samples::flat(3000, 2000, Qt::red), square, instant);
