@@ -303,6 +303,9 @@ private slots:
         settings.filter = mono;
         renderPhoto(samples::noise(8, 8), settings, note);
         QCOMPARE(steps, QStringList({"Fit", "Mono"}));
+        steps.clear();
+        renderPhoto(samples::noise(8, 8), {}, note);
+        QCOMPARE(steps, QStringList({"Fit", "Border"}));
     }
 
     void whereMemoryWouldNotDoThereIsNoPictureButAReason()
