@@ -1,5 +1,5 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
-
 #include <cfloat>
 
 // What the engine's arithmetic asks of the compiler. Every file of the engine includes this, directly or by way of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
 #include "image/numbers/Disc.h"
 #include "image/passes/Block.h"
 #include "image/passes/DelayedRows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
 #include "image/looks/Mono.h"
 
 #include "image/looks/Variation.h"

@@ -1,5 +1,5 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
-
 #include "core/Exact.h"
 
 namespace lumora {

@@ -1,5 +1,5 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
-
 #include "image/passes/BlockWork.h"
 #include "image/passes/EachBlock.h"
 

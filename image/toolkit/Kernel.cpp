@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-3.0-or-later
 #include "image/toolkit/Kernel.h"
 
 #include <cmath>
