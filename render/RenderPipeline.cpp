@@ -177,7 +177,8 @@ RenderedLooks::RenderedLooks(std::unique_ptr<Parts> parts)
 
 RenderedLooks::~RenderedLooks() = default;
 
-std::unique_ptr<RenderedLooks> RenderedLooks::of(const QImage& source, const RenderSettings& settings)
+std::unique_ptr<RenderedLooks> RenderedLooks::of(
+    const QImage& source, const RenderSettings& settings, const RenderProgress& progress)
 {
     if (source.isNull())
         return nullptr;
@@ -188,7 +189,7 @@ std::unique_ptr<RenderedLooks> RenderedLooks::of(const QImage& source, const Ren
         std::unique_ptr<Parts> parts(
             new Parts{frame, settings.borderFilter, source.colorSpace(), fitted(source, frame), {}});
         parts->after = std::make_unique<CharImage>(*parts->before);
-        applyLooks(*parts->after, settings, {});
+        applyLooks(*parts->after, settings, progress);
         return std::unique_ptr<RenderedLooks>(new RenderedLooks(std::move(parts)));
     } catch (const std::bad_alloc&) {
         return nullptr;

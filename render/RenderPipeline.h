@@ -34,7 +34,8 @@ class RenderedLooks {
 public:
     /// Crops, fits and applies the looks as renderPhoto does, which `settings` tells; their strength and `asThumbnail`
     /// are not read. Null without a source, or without the memory for both pictures.
-    static std::unique_ptr<RenderedLooks> of(const QImage& source, const RenderSettings& settings);
+    static std::unique_ptr<RenderedLooks> of(
+        const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {});
     ~RenderedLooks();
 
     /// The picture that renderPhoto gives for this strength; null where there is no memory for it.

@@ -10,7 +10,7 @@ const QColor veil(0, 0, 0, 120), ink(255, 255, 255, 220);
 
 } // namespace
 
-void paintCornerLabel(QPainter& painter, const QRectF& room, const QString& word, bool right)
+void paintCornerLabel(QPainter& painter, const QRectF& room, const QString& word, bool right, bool low)
 {
     QFont font = painter.font();
     font.setPointSizeF(font.pointSizeF() * 0.85);
@@ -18,7 +18,10 @@ void paintCornerLabel(QPainter& painter, const QRectF& room, const QString& word
     QRectF label(0, 0, metrics.horizontalAdvance(word) + 2 * inset, metrics.height() + inset);
     if (label.width() + 2 * margin > room.width() || label.height() + 2 * margin > room.height())
         return;
-    label.moveTop(room.top() + margin);
+    if (low)
+        label.moveBottom(room.bottom() - margin);
+    else
+        label.moveTop(room.top() + margin);
     if (right)
         label.moveRight(room.right() - margin);
     else

@@ -3,14 +3,19 @@
 #include "app/preview/CornerLabel.h"
 #include "render/Scaled.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QUrl>
 #include <cmath>
+#include <utility>
 
 namespace {
+
+constexpr int wheelStep = 120; ///< eighths of a degree
+constexpr int stepsAcross = 8; ///< of the arrow keys on a close look, from edge to edge of the widget
 
 /// The paths of the files that a drag carries, byte for byte as the file system has them.
 QByteArrayList filePaths(const QMimeData* content)
@@ -20,6 +25,11 @@ QByteArrayList filePaths(const QMimeData* content)
         if (url.isLocalFile())
             paths << QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
     return paths;
+}
+
+QRectF scaled(const QRectF& rect, qreal factor)
+{
+    return {rect.topLeft() * factor, rect.size() * factor};
 }
 
 } // namespace
@@ -34,9 +44,15 @@ DragDropImageView::DragDropImageView(QWidget* parent)
 /// For whoever listens to the screen.
 void DragDropImageView::tellState()
 {
-    setAccessibleDescription(m_comparing ? tr("Before: the photo without its looks, in its crop and border.")
-                                         : tr("The photo under the applied looks. Hold the mouse or the space bar to "
-                                              "see it before."));
+    if (m_comparing)
+        setAccessibleDescription(tr("Before: the photo without its looks, in its crop and border."));
+    else if (m_closeup.isOn())
+        setAccessibleDescription(tr("The photo as it will be saved, at %1 %. Drag it or press the arrow keys to see "
+                                    "other parts of it.")
+                                     .arg(m_closeup.percent()));
+    else
+        setAccessibleDescription(
+            tr("The photo under the applied looks. Hold the mouse or the space bar to see it before."));
 }
 
 void DragDropImageView::setImage(const QImage& image, const QString& reason)
@@ -62,39 +78,92 @@ void DragDropImageView::setComparing(bool on)
 
 const QImage& DragDropImageView::shownImage() const
 {
-    return m_comparing && !m_compared.isNull() ? m_compared : m_rendered;
+    if (m_comparing && !m_compared.isNull())
+        return m_compared;
+    return m_closeup.isOn() ? m_closeup.picture() : m_rendered;
 }
 
-QSize DragDropImageView::shownPixels() const
+QSize DragDropImageView::room() const
 {
-    const QSize room = (QSizeF(size()) * devicePixelRatioF()).toSize();
-    const QSize pixels = shownImage().size();
-    if (pixels.width() <= room.width() && pixels.height() <= room.height())
-        return pixels;
-    return pixels.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
+    return (QSizeF(size()) * devicePixelRatioF()).toSize();
 }
 
-QRectF DragDropImageView::imageRect() const
+QSize DragDropImageView::fittedPixels(const QSize& picture) const
+{
+    if (picture.width() <= room().width() && picture.height() <= room().height())
+        return picture;
+    return picture.scaled(room(), Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+QRectF DragDropImageView::fittedRect(const QSize& picture) const
 {
     // On whole pixels of the screen, so that the picture is painted as it is.
     const qreal ratio = devicePixelRatioF();
-    const QSizeF shown = QSizeF(shownPixels()) / ratio;
+    const QSizeF shown = QSizeF(fittedPixels(picture)) / ratio;
     const auto snapped = [ratio](qreal v) { return std::floor(v * ratio) / ratio; };
     return {QPointF(snapped((width() - shown.width()) / 2), snapped((height() - shown.height()) / 2)), shown};
 }
 
+QRectF DragDropImageView::imageRect() const
+{
+    return m_closeup.isOn() ? scaled(m_closeup.placed(room()), 1 / devicePixelRatioF())
+                            : fittedRect(shownImage().size());
+}
+
 QRect DragDropImageView::shownArea() const
 {
-    return shownImage().isNull() ? rect() : imageRect().toAlignedRect();
+    return shownImage().isNull() || m_closeup.isOn() ? rect() : imageRect().toAlignedRect();
+}
+
+void DragDropImageView::setFullImage(const QImage& image)
+{
+    m_closeup.setPicture(image);
+    update();
+}
+
+void DragDropImageView::letFullImageGo()
+{
+    m_closeup.letPictureGo(room());
+}
+
+void DragDropImageView::magnify(const QPointF& at, int percent)
+{
+    const qreal ratio = devicePixelRatioF();
+    m_closeup.centreOn(at * ratio, percent, scaled(fittedRect(m_rendered.size()), ratio), room());
+    showCloseup();
+}
+
+void DragDropImageView::zoom(int steps, const QPointF& at)
+{
+    const qreal ratio = devicePixelRatioF();
+    m_closeup.zoom(steps, at * ratio, scaled(fittedRect(m_rendered.size()), ratio), room());
+    showCloseup();
+}
+
+void DragDropImageView::fit()
+{
+    m_closeup.end();
+    showCloseup();
+}
+
+void DragDropImageView::showCloseup()
+{
+    m_heldStill.stop();
+    m_panning = false;
+    setComparing(false);
+    setCursor(m_closeup.isOn() ? Qt::OpenHandCursor : Qt::ArrowCursor);
+    tellState();
+    update();
 }
 
 const QImage& DragDropImageView::fitted()
 {
     const QImage& shown = shownImage();
     Fitted& fit = m_fittedImages[m_comparing];
-    if (fit.of != shown.cacheKey() || fit.image.size() != shownPixels()) {
+    const QSize size = fittedPixels(shown.size());
+    if (fit.of != shown.cacheKey() || fit.image.size() != size) {
         fit.of = shown.cacheKey();
-        fit.image = scaledTo(shown, shownPixels());
+        fit.image = scaledTo(shown, size);
         fit.image.convertTo(QImage::Format_RGB32); // the screen's, so that painting only copies
     }
     return fit.image;
@@ -122,24 +191,36 @@ QSize DragDropImageView::minimumSizeHint() const
     return {240, 160};
 }
 
-void DragDropImageView::paintEvent(QPaintEvent*)
+void DragDropImageView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    if (shownImage().isNull()) {
+    if (m_closeup.isOn()) {
+        paintCloseup(painter, event->rect());
+    } else if (shownImage().isNull()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
         const QString invitation = QStringLiteral("Drop a photo here, or open one.");
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_reason.isEmpty() ? invitation : m_reason);
     } else {
         painter.drawImage(imageRect(), fitted());
-        if (m_comparing)
-            paintCornerLabel(painter, imageRect(), tr("Before"));
     }
+    const QRectF seen = imageRect() & QRectF(rect());
+    if (m_comparing)
+        paintCornerLabel(painter, seen, tr("Before"));
+    if (m_closeup.isOn())
+        paintCornerLabel(painter, seen, tr("%1 %").arg(m_closeup.percent()), true, true);
     if (m_dropSign)
         paintDropSign(painter);
     if (hasFocus() && m_focusByKey) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
+}
+
+void DragDropImageView::paintCloseup(QPainter& painter, const QRect& exposed)
+{
+    const qreal ratio = devicePixelRatioF();
+    const Closeup::Part part = m_closeup.part(shownImage(), scaled(exposed, ratio).toAlignedRect(), room());
+    painter.drawImage(scaled(part.area, 1 / ratio), part.pixels);
 }
 
 void DragDropImageView::paintDropSign(QPainter& painter)
@@ -184,13 +265,96 @@ void DragDropImageView::takeDrop(QDropEvent& event)
 
 void DragDropImageView::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
-        setComparing(true);
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (!m_closeup.isOn())
+        return setComparing(true);
+    beginPan(event->position());
+    m_heldStill.start(QApplication::startDragTime(), this);
+}
+
+void DragDropImageView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_closeup.isOn() && event->buttons() & Qt::LeftButton)
+        panTo(event->position());
 }
 
 void DragDropImageView::mouseReleaseEvent(QMouseEvent*)
 {
+    m_heldStill.stop();
     setComparing(false);
+    if (m_closeup.isOn())
+        setCursor(Qt::OpenHandCursor);
+}
+
+void DragDropImageView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        emit actualSizeAsked(event->position());
+        beginPan(event->position());
+    }
+}
+
+void DragDropImageView::beginPan(const QPointF& position)
+{
+    m_pressed = position;
+    m_panned = {};
+    m_panning = false;
+}
+
+/// The mouse is there now. Less than the platform's distance may be an unsteady hand.
+void DragDropImageView::panTo(const QPointF& position)
+{
+    const QPointF way = position - m_pressed;
+    if (!m_panning && way.manhattanLength() < QApplication::startDragDistance())
+        return;
+    if (!std::exchange(m_panning, true)) {
+        m_heldStill.stop();
+        setCursor(Qt::ClosedHandCursor);
+    }
+    const QPoint pixels = (way * devicePixelRatioF()).toPoint();
+    m_closeup.panBy(pixels - std::exchange(m_panned, pixels), room());
+    update();
+}
+
+void DragDropImageView::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_heldStill.timerId())
+        return QWidget::timerEvent(event);
+    m_heldStill.stop();
+    setComparing(true);
+}
+
+void DragDropImageView::wheelEvent(QWheelEvent* event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier))
+        return event->ignore();
+    m_wheel += event->angleDelta().y();
+    const int steps = m_wheel / wheelStep;
+    m_wheel %= wheelStep;
+    if (steps != 0)
+        emit zoomAsked(steps, event->position());
+}
+
+void DragDropImageView::keyPressEvent(QKeyEvent* event)
+{
+    const QSize step = room() / stepsAcross;
+    const auto pan = [this](int x, int y) {
+        m_closeup.panBy({x, y}, room());
+        update();
+    };
+    if (!m_closeup.isOn())
+        QWidget::keyPressEvent(event);
+    else if (event->key() == Qt::Key_Left)
+        pan(step.width(), 0);
+    else if (event->key() == Qt::Key_Right)
+        pan(-step.width(), 0);
+    else if (event->key() == Qt::Key_Up)
+        pan(0, step.height());
+    else if (event->key() == Qt::Key_Down)
+        pan(0, -step.height());
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void DragDropImageView::focusInEvent(QFocusEvent* event)

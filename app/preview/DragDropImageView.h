@@ -1,5 +1,8 @@
 #pragma once
 
+#include "app/preview/Closeup.h"
+
+#include <QBasicTimer>
 #include <QByteArray>
 #include <QImage>
 #include <QWidget>
@@ -35,8 +38,19 @@ public:
     void setComparing(bool on);
     /// The picture that is shown now.
     const QImage& shownImage() const;
-    /// Where the picture stands, in the coordinates of the widget.
+    /// Where the picture stands, in the coordinates of the widget. A magnified one may reach beyond it.
     QRectF imageRect() const;
+
+    /// The close look, if any: the full-size picture is shown at 50, 100 or 200 per cent, and the mouse and the arrow
+    /// keys move it. Points are in the coordinates of the widget.
+    const Closeup& closeup() const { return m_closeup; }
+    /// The full-size picture of the photo, which a close look begins with, or goes on with.
+    void setFullImage(const QImage& image);
+    /// Frees it. What is seen of it stays on the screen until the next one comes.
+    void letFullImageGo();
+    void magnify(const QPointF& at, int percent); ///< that point comes into the middle
+    void zoom(int steps, const QPointF& at); ///< that point stays where it is
+    void fit(); ///< ends the close look, and frees the full-size picture
 
     DropDelegate* delegate() const { return m_dropDelegate; }
     void setDelegate(DropDelegate* delegate) { m_dropDelegate = delegate; } ///< not owned
@@ -56,13 +70,22 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+signals:
+    void actualSizeAsked(const QPointF& at); ///< by a double click
+    void zoomAsked(int steps, const QPointF& at); ///< by the wheel with Ctrl; larger where positive
+
 protected:
-    void paintEvent(QPaintEvent*) override;
+    void paintEvent(QPaintEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override { takeDragEnter(*event); }
     void dragLeaveEvent(QDragLeaveEvent*) override { showDropSign(false); }
     void dropEvent(QDropEvent* event) override { takeDrop(*event); }
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
@@ -71,16 +94,28 @@ private:
         qint64 of = 0; ///< cache key of the picture
         QImage image;
     };
-    QSize shownPixels() const;
+    QSize room() const; ///< of the widget in pixels of the screen
+    QSize fittedPixels(const QSize& picture) const; ///< of the screen
+    QRectF fittedRect(const QSize& picture) const;
     /// What the picture takes of the widget; all of it without one, for the words that stand there instead.
     QRect shownArea() const;
     const QImage& fitted();
     void paintDropSign(QPainter& painter);
     void tellState();
+    void paintCloseup(QPainter& painter, const QRect& exposed);
+    void showCloseup();
+    void beginPan(const QPointF& position);
+    void panTo(const QPointF& position);
 
     std::function<QImage()> m_before;
     QImage m_rendered, m_compared;
     Fitted m_fittedImages[2]; ///< of the render and of the compared picture
+    Closeup m_closeup;
+    QPointF m_pressed; ///< where the mouse went down on a close look
+    QPoint m_panned; ///< since then, in pixels of the screen
+    bool m_panning = false;
+    QBasicTimer m_heldStill; ///< runs until a mouse that is held on a close look compares
+    int m_wheel = 0; ///< what the wheel was turned since the last step, in eighths of a degree
     QString m_reason;
     bool m_comparing = false;
     bool m_dropSign = false;

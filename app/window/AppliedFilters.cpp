@@ -43,7 +43,7 @@ void MainWindowController::removeOtherFilters(int filter)
 
 void MainWindowController::pressFilterButton(int filter)
 {
-    const Work work(m_work, stepsOfRender() + 1, takesLong(m_photo.display()));
+    const Work work = renderOfPreview(1);
     if (!work)
         return showAppliedFilters();
     filterIDs.press(filter, doMultiFiltering);
@@ -82,6 +82,8 @@ void MainWindowController::renderPreview()
     m_ui->mainImageView->setImage(render, reason);
     if (!reason.isEmpty())
         openModalSheetWithText(tr("The preview cannot be shown."), reason);
+    if (m_ui->mainImageView->closeup().isOn())
+        renderActualSize();
 }
 
 QImage MainWindowController::saveMultipleFilters(bool preview, QString* reason)
@@ -105,15 +107,18 @@ RenderSettings MainWindowController::renderSettings()
     return settings;
 }
 
+RenderProgress MainWindowController::shownProgress()
+{
+    return [this](const char* step) { m_work.beginStep(QString::fromUtf8(step)); };
+}
+
 QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail, QString* reason)
 {
     RenderSettings settings = renderSettings();
     settings.filter = usingFilter;
     settings.asThumbnail = asThumbnail;
-    RenderProgress progress;
-    if (!asThumbnail) // painting the bar takes longer than a thumbnail
-        progress = [this](const char* step) { m_work.beginStep(QString::fromUtf8(step)); };
-    return renderPhoto(image, settings, progress, reason);
+    // Painting the bar takes longer than a thumbnail.
+    return renderPhoto(image, settings, asThumbnail ? RenderProgress() : shownProgress(), reason);
 }
 
 void MainWindowController::updateBreadcrumb()

@@ -3,7 +3,6 @@
 #include "app/window/MainWindowController.h"
 #include "core/SixPlaces.h"
 #include "photo/EscapedText.h"
-#include "photo/FreeMemory.h"
 #include "photo/PhotoSaver.h"
 #include "render/Export.h"
 #include "ui_MainWindow.h"
@@ -36,6 +35,7 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
             showSheet(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), loaded.reason, Qt::NonModal);
         return false;
     }
+    showFitted();
     m_photo.metadata = loaded.metadata;
     setoriginalImage(loaded.image);
     updateThumbnailImages();
@@ -59,6 +59,7 @@ void MainWindowController::setCurrentFile(const QByteArray& path)
 void MainWindowController::setoriginalImage(const QImage& image)
 {
     m_photo.setOriginal(image, displayRes, thumbDensity());
+    m_framedFullSize = {};
     m_framedOriginal = {}; // it may be as large as the photo
     showWhatCanBeDone();
 }
@@ -110,10 +111,13 @@ void MainWindowController::flattenImage()
     const Work work(m_work, stepsOfRender() + 2, takesLong(m_photo.original()));
     if (!work || m_photo.isNull())
         return;
+    letSavedPictureGo();
     QString reason;
-    const QImage render = saveMultipleFilters(false, &reason);
-    if (render.isNull())
+    const QImage render = renderFullSize(&reason);
+    if (render.isNull()) {
+        showFitted();
         return openModalSheetWithText(tr("The photo cannot be flattened."), reason);
+    }
     const QImage former = m_photo.original();
     setoriginalImage(render);
     removeAllFilters();
@@ -128,21 +132,16 @@ void MainWindowController::saveFilteredImage()
     if (!work || m_photo.isNull())
         return;
     QString reason;
-    QImage render = saveMultipleFilters(false, &reason);
-    if (render.isNull())
+    const SavedPicture saved = savedPicture(&reason);
+    if (saved.picture.isNull())
         return openModalSheetWithText(tr("The photo cannot be saved."), reason);
-    QSizeF size = render.size();
-    if (imgOutputSize > -1)
-        size = downsizeNSImage(render, imgOutputSize);
-    if (render.isNull())
-        return openModalSheetWithText(tr("The photo cannot be saved."), memoryRefusal(bitmapSize(size)));
-    std::printf("downsizing image to %i, ended with %s %s\n", imgOutputSize, lumora::sixPlaces(size.width()).c_str(),
-        lumora::sixPlaces(size.height()).c_str());
+    std::printf("downsizing image to %i, ended with %s %s\n", imgOutputSize,
+        lumora::sixPlaces(saved.size.width()).c_str(), lumora::sixPlaces(saved.size.height()).c_str());
     m_work.beginStep(tr("Encode"));
     const QByteArray jpeg =
-        encodeJpeg(render, m_photo.metadata, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen()));
+        encodeJpeg(saved.picture, m_photo.metadata, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen()));
     if (jpeg.isEmpty())
-        return openModalSheetWithText(tr("The photo cannot be saved."), jpegRefusal(render.size()));
+        return openModalSheetWithText(tr("The photo cannot be saved."), jpegRefusal(saved.picture.size()));
     const QByteArray path = askWhereToSave(jpeg.size());
     if (path.isEmpty())
         return;
@@ -151,5 +150,5 @@ void MainWindowController::saveFilteredImage()
         qWarning("%s: %s", escaped(path).constData(), qUtf8Printable(reason));
         return showNote({});
     }
-    showNote(savedLine(fileNameOf(path), render.size(), jpeg.size()));
+    showNote(savedLine(fileNameOf(path), saved.picture.size(), jpeg.size()));
 }

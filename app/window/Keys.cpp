@@ -115,6 +115,11 @@ bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return pressByKey(widget);
+    case Qt::Key_Escape:
+        if (!m_ui->mainImageView->closeup().isOn())
+            return false;
+        showFitted();
+        return true;
     default:
         return false;
     }

@@ -31,7 +31,8 @@ class MainWindow;
 
 /// The one controller: owns the window, the photo, the list of looks and the work in progress, and brings them
 /// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
-/// Strength.cpp, Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands in app/state.
+/// Strength.cpp, ActualSize.cpp, Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands
+/// in app/state.
 class MainWindowController : public QMainWindow,
                              public DropDelegate,
                              public DocumentSlots,
@@ -153,7 +154,8 @@ private:
     /// The photo's own work, or the display copy's: small pictures are done before a progress bar could be read.
     static bool takesLong(const QImage& image);
     int stepsOfRender() const;
-    Work renderOfPreview(); ///< of the applied list
+    /// Of the applied list, with the full-size picture of a close look. `moreLooks`: how many the list may get first.
+    Work renderOfPreview(int moreLooks = 0);
     void showStep(const QString& name, double done, int steps) override;
     void workEnded(bool closeAsked) override;
     bool takesDrag(QEvent* event); ///< true: it was one
@@ -161,11 +163,31 @@ private:
     bool takesKeyRelease(const QKeyEvent& release);
     void showAppliedFilters();
     RenderSettings renderSettings(); ///< of the applied list, after updateFromSettings()
+    RenderProgress shownProgress();
     void buildStrengthEntries(QMenu& looks);
     void connectStrength();
     void strengthChanged();
     void showStrength(int percent); ///< without a render
     void showMixed();
+    /// What is written to a file.
+    struct SavedPicture {
+        QImage picture;
+        QSizeF size; ///< before it was rounded to pixels
+    };
+    QImage renderFullSize(QString* reason);
+    SavedPicture inOutputSize(QImage render, QString* reason);
+    SavedPicture savedPicture(QString* reason); ///< null with a reason where there is no memory for it
+    void letSavedPictureGo();
+    bool showSavedPicture(const SavedPicture& saved, const QString& reason);
+    bool renderActualSize();
+    QImage fullSizeBefore();
+    void mixActualSize();
+    void showFitted();
+    void showZoom();
+    void toggleActualSize(const QPointF& at); ///< in the coordinates of the preview
+    void zoom(int steps, const QPointF& at); ///< larger where positive
+    void buildZoomEntries(QMenu& menu);
+    QPointF pointLookedAt() const;
     void showWhatCanBeDone();
     void showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality);
     void openWaitingFile();
@@ -201,6 +223,7 @@ private:
     QList<QAction*> m_strengthActions; ///< of no use without a look
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown
+    QAction* m_actualSizeAction = nullptr; ///< owned by the menu
     QAction *m_undoAction = nullptr, *m_redoAction = nullptr; ///< owned by the menu
     quint64 m_spacePressed = 0; ///< when the space bar went down, in the milliseconds of key events
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
@@ -210,10 +233,13 @@ private:
     std::unique_ptr<PhotoReader> m_reader;
     Photo m_photo;
     FramedOriginal m_framedOriginal; ///< what the preview is compared with
+    FramedOriginal m_framedFullSize; ///< the same for a close look
     History m_history{*this, &MainWindowController::roomForFormerPhotos};
     unsigned m_renderSeed = 0; ///< of the random numbers that the preview drew while it was rendered
     QImage m_filtersAppliedImage; ///< the latest render
     std::unique_ptr<RenderedLooks> m_renderedLooks; ///< of the preview, once its strength was changed; else null
+    SavedPicture m_shownSaved; ///< that of the close look; null without one
+    std::unique_ptr<RenderedLooks> m_fullSizeLooks; ///< of that, once its strength was changed; else null
     QByteArray m_waitingFile; ///< to be opened when there is room for it; empty for none
     bool m_wasPainted = false;
     QString m_panelFolder; ///< of the photo, or where a panel was left since; also of a former run

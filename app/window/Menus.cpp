@@ -34,6 +34,8 @@ void MainWindowController::buildMenus()
     m_photoActions << photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
     photo->addSeparator();
     photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
+    photo->addSeparator();
+    buildZoomEntries(*photo);
 
     // In the order of the strip; the first ten have digits.
     QMenu* looks = m_ui->menubar->addMenu(tr("&Looks"));

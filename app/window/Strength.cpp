@@ -63,4 +63,6 @@ void MainWindowController::showMixed()
         return renderPreview(); // which says why
     m_filtersAppliedImage = picture;
     m_ui->mainImageView->setImage(picture);
+    if (m_ui->mainImageView->closeup().isOn())
+        mixActualSize();
 }

@@ -84,7 +84,10 @@ void MainWindowController::completeNibLoading()
 
     m_ui->mainImageView->setDelegate(this);
     // Crop and border are those of the render before: each one reads them from the options.
-    m_ui->mainImageView->setBefore([this] { return m_framedOriginal.of(m_photo.display(), cropFilter, borderFilter); });
+    m_ui->mainImageView->setBefore([this] {
+        return m_ui->mainImageView->closeup().isOn() ? fullSizeBefore()
+                                                     : m_framedOriginal.of(m_photo.display(), cropFilter, borderFilter);
+    });
     qApp->installEventFilter(this);
     buildMenus();
     showStrength(wholeStrength);

@@ -25,9 +25,12 @@ int MainWindowController::stepsOfRender() const
     return filterIDs.numThings + 2; // fit, the looks, border
 }
 
-Work MainWindowController::renderOfPreview()
+Work MainWindowController::renderOfPreview(int moreLooks)
 {
-    return Work(m_work, stepsOfRender(), takesLong(m_photo.display()));
+    const bool alsoFullSize = m_ui->mainImageView->closeup().isOn();
+    const int steps = stepsOfRender() + moreLooks;
+    return Work(
+        m_work, alsoFullSize ? 2 * steps : steps, takesLong(alsoFullSize ? m_photo.original() : m_photo.display()));
 }
 
 void MainWindowController::showStep(const QString& name, double done, int steps)
