@@ -4,17 +4,19 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
-/// lumora [--] [FILE]
+/// lumora [--] [FILE...]
 int main(int argc, char** argv)
 {
-    // The bytes of the name as they are: it need not be text. The file is read while the window comes up.
-    const int file = argc > 1 && std::strcmp(argv[1], "--") == 0 ? 2 : 1;
+    // The bytes of the names as they are: they need not be text. The first file is read while the window comes up.
+    const int first = argc > 1 && std::strcmp(argv[1], "--") == 0 ? 2 : 1;
+    const QByteArrayList files(argv + std::min(first, argc), argv + argc);
     auto reader = std::make_unique<PhotoReader>();
-    if (argc > file)
-        reader->begin(argv[file]);
+    if (!files.isEmpty())
+        reader->begin(files.first());
 
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Dovrel"));
@@ -26,8 +28,7 @@ int main(int argc, char** argv)
 
     MainWindowController controller(std::move(reader));
     const SessionEnd sessionEnd;
-    if (argc > file)
-        controller.openFileWhenShown(argv[file]);
+    controller.openFilesWhenShown(files);
     controller.show();
     return QApplication::exec();
 }

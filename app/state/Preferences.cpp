@@ -23,7 +23,8 @@ QString text(const GrowString& string)
 // The described choices are keys without a group, which is "[General]" in the file. What is remembered beside them has
 // groups of its own, which no version counts.
 constexpr char describedSection[] = "[General]\n";
-constexpr const char* ownSections[] = {"[General]", "[Saving]", "[Window]"}; ///< those that a file may begin with
+constexpr const char* ownSections[] = {
+    "[General]", "[Recent]", "[Saving]", "[Window]"}; ///< those that a file may begin with
 constexpr off_t longestFile = 1'000'000; ///< bytes; a store has some hundred
 
 /// The file of the store. The platform opens it as soon as it is asked for its name.

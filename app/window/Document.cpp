@@ -1,4 +1,5 @@
 #include "app/controls/ChoiceMenu.h"
+#include "app/state/RecentPhotos.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "core/SixPlaces.h"
@@ -22,6 +23,15 @@ constexpr qint64 largeFile = 2'000'000; ///< bytes; a smaller one is decoded in 
 
 bool MainWindowController::loadImageFromFile(const QByteArray& path)
 {
+    QString reason;
+    const bool opened = openPhoto(path, &reason);
+    if (!reason.isEmpty()) // not modal: another photo may be dropped on the window at once
+        showSheet(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), reason, Qt::NonModal);
+    return opened;
+}
+
+bool MainWindowController::openPhoto(const QByteArray& path, QString* reason)
+{
     const Work work(m_work, stepsOfRender() + 1, QFileInfo(QFile::decodeName(path)).size() > largeFile);
     if (!work)
         return false;
@@ -30,9 +40,8 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
         m_sheet->close(); // what it said is answered by what comes now
     const LoadedPhoto loaded = readPhoto(path);
     if (loaded.image.isNull()) {
-        // Not modal: another photo may be dropped on the window at once.
         if (m_reader->end() != PhotoReader::End::Cancelled)
-            showSheet(tr("“%1” cannot be opened.").arg(shownName(fileNameOf(path))), loaded.reason, Qt::NonModal);
+            *reason = loaded.reason;
         return false;
     }
     showFitted();
@@ -40,6 +49,7 @@ bool MainWindowController::loadImageFromFile(const QByteArray& path)
     setoriginalImage(loaded.image);
     updateThumbnailImages();
     setCurrentFile(path);
+    addRecentPhoto(path);
     applyMultipleFilters();
     beginHistory();
     if (loaded.restIsMissing)

@@ -7,6 +7,7 @@
 #include "app/state/History.h"
 #include "app/state/LookList.h"
 #include "app/state/Photo.h"
+#include "app/state/PhotoWalk.h"
 #include "app/state/WorkInProgress.h"
 #include "core/GrowArray.h"
 #include "image/FilterNumber.h"
@@ -94,6 +95,8 @@ public:
     bool loadImageFromFile(const QByteArray& path) override;
     /// The same as soon as the window has been painted and nothing is worked on; of several the last.
     void openFileWhenShown(const QByteArray& path) { m_waitingFile = path; }
+    /// The first of them; from photo to photo one goes through them in their order.
+    void openFilesWhenShown(const QByteArrayList& paths);
     /// Scales to the longer side `maxSide`, also upwards; gives the exact size before it was rounded to pixels.
     static QSizeF downsizeNSImage(QImage& image, int maxSide);
     /// A copy whose width is the picture's height and the other way round, with the picture turned about its middle;
@@ -205,6 +208,11 @@ private:
     void showHistory();
     void showNote(const QString& line); ///< empty: nothing
     void setCurrentFile(const QByteArray& path);
+    /// As loadImageFromFile, without a sheet: false with a `reason`, which stays empty where there is nothing to tell.
+    bool openPhoto(const QByteArray& path, QString* reason);
+    void buildRecentMenu(QMenu& file);
+    void buildWalkEntries(QMenu& photo);
+    void goFromPhoto(PhotoWalk::Direction direction);
     void rotateImage(int quarterTurns); ///< counter-clockwise where positive
     int largerFrameSide() const;
     /// In pixels to the point of the thumbnail copy, whose shorter side is 100 points.
@@ -232,6 +240,7 @@ private:
     WorkInProgress m_work{*this};
     std::unique_ptr<PhotoReader> m_reader;
     Photo m_photo;
+    PhotoWalk m_walk;
     FramedOriginal m_framedOriginal; ///< what the preview is compared with
     FramedOriginal m_framedFullSize; ///< the same for a close look
     History m_history{*this, &MainWindowController::roomForFormerPhotos};

@@ -14,6 +14,7 @@ void MainWindowController::buildMenus()
 
     QMenu* file = m_ui->menubar->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
+    buildRecentMenu(*file);
     m_photoActions << file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
     // What a saved photo carries besides its picture, in the order of Kept.
     m_kept = new ChoiceMenu(tr("&Keep with the photo"), "Saving/Kept",
@@ -36,6 +37,7 @@ void MainWindowController::buildMenus()
     photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
     photo->addSeparator();
     buildZoomEntries(*photo);
+    buildWalkEntries(*photo);
 
     // In the order of the strip; the first ten have digits.
     QMenu* looks = m_ui->menubar->addMenu(tr("&Looks"));

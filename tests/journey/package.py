@@ -39,7 +39,7 @@ entry = configparser.ConfigParser(interpolation=None)
 entry.read(os.path.join(share, "applications", "dovrel.lumora.desktop"))
 program, *arguments = entry["Desktop Entry"]["Exec"].split()
 assert os.access(os.path.join(root, "usr", "bin", program), os.X_OK), program
-assert arguments == ["%f"], arguments
+assert arguments == ["%F"], arguments
 icon = entry["Desktop Entry"]["Icon"]
 assert glob.glob(os.path.join(share, "icons", "hicolor", "*", "apps", icon + ".*")), icon
 with open(help_document, "rb") as document:
