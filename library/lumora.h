@@ -11,7 +11,7 @@ extern "C" {
 /* Photo looks on pixels in memory.
  *
  * A pixel is four bytes, in this order on every machine: red, green, blue, each 0 .. 255 and not multiplied by an
- * opacity, and a spare one, which is never read and stays as it is. Rows stand top first; `stride` is the count of
+ * opacity, and a spare one, which has no effect and stays as it is. Rows stand top first; `stride` is the count of
  * bytes from one row to the next, at least 4 * width. Bytes between two rows are neither read nor written. A side has 1
  * to 65535 pixels, and a picture at most 268435456 (2^28).
  *
