@@ -15,8 +15,8 @@
 
 namespace {
 
-/// The order of Format_RGB32.
-constexpr J_COLOR_SPACE colours = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRA : JCS_EXT_ARGB;
+/// That of Format_RGBX8888, in which renders are made.
+constexpr J_COLOR_SPACE colours = JCS_EXT_RGBA;
 
 /// Makes colours of what is told as the light that each ink lets through, where no profile tells what the inks are.
 void paintInks(QImage& picture)
@@ -86,7 +86,7 @@ public:
     /// Of what readRows gives; four inks are in the order of Format_RGBA8888.
     QImage::Format format() const
     {
-        return isGrey() ? QImage::Format_Grayscale8 : isOfInks() ? QImage::Format_RGBA8888 : QImage::Format_RGB32;
+        return isGrey() ? QImage::Format_Grayscale8 : isOfInks() ? QImage::Format_RGBA8888 : QImage::Format_RGBX8888;
     }
 
     /// Reads all rows of the picture.

@@ -15,7 +15,7 @@ public:
     static bool canRead(QIODevice& device);
 
     bool canRead() const override;
-    /// Format_Grayscale8 or Format_RGB32 with its profile, or Format_RGBX8888 of inks. What the file has lost is grey,
+    /// Format_Grayscale8 or Format_RGBX8888, with its profile where it is not of inks. What the file has lost is grey,
     /// or holds the colours that were next to it.
     bool read(QImage* image) override;
     /// Knows Size and ImageFormat.
