@@ -18,7 +18,7 @@ using namespace lumora;
 
 namespace {
 
-constexpr int halfTurn = 1, turnRight = 0, turnLeft = 2; // 3 and every other code: upright
+constexpr int halfTurn = 1, turnRight = 0, turnLeft = 2, upright = 3; // as every other code
 
 bool isQuarterTurn(int orientation)
 {
@@ -108,6 +108,32 @@ void freeBlock(void* pixels)
     delete[] static_cast<unsigned char*>(pixels);
 }
 
+void draw(const QImage& image, unsigned char* block, int outWidth, int outHeight, int orientation,
+    const Margins& margins, bool fast)
+{
+    const std::size_t size = blockSize(outWidth, outHeight);
+    if (image.isNull()) {
+        std::memset(block, 255, size);
+        return;
+    }
+    const QImage source = turned(onWhiteInEitherOrder(image), orientation);
+    // Single precision can lose a pixel of the picture's own aspect; a picture of the output's size fills it.
+    PlacedRect rect{0, 0, double(outWidth), double(outHeight)};
+    if (!margins.none() || source.width() != outWidth || source.height() != outHeight)
+        rect = fillArea(float(source.width()) / float(source.height()), outWidth, outHeight, margins);
+    // Turning the drawing to the left or by half takes the rectangle to the other side of the centre.
+    if (orientation == turnLeft || orientation == halfTurn) {
+        rect.x = outWidth - (rect.x + rect.width);
+        rect.y = outHeight - (rect.y + rect.height);
+    }
+    if (!covers(rect, outWidth, outHeight))
+        std::memset(block, 255, size);
+    const PixelRows rows{source.constBits(), std::size_t(source.bytesPerLine()), source.width(), source.height()};
+    drawScaled(rows, rect, fast, block, outWidth, outHeight);
+    if (source.format() == QImage::Format_RGB32)
+        orderChannels(block, size);
+}
+
 } // namespace
 
 QSize fittedSize(const QSize& image, float aspect, int boxWidth, int boxHeight, int orientation)
@@ -147,31 +173,22 @@ CharImage* charImageFromNSImage(const QImage& image, float aspect, int boxWidth,
 unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outHeight, int orientation, int left,
     int right, int top, int bottom, bool fast)
 {
-    const std::size_t size = blockSize(outWidth, outHeight);
+    auto block = newExchangeBlock(outWidth, outHeight);
+    draw(image, block.get(), outWidth, outHeight, orientation, {left, right, top, bottom}, fast);
+    return block.release();
+}
+
+std::unique_ptr<unsigned char[]> newExchangeBlock(int width, int height)
+{
+    const std::size_t size = blockSize(width, height);
     std::unique_ptr<unsigned char[]> block(new unsigned char[size]);
     useLargePages(block.get(), size);
-    if (image.isNull()) {
-        std::memset(block.get(), 255, size);
-        return block.release();
-    }
-    const QImage source = turned(onWhiteInEitherOrder(image), orientation);
-    const Margins margins{left, right, top, bottom};
-    // Single precision can lose a pixel of the picture's own aspect; a picture of the output's size fills it.
-    PlacedRect rect{0, 0, double(outWidth), double(outHeight)};
-    if (!margins.none() || source.width() != outWidth || source.height() != outHeight)
-        rect = fillArea(float(source.width()) / float(source.height()), outWidth, outHeight, margins);
-    // Turning the drawing to the left or by half takes the rectangle to the other side of the centre.
-    if (orientation == turnLeft || orientation == halfTurn) {
-        rect.x = outWidth - (rect.x + rect.width);
-        rect.y = outHeight - (rect.y + rect.height);
-    }
-    if (!covers(rect, outWidth, outHeight))
-        std::memset(block.get(), 255, size);
-    const PixelRows rows{source.constBits(), std::size_t(source.bytesPerLine()), source.width(), source.height()};
-    drawScaled(rows, rect, fast, block.get(), outWidth, outHeight);
-    if (source.format() == QImage::Format_RGB32)
-        orderChannels(block.get(), size);
-    return block.release();
+    return block;
+}
+
+void drawIntoBlock(const QImage& image, unsigned char* block, int outWidth, int outHeight)
+{
+    draw(image, block, outWidth, outHeight, upright, {0, 0, 0, 0}, false);
 }
 
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <memory>
 
 namespace lumora {
 class CharImage;
@@ -25,6 +26,12 @@ lumora::CharImage* charImageFromNSImage(const QImage& image, float aspect, int b
 /// copied byte for byte. Transparency is laid on white.
 unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outHeight, int orientation, int left,
     int right, int top, int bottom, bool fast);
+
+/// A new exchange block for so many pixels. What it holds is undefined.
+std::unique_ptr<unsigned char[]> newExchangeBlock(int width, int height);
+
+/// What getRGBACharImageArray draws, upright and without margins, into a block that is there.
+void drawIntoBlock(const QImage& image, unsigned char* block, int outWidth, int outHeight);
 
 /// A picture over an exchange block without a copy. The picture takes the block over and frees it; the spare bytes are
 /// set to 255, as the format asks.

@@ -6,6 +6,7 @@
 #include "render/ImageBridge.h"
 
 #include <QColorSpace>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <utility>
@@ -70,10 +71,25 @@ bool hasRoomFor(const QSize& size, int blocks)
 
 constexpr int blocksOfRender = blocksPerPhoto - 1;
 
+/// A picture of undefined pixels, whose block has room for the margins, too.
+std::unique_ptr<CharImage> roomyImage(const QSize& size, const Frame& frame)
+{
+    auto block = newExchangeBlock(size.width() + frame.left + frame.right, size.height() + frame.top + frame.bottom);
+    return std::make_unique<CharImage>(block.release(), size.width(), size.height());
+}
+
 std::unique_ptr<CharImage> fitted(const QImage& source, const Frame& frame)
 {
-    return std::unique_ptr<CharImage>(
-        charImageFromNSImage(source, frame.aspect, frame.boxWidth(), frame.boxHeight(), 0, 0, 0, 0, false, 3));
+    auto image = roomyImage(sizeOf(source, frame, true), frame);
+    drawIntoBlock(source, image->data, image->width, image->height);
+    return image;
+}
+
+std::unique_ptr<CharImage> copyOf(const CharImage& image, const Frame& frame)
+{
+    auto copy = roomyImage({image.width, image.height}, frame);
+    std::memcpy(copy->data, image.data, image.pixelCount() * 4);
+    return copy;
 }
 
 bool hasLooks(const RenderSettings& settings)
@@ -104,10 +120,24 @@ void applyLooks(CharImage& image, const RenderSettings& settings, const RenderPr
             applyStep(image, settings.filterIDs->theArray[i], progress);
 }
 
+/// Makes the picture larger by the margins, which are white, within its block. A new one would be fresh memory, which
+/// costs more than to move the rows.
+void addMargins(CharImage& image, const Frame& frame)
+{
+    const std::size_t row = std::size_t(image.width) * 4, framedRow = row + std::size_t(frame.left + frame.right) * 4;
+    for (int y = image.height - 1; y >= 0; y--)
+        std::memmove(image.data + std::size_t(y + frame.top) * framedRow + std::size_t(frame.left) * 4,
+            image.data + std::size_t(y) * row, row);
+    image.width += frame.left + frame.right;
+    image.height += frame.top + frame.bottom;
+    constexpr unsigned char white[] = {255, 255, 255};
+    image.fillBorder(frame.left, frame.right, frame.top, frame.bottom, white);
+}
+
 void addFrame(CharImage& image, const Frame& frame, int borderFilter)
 {
     if (frame.hasMargins())
-        image.addBorder(frame.left, frame.right, frame.top, frame.bottom, 255.0f, 255.0f, 255.0f);
+        addMargins(image, frame);
     image.applyFilterBorder(borderFilter, frame.maxSide);
 }
 
@@ -130,9 +160,9 @@ QImage render(const QImage& source, const RenderSettings& settings, const Frame&
     }
     const std::unique_ptr<CharImage> image = fitted(source, frame);
     if (isMixed(settings)) {
-        const CharImage before(*image);
+        const auto before = copyOf(*image, frame);
         applyLooks(*image, settings, progress);
-        image->mixIn(before, settings.strength);
+        image->mixIn(*before, settings.strength);
     } else {
         applyLooks(*image, settings, progress);
     }
@@ -188,7 +218,7 @@ std::unique_ptr<RenderedLooks> RenderedLooks::of(
             return nullptr;
         std::unique_ptr<Parts> parts(
             new Parts{frame, settings.borderFilter, source.colorSpace(), fitted(source, frame), {}});
-        parts->after = std::make_unique<CharImage>(*parts->before);
+        parts->after = copyOf(*parts->before, frame);
         applyLooks(*parts->after, settings, progress);
         return std::unique_ptr<RenderedLooks>(new RenderedLooks(std::move(parts)));
     } catch (const std::bad_alloc&) {
@@ -199,10 +229,10 @@ std::unique_ptr<RenderedLooks> RenderedLooks::of(
 QImage RenderedLooks::withStrength(int strength) const
 {
     try {
-        CharImage image(*m->after);
-        image.mixIn(*m->before, strength);
-        addFrame(image, m->frame, m->borderFilter);
-        return pictureOf(image, m->frame, m->space);
+        const auto image = copyOf(*m->after, m->frame);
+        image->mixIn(*m->before, strength);
+        addFrame(*image, m->frame, m->borderFilter);
+        return pictureOf(*image, m->frame, m->space);
     } catch (const std::bad_alloc&) {
         return {};
     }
