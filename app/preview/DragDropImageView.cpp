@@ -1,6 +1,7 @@
 #include "app/preview/DragDropImageView.h"
 
 #include "app/preview/CornerLabel.h"
+#include "app/state/LocalFiles.h"
 #include "render/Scaled.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QUrl>
 #include <cmath>
 #include <utility>
 
@@ -16,16 +16,6 @@ namespace {
 
 constexpr int wheelStep = 120; ///< eighths of a degree
 constexpr int stepsAcross = 8; ///< of the arrow keys on a close look, from edge to edge of the widget
-
-/// The paths of the files that a drag carries, byte for byte as the file system has them.
-QByteArrayList filePaths(const QMimeData* content)
-{
-    QByteArrayList paths;
-    for (const QUrl& url : content->urls())
-        if (url.isLocalFile())
-            paths << QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
-    return paths;
-}
 
 QRectF scaled(const QRectF& rect, qreal factor)
 {
@@ -172,12 +162,12 @@ const QImage& DragDropImageView::fitted()
 Qt::DropAction DragDropImageView::draggingEntered(const QMimeData* content, Qt::DropActions allowed) const
 {
     const bool mayCopy = allowed & (Qt::LinkAction | Qt::CopyAction);
-    return mayCopy && !filePaths(content).isEmpty() ? Qt::CopyAction : Qt::IgnoreAction;
+    return mayCopy && !localFiles(*content).isEmpty() ? Qt::CopyAction : Qt::IgnoreAction;
 }
 
 bool DragDropImageView::performDragOperation(const QMimeData* content)
 {
-    const QByteArrayList paths = filePaths(content);
+    const QByteArrayList paths = localFiles(*content);
     return !paths.isEmpty() && m_dropDelegate && m_dropDelegate->loadImageFromFile(paths.first());
 }
 
@@ -241,7 +231,8 @@ void DragDropImageView::showDropSign(bool on)
 
 void DragDropImageView::takeDragEnter(QDragEnterEvent& event)
 {
-    if (draggingEntered(event.mimeData(), event.possibleActions()) == Qt::IgnoreAction) {
+    // A drag of this program's own carries this photo, whose file would be made now.
+    if (event.source() || draggingEntered(event.mimeData(), event.possibleActions()) == Qt::IgnoreAction) {
         event.ignore();
         return;
     }
@@ -267,16 +258,30 @@ void DragDropImageView::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    if (!m_closeup.isOn())
-        return setComparing(true);
     beginPan(event->position());
+    m_mayDragOut = !m_closeup.isOn();
+    if (m_mayDragOut)
+        return setComparing(true);
     m_heldStill.start(QApplication::startDragTime(), this);
 }
 
 void DragDropImageView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_closeup.isOn() && event->buttons() & Qt::LeftButton)
+    if (!(event->buttons() & Qt::LeftButton))
+        return;
+    if (m_closeup.isOn())
         panTo(event->position());
+    else if (m_mayDragOut && !m_rendered.isNull() && isFarFromPress(event->position())) {
+        m_mayDragOut = false;
+        setComparing(false);
+        emit draggedOut();
+    }
+}
+
+/// Less than the platform's distance may be an unsteady hand.
+bool DragDropImageView::isFarFromPress(const QPointF& position) const
+{
+    return (position - m_pressed).manhattanLength() >= QApplication::startDragDistance();
 }
 
 void DragDropImageView::mouseReleaseEvent(QMouseEvent*)
@@ -302,11 +307,11 @@ void DragDropImageView::beginPan(const QPointF& position)
     m_panning = false;
 }
 
-/// The mouse is there now. Less than the platform's distance may be an unsteady hand.
+/// The mouse is there now.
 void DragDropImageView::panTo(const QPointF& position)
 {
     const QPointF way = position - m_pressed;
-    if (!m_panning && way.manhattanLength() < QApplication::startDragDistance())
+    if (!m_panning && !isFarFromPress(position))
         return;
     if (!std::exchange(m_panning, true)) {
         m_heldStill.stop();

@@ -71,6 +71,7 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
+    void draggedOut(); ///< the fitted picture is being dragged away
     void actualSizeAsked(const QPointF& at); ///< by a double click
     void zoomAsked(int steps, const QPointF& at); ///< by the wheel with Ctrl; larger where positive
 
@@ -106,12 +107,14 @@ private:
     void showCloseup();
     void beginPan(const QPointF& position);
     void panTo(const QPointF& position);
+    bool isFarFromPress(const QPointF& position) const;
 
     std::function<QImage()> m_before;
     QImage m_rendered, m_compared;
     Fitted m_fittedImages[2]; ///< of the render and of the compared picture
     Closeup m_closeup;
-    QPointF m_pressed; ///< where the mouse went down on a close look
+    QPointF m_pressed; ///< where the mouse went down
+    bool m_mayDragOut = false; ///< the left button went down on the fitted picture
     QPoint m_panned; ///< since then, in pixels of the screen
     bool m_panning = false;
     QBasicTimer m_heldStill; ///< runs until a mouse that is held on a close look compares

@@ -24,7 +24,7 @@ QImage middleOf(const QImage& image)
 
 QByteArray Photo::fileName() const
 {
-    return fileNameOf(filePath);
+    return filePath.isEmpty() ? name : fileNameOf(filePath);
 }
 
 void Photo::setOriginal(const QImage& image, int displayRes, qreal density)

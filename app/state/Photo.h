@@ -23,8 +23,9 @@ public:
     qreal thumbDensity() const { return m_thumbDensity; }
 
     PhotoMetadata metadata; ///< of the file
-    QByteArray filePath; ///< any bytes
-    QByteArray fileName() const; ///< the path's last component
+    QByteArray filePath; ///< any bytes; empty for a picture that came without a file
+    QByteArray name; ///< of such a picture
+    QByteArray fileName() const; ///< the path's last component, or the name
 
 private:
     QImage m_original, m_display, m_thumb;

@@ -44,23 +44,29 @@ bool MainWindowController::openPhoto(const QByteArray& path, QString* reason)
             *reason = loaded.reason;
         return false;
     }
-    showFitted();
-    m_photo.metadata = loaded.metadata;
-    setoriginalImage(loaded.image);
-    updateThumbnailImages();
-    setCurrentFile(path);
+    takePhoto(loaded, path);
     addRecentPhoto(path);
-    applyMultipleFilters();
-    beginHistory();
     if (loaded.restIsMissing)
         showNote(tr("The rest of the file is missing."));
     return true;
 }
 
+void MainWindowController::takePhoto(const LoadedPhoto& photo, const QByteArray& path)
+{
+    showFitted();
+    m_photo.metadata = photo.metadata;
+    setoriginalImage(photo.image);
+    updateThumbnailImages();
+    setCurrentFile(path);
+    applyMultipleFilters();
+    beginHistory();
+}
+
 void MainWindowController::setCurrentFile(const QByteArray& path)
 {
     m_photo.filePath = path;
-    m_panelFolder = QFileInfo(QFile::decodeName(path)).absolutePath(); // where the panels start
+    if (!path.isEmpty())
+        m_panelFolder = QFileInfo(QFile::decodeName(path)).absolutePath(); // where the panels start
     // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
     const QString name = shownName(m_photo.fileName()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(QStringLiteral("Lumora - ") + name);

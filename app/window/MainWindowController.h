@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/controls/KeyRepeat.h"
+#include "app/desktop/PrivateFolder.h"
 #include "app/preview/DragDropImageView.h"
 #include "app/preview/FramedOriginal.h"
 #include "app/state/DocumentSlots.h"
@@ -133,6 +134,8 @@ public slots:
     void rotateImageLeft() { rotateImage(1); }
     void flattenImage();
     void saveFilteredImage();
+    void copyPhoto(); ///< to the clipboard
+    void paste();
     void undo(); ///< takes the last step back
     void redo();
     void openHelp();
@@ -210,6 +213,14 @@ private:
     void setCurrentFile(const QByteArray& path);
     /// As loadImageFromFile, without a sheet: false with a `reason`, which stays empty where there is nothing to tell.
     bool openPhoto(const QByteArray& path, QString* reason);
+    void takePhoto(const LoadedPhoto& photo, const QByteArray& path); ///< the looks stay on; no path: as Photo::name
+    QString proposedName() const; ///< of a file of the photo
+    void buildClipboardEntries(QMenu& edit);
+    void showWhatCanBePasted();
+    void takePastedPicture(QImage picture);
+    QImage renderForDrag();
+    QString fileForDrag(); ///< its path; empty where there is none
+    void dragPhotoOut();
     void buildRecentMenu(QMenu& file);
     void buildWalkEntries(QMenu& photo);
     void goFromPhoto(PhotoWalk::Direction direction);
@@ -232,7 +243,7 @@ private:
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown
     QAction* m_actualSizeAction = nullptr; ///< owned by the menu
-    QAction *m_undoAction = nullptr, *m_redoAction = nullptr; ///< owned by the menu
+    QAction *m_undoAction = nullptr, *m_redoAction = nullptr, *m_pasteAction = nullptr; ///< owned by the menu
     quint64 m_spacePressed = 0; ///< when the space bar went down, in the milliseconds of key events
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 
@@ -241,6 +252,7 @@ private:
     std::unique_ptr<PhotoReader> m_reader;
     Photo m_photo;
     PhotoWalk m_walk;
+    PrivateFolder m_draggedFiles;
     FramedOriginal m_framedOriginal; ///< what the preview is compared with
     FramedOriginal m_framedFullSize; ///< the same for a close look
     History m_history{*this, &MainWindowController::roomForFormerPhotos};

@@ -86,16 +86,20 @@ void MainWindowController::loadImageButtonPressed()
         loadImageFromFile(QFile::encodeName(file));
 }
 
+/// The panel takes quotation marks for those round each of several names. What it shows is what is written, as that is
+/// what it asks about: a name that cannot be shown is not taken back.
+QString MainWindowController::proposedName() const
+{
+    return shownName(m_photo.fileName()).replace(u'"', u'\'');
+}
+
 /// Asks for the path of a JPEG of so many bytes; empty when the panel was cancelled.
 QByteArray MainWindowController::askWhereToSave(qint64 bytes)
 {
     const SettingsAreWritten noHistory(false);
     SavePanel panel(this, bytes, m_photo.filePath, filterIDs);
     prepare(panel, m_panelFolder);
-    // The panel takes quotation marks for those round each of several names. What it shows is what is written, as that
-    // is what it asks about: a name that cannot be shown is not taken back.
-    const QString proposed = shownName(m_photo.fileName()).replace(u'"', u'\'');
-    panel.selectFile(proposed); // after the types, which would change the name's extension to theirs
+    panel.selectFile(proposedName()); // after the types, which would change the name's extension to theirs
     return runPanel(panel) ? QFile::encodeName(panel.path()) : QByteArray();
 }
 

@@ -35,6 +35,7 @@ void MainWindowController::buildEditMenu()
     m_undoAction = addEntry(QKeySequence::Undo, &MainWindowController::undo);
     m_redoAction = addEntry(QKeySequence::Redo, &MainWindowController::redo);
     showHistory();
+    buildClipboardEntries(*edit);
 }
 
 void MainWindowController::showHistory()

@@ -83,6 +83,7 @@ void MainWindowController::completeNibLoading()
     fill(*m_ui->btnImgSize, sizeChoices());
 
     m_ui->mainImageView->setDelegate(this);
+    connect(m_ui->mainImageView, &DragDropImageView::draggedOut, this, &MainWindowController::dragPhotoOut);
     // Crop and border are those of the render before: each one reads them from the options.
     m_ui->mainImageView->setBefore([this] {
         return m_ui->mainImageView->closeup().isOn() ? fullSizeBefore()

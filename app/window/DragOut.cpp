@@ -1,0 +1,52 @@
+#include "app/controls/ChoiceMenu.h"
+#include "app/desktop/DraggedPhoto.h"
+#include "app/state/RenderSeed.h"
+#include "app/state/Rules.h"
+#include "app/window/MainWindowController.h"
+#include "photo/PhotoSaver.h"
+#include "render/Scaled.h"
+#include "ui_MainWindow.h"
+
+#include <QDrag>
+
+// The photo is dragged to other programs: as the file that would be saved, and as its picture.
+
+namespace {
+
+constexpr int longestSign = 128; ///< pixels of the small picture under the pointer
+
+} // namespace
+
+/// Without a word about its progress: it is made while the platform waits for it.
+QImage MainWindowController::renderForDrag()
+{
+    if (!m_shownSaved.picture.isNull())
+        return m_shownSaved.picture;
+    const RenderSeed seed(m_renderSeed);
+    QString reason;
+    return inOutputSize(renderPhoto(m_photo.original(), renderSettings()), &reason).picture;
+}
+
+QString MainWindowController::fileForDrag()
+{
+    const QImage picture = renderForDrag();
+    if (picture.isNull())
+        return {};
+    const QByteArray jpeg =
+        encodeJpeg(picture, m_photo.metadata, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen()));
+    return jpeg.isEmpty() ? QString() : m_draggedFiles.write(withJpegEnding(proposedName()), jpeg);
+}
+
+void MainWindowController::dragPhotoOut()
+{
+    const Work work(m_work, 1, false);
+    if (!work || m_photo.isNull())
+        return;
+    const WorkWaits waits(m_work); // nothing else begins until it is dropped
+    auto* drag = new QDrag(m_ui->mainImageView); // which the platform deletes when the target has what it wants
+    drag->setMimeData(new DraggedPhoto([this] { return fileForDrag(); }, [this] { return renderForDrag(); }));
+    const QImage shown = m_ui->mainImageView->image();
+    const QSize sign = shown.size().scaled(longestSign, longestSign, Qt::KeepAspectRatio).expandedTo({1, 1});
+    drag->setPixmap(QPixmap::fromImage(scaledTo(shown, sign)));
+    drag->exec(Qt::CopyAction);
+}
