@@ -51,12 +51,13 @@ TEST(LibraryErrors, RefuseBlocksAndChangeNothing)
 {
     const Picture picture = randomPicture(width, height, 7);
     const std::size_t row = width * 4, far = std::size_t(PTRDIFF_MAX) / (height - 1);
-    for (const auto& [name, run] : operations()) {
+    for (const NamedOperation& operation : operations()) {
         Block block(picture);
         const auto expect = [&](int code, int w, int h, std::size_t stride) {
-            EXPECT_EQ(run(block.data(), w, h, stride), code) << name << ' ' << w << " x " << h << ", " << stride;
+            EXPECT_EQ(operation.run(block.data(), w, h, stride), code)
+                << operation.name << ' ' << w << " x " << h << ", " << stride;
         };
-        EXPECT_EQ(run(nullptr, width, height, row), LUMORA_NULL) << name;
+        EXPECT_EQ(operation.run(nullptr, width, height, row), LUMORA_NULL) << operation.name;
         for (const int side : {0, -1, INT_MIN, 65536, INT_MAX}) {
             expect(LUMORA_BAD_SIZE, side, height, SIZE_MAX);
             expect(LUMORA_BAD_SIZE, width, side, row);
@@ -65,7 +66,7 @@ TEST(LibraryErrors, RefuseBlocksAndChangeNothing)
         expect(LUMORA_BAD_SIZE, 65535, 65535, 4 * 65535);
         for (const std::size_t stride : {std::size_t(0), std::size_t(1), row - 1, far, far + 1, SIZE_MAX})
             expect(LUMORA_BAD_STRIDE, width, height, stride);
-        block.expectHolds(picture, name);
+        block.expectHolds(picture, operation.name);
     }
 }
 
@@ -114,7 +115,6 @@ TEST(LibraryErrors, WithoutMemoryNothingChanges)
     std::vector<NamedOperation> all = {{"discs", [](unsigned char* p, int w, int h, std::size_t s) {
                                             return lumora_draw_border(lumora_border_count() - 1, 40, p, w, h, s);
                                         }}};
-    std::vector<std::string> names;
     for (int look = 0; look < lumora_look_count(); look++)
         all.push_back({lumora_look_name(look),
             [look](unsigned char* p, int w, int h, std::size_t s) { return lumora_apply(look, p, w, h, s, 1); }});

@@ -11,11 +11,15 @@ using namespace lumora;
 
 namespace {
 
-/// A border's number in the engine: names of the library's are names of the engine's.
+/// The engine's number of a crop or a border by its name; null for none.
+int filterNamed(const char* name)
+{
+    return CharImage::getFilterFromName(name ? name : "Original");
+}
+
 int filterOf(int border)
 {
-    return border == LUMORA_NONE ? CharImage::getFilterFromName("Original")
-                                 : CharImage::getFilterFromName(lumora_border_name(border));
+    return filterNamed(lumora_border_name(border));
 }
 
 int cropOf(const char* name)
@@ -80,6 +84,23 @@ TEST(LibraryFraming, KnowsWhatBelongsToALook)
     for (const int none : {-1, lumora_look_count(), INT_MAX, INT_MIN}) {
         EXPECT_EQ(lumora_look_crop(none), LUMORA_NONE);
         EXPECT_EQ(lumora_look_border(none), LUMORA_NONE);
+    }
+}
+
+TEST(LibraryFraming, HasTheCropAndTheBorderOfEveryLook)
+{
+    for (int look = 0; look < lumora_look_count(); look++) {
+        const char* const name = lumora_look_name(look);
+        const int filter = CharImage::getFilterFromName(name);
+        for (const float shape : {0.5f, 2.0f})
+            EXPECT_EQ(CharImage::getFilterAspect(filter, shape),
+                CharImage::getFilterAspect(filterNamed(lumora_crop_name(lumora_look_crop(look))), shape))
+                << name;
+        const Picture picture = randomPicture(90, 60, 5);
+        const auto drawn = imageOf(picture), expected = imageOf(picture);
+        drawn->applyFilterBorder(filterOf(lumora_look_border(look)), 90);
+        expected->applyFilterBorder(filter, 90);
+        EXPECT_TRUE(std::equal(drawn->data, drawn->data + drawn->pixelCount() * 4, expected->data)) << name;
     }
 }
 
