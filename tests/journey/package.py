@@ -31,6 +31,7 @@ share = os.path.join(root, "usr", "share")
 help_document = os.path.join(share, "lumora", "help.pdf")
 for path in ("applications/dovrel.lumora.desktop", "metainfo/dovrel.lumora.metainfo.xml", "lumora/help.pdf",
              "icons/hicolor/scalable/apps/dovrel.lumora.svg", "icons/hicolor/48x48/apps/dovrel.lumora.png",
+             "man/man1/lumora.1.gz", "man/man1/lumora-render.1.gz", "bash-completion/completions/lumora-render",
              "icons/hicolor/128x128/apps/dovrel.lumora.png", "icons/hicolor/256x256/apps/dovrel.lumora.png"):
     assert os.path.getsize(os.path.join(share, path)) > 0, path
 
@@ -44,6 +45,11 @@ icon = entry["Desktop Entry"]["Icon"]
 assert glob.glob(os.path.join(share, "icons", "hicolor", "*", "apps", icon + ".*")), icon
 with open(help_document, "rb") as document:
     assert document.read(5) == b"%PDF-"
+
+# The program for terminals, from where it was unpacked, with the package's own engine and reader.
+rendered = os.path.join(home, "rendered.jpg")
+subprocess.run([os.path.join(root, "usr", "bin", "lumora-render"), "--look", "Helga", "--output", rendered, photo], check=True)
+assert os.path.getsize(rendered) > 0
 
 # The engine, for each level of x86-64 processors. Elsewhere, and with sanitizers, the program holds it.
 sanitised = "LUMORA_SANITIZE:BOOL=ON" in settings

@@ -1,0 +1,60 @@
+#!/usr/bin/env python3
+"""The manual page, the completion and --help name the same options: documents.py PROGRAM RESOURCES"""
+
+import pathlib
+import re
+import subprocess
+import sys
+
+program, resources = sys.argv[1], pathlib.Path(sys.argv[2])
+faults = []
+
+
+def differ(what, found, wanted):
+    if found != wanted:
+        faults.append(f"{what}: {sorted(found ^ wanted)} stand in one of the two alone")
+
+
+help_text = subprocess.run([program, "--help"], check=True, capture_output=True, text=True).stdout
+# "  -0, --null            Names ...": an option, and what it takes.
+in_help = set(re.findall(r"^  (?:-\w, )?(--[a-z-]+)(?: <(\w+)>)?", help_text, re.MULTILINE))
+short_in_help = set(re.findall(r"^  (-\w), ", help_text, re.MULTILINE))
+assert len(in_help) > 15, help_text
+
+page = (resources / "man" / "lumora-render.1").read_text().replace(r"\-", "-")
+heads = re.findall(r"^\.TP\n(\.B.*)", page[page.index(".SH OPTIONS") : page.index(".SH LINES OF JSON")], re.MULTILINE)
+in_page = {(name, value) for head in heads for name, value in re.findall(r'(--[a-z-]+)(?: " (\w+)")?', head)}
+differ("--help and the manual page", in_help, in_page)
+differ("--help and the manual page", short_in_help, {name for head in heads for name in re.findall(r" (-\w)\b ", head)})
+
+# What the shell offers, asked of bash itself.
+COMPLETE = """
+compopt() { :; }
+source "$1"; shift
+COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1))
+_lumora_render
+printf '%s\\n' "${COMPREPLY[@]}"
+"""
+
+
+def offered(*words):
+    script = resources / "completion" / "lumora-render"
+    run = subprocess.run(["bash", "-c", COMPLETE, "bash", script, program, *words], check=True, capture_output=True, text=True)
+    if run.stderr:
+        faults.append(run.stderr)
+    return set(run.stdout.split("\n")) - {""}
+
+
+differ("--help and the completion", {name for name, _ in in_help}, offered("--"))
+differ("looks that begin with M", {"Magazine", "Mono"}, offered("--look", "M"))
+differ("borders", {r"By\ Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"}, offered("--border", ""))
+differ("crops", {r"By\ Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"}, offered("--crop", ""))
+differ("levels", {"all"}, offered("--metadata", "a"))
+
+for page in sorted((resources / "man").iterdir()):
+    run = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, text=True, env={"LC_ALL": "C.UTF-8", "PATH": "/usr/bin:/bin"})
+    if run.returncode or run.stderr or "NAME" not in run.stdout:
+        faults.append(f"{page}: {run.stderr or run.stdout}")
+
+print("\n".join([*faults, f"{len(in_help)} options, {len(faults)} faults"]))
+sys.exit(1 if faults else 0)
