@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <vector>
 
 /// What a person has chosen beside the photo: everything that a preview depends on. A value.
@@ -9,10 +8,10 @@ struct Choices {
     int strength = 100; ///< of the looks together, in per cent
     bool multi = false; ///< looks are stacked
     int border = 0, crop = 0, size = 0; ///< the chosen items of the pop-ups, counted from 0
-    bool varied = false; ///< looks vary with `random`
-    std::array<float, 100> random = {};
+    bool varied = false; ///< looks vary
+    unsigned variation = 0; ///< the seed of the numbers that they vary with
 
     bool operator==(const Choices&) const = default;
     /// Whether the thumbnails look different under the other choices, for the same photo.
-    bool variesUnlike(const Choices& other) const { return varied != other.varied || random != other.random; }
+    bool variesUnlike(const Choices& other) const { return varied != other.varied || variation != other.variation; }
 };

@@ -155,12 +155,20 @@ void MainWindowController::useRandomToggled()
     addStep(tr("Randomness"));
 }
 
+/// Fills the table that looks vary with. The numbers that are drawn afterwards do not depend on it.
+void MainWindowController::drawVariation(unsigned seed)
+{
+    const RenderSeed meanwhile(seed);
+    CharImage::renewRandomNumbers();
+    m_variation = seed;
+}
+
 void MainWindowController::reExpose()
 {
     const Work work = renderOfPreview();
     if (!work)
         return;
-    CharImage::renewRandomNumbers();
+    drawVariation(unsigned(std::rand()));
     showSwitch(*m_ui->chkRandomness, true);
     CharImage::useRandom = 1;
     settingChanged();

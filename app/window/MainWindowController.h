@@ -207,6 +207,7 @@ private:
     /// An action that can be taken back ends with this.
     void addStep(const QString& name, const PhotoChange& change = {});
     void beginHistory();
+    void drawVariation(unsigned seed);
     void travel(void (History::*step)());
     void showHistory();
     void showNote(const QString& line); ///< empty: nothing
@@ -256,6 +257,7 @@ private:
     FramedOriginal m_framedOriginal; ///< what the preview is compared with
     FramedOriginal m_framedFullSize; ///< the same for a close look
     History m_history{*this, &MainWindowController::roomForFormerPhotos};
+    unsigned m_variation = 0; ///< the seed of the table that looks vary with
     unsigned m_renderSeed = 0; ///< of the random numbers that the preview drew while it was rendered
     QImage m_filtersAppliedImage; ///< the latest render
     std::unique_ptr<RenderedLooks> m_renderedLooks; ///< of the preview, once its strength was changed; else null

@@ -59,7 +59,7 @@ Shown MainWindowController::shownNow() const
     choices.crop = m_ui->btnCropping->currentIndex();
     choices.size = m_ui->btnImgSize->currentIndex();
     choices.varied = m_ui->chkRandomness->isChecked();
-    std::ranges::copy(CharImage::random, choices.random.begin());
+    choices.variation = m_variation;
     return {choices, m_renderSeed};
 }
 
@@ -77,7 +77,7 @@ void MainWindowController::setShown(const Shown& shown)
     showItem(*m_ui->btnCropping, choices.crop);
     showItem(*m_ui->btnImgSize, choices.size);
     CharImage::useRandom = choices.varied ? 1 : 0;
-    std::ranges::copy(choices.random, CharImage::random);
+    drawVariation(choices.variation);
     m_renderSeed = shown.seed;
 }
 

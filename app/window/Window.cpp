@@ -58,7 +58,7 @@ void MainWindowController::completeNibLoading()
 {
     keepFreedBlocks();
     std::srand(unsigned(std::time(nullptr)));
-    CharImage::renewRandomNumbers();
+    drawVariation(unsigned(std::rand()));
 
     m_ui->setupUi(this);
     windowDidLoad();

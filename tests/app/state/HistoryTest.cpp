@@ -70,7 +70,8 @@ public:
     {
         constexpr int borders[] = {Filter::original, Filter::thin, Filter::rounded, Filter::instant};
         constexpr int crops[] = {Filter::original, Filter::square, Filter::crop6x4};
-        std::ranges::copy(shown.choices.random, CharImage::random);
+        std::srand(shown.choices.variation);
+        CharImage::renewRandomNumbers();
         CharImage::useRandom = shown.choices.varied ? 1 : 0;
         std::srand(shown.seed);
         LookList looks;
@@ -267,8 +268,7 @@ private slots:
             case 4:
                 model.choose("Re-expose", [&](Choices& choices) {
                     choices.varied = true;
-                    for (float& value : choices.random)
-                        value = float(upTo(1000000) * 1e-6);
+                    choices.variation = unsigned(upTo(1000000));
                 });
                 break;
             case 5:
