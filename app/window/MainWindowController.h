@@ -134,6 +134,7 @@ public slots:
     void rotateImageLeft() { rotateImage(1); }
     void flattenImage();
     void saveFilteredImage();
+    void saveManyPhotos(); ///< asks which and where to
     void copyPhoto(); ///< to the clipboard
     void paste();
     void undo(); ///< takes the last step back

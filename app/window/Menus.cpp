@@ -16,6 +16,7 @@ void MainWindowController::buildMenus()
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
     buildRecentMenu(*file);
     m_photoActions << file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
+    file->addAction(tr("Save &Many…"), tr("Ctrl+Shift+S"), this, &Self::saveManyPhotos);
     // What a saved photo carries besides its picture, in the order of Kept.
     m_kept = new ChoiceMenu(tr("&Keep with the photo"), "Saving/Kept",
         {tr("&Everything it carried"), tr("Everything but the &place"), tr("&Nothing")}, file);

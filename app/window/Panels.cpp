@@ -1,5 +1,7 @@
 #include "app/panels/PlainText.h"
+#include "app/panels/SaveManyPanel.h"
 #include "app/panels/SavePanel.h"
+#include "app/state/PhotoNames.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "ui_MainWindow.h"
@@ -8,6 +10,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
+#include <optional>
 
 namespace {
 
@@ -35,13 +38,10 @@ private:
     const bool m_written;
 };
 
-/// Whatever opens, by the names that such files have. The content decides, not the name.
+/// Whatever opens, by the names that such files have.
 QString allPhotos()
 {
-    return QStringLiteral(
-        "All photos (*.jpg *.jpeg *.jpe *.gif *.png *.psd *.psb *.tga *.bmp *.tif *.tiff *.webp *.heic *.heif *.hif "
-        "*.avif *.jxl *.ppm *.pgm *.dng *.3fr *.arw *.cr2 *.cr3 *.crw *.dcr *.erf *.iiq *.kdc *.mef *.mos *.mrw *.nef "
-        "*.nrw *.orf *.pef *.raf *.rw2 *.rwl *.sr2 *.srw *.x3f)");
+    return QStringLiteral("All photos (*.%1)").arg(photoEndings().join(QStringLiteral(" *.")));
 }
 
 /// What both panels share: the six types, and the folder where the last one was left.
@@ -62,8 +62,9 @@ bool MainWindowController::runPanel(QFileDialog& panel)
     const SettingsAreWritten meanwhile(true);
     const bool confirmed = panel.exec() == QDialog::Accepted && !panel.selectedFiles().isEmpty();
     activateWindow(); // where a question went with the panel, some desktops give the keys to nobody
+    const QFileInfo chosen(confirmed ? panel.selectedFiles().first() : QString());
     if (confirmed)
-        m_panelFolder = QFileInfo(panel.selectedFiles().first()).absolutePath();
+        m_panelFolder = chosen.isDir() ? chosen.absoluteFilePath() : chosen.absolutePath();
     return confirmed;
 }
 
@@ -101,6 +102,36 @@ QByteArray MainWindowController::askWhereToSave(qint64 bytes)
     prepare(panel, m_panelFolder);
     panel.selectFile(proposedName()); // after the types, which would change the name's extension to theirs
     return runPanel(panel) ? QFile::encodeName(panel.path()) : QByteArray();
+}
+
+void MainWindowController::saveManyPhotos()
+{
+    const Work work(m_work, 1, false);
+    if (!work)
+        return;
+    const RenderSettings settings = renderSettings();
+    const bool isVaried = m_ui->chkRandomness->isChecked();
+    const ManyChoices choices = {filterIDs, settings.strength, m_ui->btnCropping->currentText(),
+        m_ui->btnBorders->currentText(), m_ui->btnImgSize->currentText(),
+        isVaried ? std::optional(m_variation) : std::nullopt, kept()};
+    const auto ask = [this](QWidget& parent, SaveManyPanel::Asked asked) {
+        using Asked = SaveManyPanel::Asked;
+        const SettingsAreWritten noHistory(false);
+        QFileDialog panel(&parent,
+            asked == Asked::Photos               ? tr("Select the photos")
+                : asked == Asked::FolderOfPhotos ? tr("Select a folder with photos")
+                                                 : tr("Select the folder to save into"));
+        panel.setFileMode(asked == Asked::Photos ? QFileDialog::ExistingFiles : QFileDialog::Directory);
+        prepare(panel, m_panelFolder);
+        panel.setNameFilter(allPhotos());
+        const QStringList chosen = runPanel(panel) ? panel.selectedFiles() : QStringList();
+        parent.activateWindow();
+        return chosen;
+    };
+    SaveManyPanel panel(this, choices, breadcrumb(filterIDs, false), ask);
+    const WorkWaits waits(m_work);
+    panel.exec();
+    activateWindow();
 }
 
 void MainWindowController::openModalSheetWithText(const QString& text, const QString& auxText)

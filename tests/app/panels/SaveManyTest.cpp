@@ -1,0 +1,238 @@
+#include "app/panels/SaveManyPanel.h"
+#include "tests/app/Desk.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+#include <memory>
+
+using namespace lumora;
+
+/// Many photos by the real panel and real processes.
+class SaveManyTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QStringList m_photos;
+
+    QString out() const { return m_folder->filePath("out"); }
+    QStringList outputs() const { return QDir(out()).entryList(QDir::Files | QDir::Hidden); }
+
+    void makePhotos(int count, int side)
+    {
+        for (int i = 0; i < count; i++) {
+            m_photos << m_folder->filePath(QStringLiteral("photo %1.png").arg(i, 3, 10, QLatin1Char('0')));
+            QVERIFY(makePhoto(side + i, side).save(m_photos.last(), "PNG"));
+        }
+    }
+
+    std::unique_ptr<SaveManyPanel> panel()
+    {
+        GrowArray<int> looks;
+        looks.add(Filter::mono);
+        const ManyChoices choices = {looks, 100, "By Filter", "By Filter", "Original", {}, Kept::Everything};
+        auto made =
+            std::make_unique<SaveManyPanel>(nullptr, choices, "Mono", [this](QWidget&, SaveManyPanel::Asked asked) {
+                return asked == SaveManyPanel::Asked::Photos        ? m_photos
+                    : asked == SaveManyPanel::Asked::FolderOfPhotos ? QStringList(m_folder->path())
+                                                                    : QStringList(out());
+            });
+        made->show();
+        return made;
+    }
+
+    static QPushButton& button(QWidget& panel, const QString& text)
+    {
+        for (auto* found : panel.findChildren<QPushButton*>())
+            if (found->text().remove('&') == text)
+                return *found;
+        qFatal("there is no %s", qPrintable(text));
+    }
+    static void press(QWidget& panel, const QString& text) { QTest::mouseClick(&button(panel, text), Qt::LeftButton); }
+    static QStringList words(QWidget& panel)
+    {
+        QStringList texts;
+        for (const auto* label : panel.findChildren<QLabel*>())
+            texts += label->text().split('\n');
+        return texts;
+    }
+    static bool hasEnded(SaveManyPanel& panel)
+    {
+        return QTest::qWaitFor([&] { return !panel.isGoingOn(); }, 60000);
+    }
+    void start(SaveManyPanel& panel)
+    {
+        press(panel, "Choose Photos…");
+        press(panel, "Save Into…");
+        press(panel, "Save Them");
+    }
+    void verifyWhole()
+    {
+        for (const QString& output : outputs()) {
+            const QByteArray jpeg = contentsOf(QFile::encodeName(out() + '/' + output));
+            QVERIFY2(jpeg.startsWith("\xff\xd8") && jpeg.endsWith("\xff\xd9"), qPrintable(output));
+        }
+    }
+
+private slots:
+    void init()
+    {
+        setPreferences({});
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_photos.clear();
+        QVERIFY(QDir().mkpath(out()));
+        SaveManyPanel::setProgram(RENDER_PROGRAM);
+    }
+
+    void allAreSavedAndTheRestIsTold()
+    {
+        makePhotos(5, 60);
+        QFile broken(m_photos[3]);
+        QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("\x89PNG\r\n\x1a\nbroken") > 0);
+        broken.close();
+        QFile there(out() + "/photo 001 Mono.jpg");
+        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("another's") > 0);
+        there.close();
+
+        const auto many = panel();
+        QVERIFY(!button(*many, "Save Them").isEnabled());
+        press(*many, "Choose Photos…");
+        QVERIFY(words(*many).contains("photo 000.png and others: 5 photos"));
+        QVERIFY(!button(*many, "Save Them").isEnabled());
+        press(*many, "Save Into…");
+        press(*many, "Save Them");
+        QVERIFY(many->isGoingOn());
+        QVERIFY(!button(*many, "Save Them").isEnabled() && !button(*many, "Choose Photos…").isEnabled());
+        QVERIFY(hasEnded(*many));
+        QCOMPARE(outputs(),
+            QStringList({"photo 000 Mono.jpg", "photo 001 Mono.jpg", "photo 002 Mono.jpg", "photo 004 Mono.jpg"}));
+        QCOMPARE(contentsOf(QFile::encodeName(there.fileName())), QByteArray("another's"));
+        for (const char* line : {"Saved: 3", "Already there: 1", "Not saved: 1"})
+            QVERIFY2(words(*many).contains(line), line);
+        auto* remarks = many->findChild<QListWidget*>();
+        QVERIFY(remarks->isVisible());
+        QCOMPARE(remarks->count(), 1);
+        QVERIFY(remarks->item(0)->text().startsWith("photo 003.png: "));
+        QCOMPARE(many->findChild<QProgressBar*>()->value(), 5);
+        bool picture = false;
+        for (const auto* label : many->findChildren<QLabel*>())
+            picture = picture || !label->pixmap().isNull();
+        QVERIFY(picture);
+        press(*many, "Close");
+        QVERIFY(!many->isVisible());
+    }
+
+    void aFolderStandsForItsPhotos()
+    {
+        makePhotos(2, 30);
+        const auto many = panel();
+        press(*many, "Choose a Folder…");
+        press(*many, "Save Into…");
+        press(*many, "Save Them");
+        QVERIFY(hasEnded(*many));
+        QCOMPARE(outputs(), QStringList({"photo 000 Mono.jpg", "photo 001 Mono.jpg"}));
+    }
+
+    void cancelLeavesWholeFilesAndAnotherRunGoesOn()
+    {
+        makePhotos(40, 300);
+        const auto many = panel();
+        start(*many);
+        QVERIFY(QTest::qWaitFor([&] { return many->findChild<QProgressBar*>()->value() > 0; }, 60000));
+        press(*many, "Cancel");
+        QVERIFY(hasEnded(*many));
+        QVERIFY(words(*many).contains("Cancelled. What was saved stays."));
+        const auto saved = outputs().size();
+        QVERIFY(saved > 0 && saved < 40);
+        QVERIFY(words(*many).contains(QStringLiteral("Saved: %1").arg(saved)));
+        verifyWhole();
+        press(*many, "Save Them");
+        QVERIFY(hasEnded(*many));
+        QCOMPARE(outputs().size(), 40);
+        QVERIFY(words(*many).contains(QStringLiteral("Already there: %1").arg(saved)));
+        verifyWhole();
+    }
+
+    void escapeCancelsToo()
+    {
+        makePhotos(40, 300);
+        const auto many = panel();
+        start(*many);
+        QTest::keyClick(many.get(), Qt::Key_Escape);
+        QVERIFY(many->isVisible());
+        QVERIFY(hasEnded(*many));
+        QVERIFY(outputs().size() < 40);
+        QTest::keyClick(many.get(), Qt::Key_Escape);
+        QVERIFY(!many->isVisible());
+    }
+
+    void nothingOutlivesThePanel()
+    {
+        makePhotos(40, 300);
+        {
+            const auto many = panel();
+            start(*many);
+            QVERIFY(QTest::qWaitFor([&] { return many->findChild<QProgressBar*>()->value() > 0; }, 60000));
+        }
+        const auto saved = outputs();
+        QVERIFY(saved.size() < 40);
+        verifyWhole();
+    }
+
+    void aProgramThatIsMissingIsTold()
+    {
+        makePhotos(1, 30);
+        SaveManyPanel::setProgram("/nowhere/lumora-render");
+        const auto many = panel();
+        start(*many);
+        QTRY_VERIFY(words(*many).contains(
+            "The program that renders photos cannot be started. Lumora is not completely installed."));
+        QVERIFY(button(*many, "Save Them").isEnabled());
+    }
+
+    /// By the choices that are on, and to the byte as it saves the one photo.
+    void theWindowSavesThemAsItSavesOne()
+    {
+        Desk desk(makePhoto(90, 60));
+        desk.window.pressFilterButton(Filter::lolo);
+        desk.click("chkRandomness");
+        desk.click("btnReExpose");
+        desk.choose("btnImgSize", "100");
+        desk.choose("btnCropping", "4x3");
+        printedBy([&] { desk.saveAs(desk.folder.filePath("one.jpg")); });
+
+        bool done = false;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, [&] {
+            auto* many = qobject_cast<SaveManyPanel*>(QApplication::activeModalWidget());
+            if (!many)
+                return;
+            watch.stop();
+            const auto answer = [&](const QString& text, const QString& path) {
+                desk.withPanel([&](QFileDialog& files) { typeName(files, path); }, [&] { press(*many, text); });
+            };
+            answer("Choose Photos…", desk.folder.filePath("photo.png"));
+            answer("Save Into…", out());
+            press(*many, "Save Them");
+            done = hasEnded(*many);
+            press(*many, "Close");
+        });
+        watch.start(0);
+        for (QAction* action : desk.window.findChildren<QAction*>())
+            if (action->text() == "Save &Many…")
+                action->trigger();
+        QVERIFY(done);
+        QCOMPARE(outputs(), QStringList("photo Lolo.jpg"));
+        const QByteArray one = contentsOf(QFile::encodeName(desk.folder.filePath("one.jpg")));
+        QVERIFY(one.size() > 500);
+        QVERIFY(contentsOf(QFile::encodeName(out() + "/photo Lolo.jpg")) == one);
+    }
+};
+
+DESK_MAIN(SaveManyTest)
+#include "SaveManyTest.moc"
