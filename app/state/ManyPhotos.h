@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/GrowArray.h"
-#include "photo/PhotoMetadata.h"
+#include "photo/PhotoSaver.h"
 
 #include <QByteArray>
 #include <QList>
@@ -16,6 +16,7 @@ struct ManyChoices {
     QString crop, border, size; ///< the chosen items
     std::optional<unsigned> variation; ///< the seed of the numbers that looks vary with; none: their fixed settings
     Kept kept = Kept::Everything;
+    JpegQuality quality = JpegQuality::Standard;
 };
 
 /// The arguments with which lumora-render does that: it takes the photos' paths from its standard input, each with a

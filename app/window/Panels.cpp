@@ -113,7 +113,7 @@ void MainWindowController::saveManyPhotos()
     const bool isVaried = m_ui->chkRandomness->isChecked();
     const ManyChoices choices = {filterIDs, settings.strength, m_ui->btnCropping->currentText(),
         m_ui->btnBorders->currentText(), m_ui->btnImgSize->currentText(),
-        isVaried ? std::optional(m_variation) : std::nullopt, kept()};
+        isVaried ? std::optional(m_variation) : std::nullopt, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen())};
     const auto ask = [this](QWidget& parent, SaveManyPanel::Asked asked) {
         using Asked = SaveManyPanel::Asked;
         const SettingsAreWritten noHistory(false);

@@ -35,7 +35,8 @@ class SaveManyTest : public QObject {
     {
         GrowArray<int> looks;
         looks.add(Filter::mono);
-        const ManyChoices choices = {looks, 100, "By Filter", "By Filter", "Original", {}, Kept::Everything};
+        const ManyChoices choices = {
+            looks, 100, "By Filter", "By Filter", "Original", {}, Kept::Everything, JpegQuality::Standard};
         auto made =
             std::make_unique<SaveManyPanel>(nullptr, choices, "Mono", [this](QWidget&, SaveManyPanel::Asked asked) {
                 return asked == SaveManyPanel::Asked::Photos        ? m_photos

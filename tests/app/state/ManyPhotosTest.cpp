@@ -16,18 +16,20 @@ class ManyPhotosTest : public QObject {
 private slots:
     void argumentsNameEachChoice()
     {
-        const ManyChoices plain = {{}, 100, "By Filter", "None", "Original", {}, Kept::WithoutPlace};
+        const ManyChoices plain = {{}, 100, "By Filter", "None", "Original", {}, Kept::WithoutPlace, JpegQuality::Best};
         QCOMPARE(renderArguments(plain, "/a b", 3).join('|'),
-            QString("--strength|100|--crop|By Filter|--border|None|--size|Original|--metadata|no-place|--jobs|3|"
+            QString("--strength|100|--crop|By "
+                    "Filter|--border|None|--size|Original|--metadata|no-place|--quality|best|--jobs|3|"
                     "--output|/a b/|--skip-existing|--json|-0|--files-from|-"));
         GrowArray<int> looks;
         looks.add(Filter::mono);
         looks.add(Filter::look1962);
-        const ManyChoices varied = {looks, 40, "Square", "Thin", "800", 4294967295, Kept::Everything};
+        const ManyChoices varied = {
+            looks, 40, "Square", "Thin", "800", 4294967295, Kept::Everything, JpegQuality::Standard};
         QVERIFY(renderArguments(varied, "out", 1)
                     .join('|')
                     .startsWith("--look|Mono|--look|1962|--random|4294967295|--strength|40|--crop|Square|--border|Thin|"
-                                "--size|800|--metadata|all|"));
+                                "--size|800|--metadata|all|--quality|standard|"));
     }
 
     void linesAreCountedInWhateverPiecesTheyCome()

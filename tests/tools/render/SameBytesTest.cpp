@@ -127,6 +127,14 @@ private slots:
         }
     }
 
+    void everyQuality()
+    {
+        for (const char* entry : {"High", "Best", "Standard"}) {
+            trigger(entry);
+            compare({"--quality", entry});
+        }
+    }
+
     void everyMetadataLevel()
     {
         QList<QByteArray> files;
