@@ -2,6 +2,7 @@
 
 #include "app/state/PhotoNames.h"
 #include "app/state/Rules.h"
+#include "photo/FreeMemory.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -14,10 +15,13 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QThread>
+#include <algorithm>
 
 namespace {
 
 constexpr int pictureSide = 160; ///< points
+constexpr qint64 memoryOfJob =
+    600'000'000; ///< bytes: a photo of 24 megapixels that a look makes square, and its reader
 constexpr int pictureTime = 300; ///< milliseconds that each small picture is shown at least
 
 QString& chosenProgram()
@@ -29,6 +33,12 @@ QString& chosenProgram()
 QString renderProgram()
 {
     return chosenProgram().isEmpty() ? QCoreApplication::applicationDirPath() + "/lumora-render" : chosenProgram();
+}
+
+/// As many as there are processors, and as the memory has room for large photos.
+int jobsAtOnce()
+{
+    return int(std::clamp<qint64>(freeMemory() / memoryOfJob, 1, std::max(QThread::idealThreadCount(), 1)));
 }
 
 QLabel* plainLabel(const QString& text = {})
@@ -191,7 +201,7 @@ void SaveManyPanel::start()
         button->setEnabled(false);
     m_close->setText(tr("Cancel"));
     m_close->setFocus();
-    m_process.start(renderProgram(), renderArguments(m_choices, m_folder, QThread::idealThreadCount()));
+    m_process.start(renderProgram(), renderArguments(m_choices, m_folder, jobsAtOnce()));
     for (const QByteArray& photo : m_photos)
         m_process.write(photo + '\0');
     m_process.closeWriteChannel();

@@ -1,3 +1,4 @@
+#include "app/controls/ChoiceMenu.h"
 #include "app/panels/PlainText.h"
 #include "app/panels/SaveManyPanel.h"
 #include "app/panels/SavePanel.h"
