@@ -97,13 +97,13 @@ SaveManyPanel::SaveManyPanel(QWidget* parent, const ManyChoices& choices, const 
     m_remarks->hide();
 
     auto* rows = new QGridLayout(this);
-    rows->addWidget(new QLabel(tr("Photos")), 0, 0, Qt::AlignTop);
+    rows->addWidget(new QLabel(tr("Photos")), 0, 0);
     rows->addWidget(m_photosText, 0, 1);
     rows->addWidget(m_photosButton, 0, 2);
     rows->addWidget(m_folderOfPhotosButton, 0, 3);
-    rows->addWidget(new QLabel(tr("Looks")), 1, 0, Qt::AlignTop);
+    rows->addWidget(new QLabel(tr("Looks")), 1, 0);
     rows->addWidget(plainLabel(looks), 1, 1, 1, 3);
-    rows->addWidget(new QLabel(tr("Into")), 2, 0, Qt::AlignTop);
+    rows->addWidget(new QLabel(tr("Into")), 2, 0);
     rows->addWidget(m_folderText, 2, 1, 1, 2);
     rows->addWidget(m_folderButton, 2, 3);
     auto* going = new QGridLayout;
