@@ -12,6 +12,7 @@
 #include "photo/PhotoSaver.h"
 #include "render/RenderPipeline.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QBuffer>
 #include <QFile>
@@ -144,6 +145,53 @@ void measureWindow(const QByteArray& photo)
         "ms");
 }
 
+/// With a 24-megapixel photo: the full-size picture on the screen, beside its render alone.
+void measureActualSize(const QByteArray& photo)
+{
+    forgetPeakMemory();
+    MainWindowController window;
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window) || !window.loadImageFromFile(photo))
+        qFatal("the photo cannot be opened");
+    window.pressFilterButton(CharImage::getFilterFromName("Helga"));
+    QAction* actualSize = nullptr;
+    for (QAction* action : window.findChildren<QAction*>())
+        if (action->shortcut() == QKeySequence(Qt::Key_Z))
+            actualSize = action;
+    if (!actualSize)
+        qFatal("there is no such entry");
+    const double shown = leastOf(rounds, [&] {
+        const double seconds = secondsOf([&] {
+            actualSize->trigger();
+            paint();
+        });
+        actualSize->trigger(); // fitted again
+        return seconds;
+    });
+    const double render = leastOf(rounds, [&] { return secondsOf([&] { window.saveMultipleFilters(false); }); });
+    say(QStringLiteral("actual size to the painted window: Helga"), shown * 1e3, "ms");
+    say(QStringLiteral("the same beyond its render alone"), (shown - render) * 1e3, "ms");
+
+    window.applyMultipleFilters(); // which lets the full-size render go
+    actualSize->trigger();
+    auto* strength = window.findChild<QSlider*>(QStringLiteral("sldStrength"));
+    window.flattenImage();
+    window.undo();
+    paint();
+    say(QStringLiteral("peak memory: actual size, one flatten undone"), peakMemory(), "MiB");
+    strength->setSliderDown(true);
+    strength->setSliderPosition(60);
+    const double drag = leastOf(rounds, [&] {
+        strength->setSliderPosition(strength->sliderPosition() == 40 ? 41 : 40);
+        return secondsOf([&] {
+            strength->setSliderPosition(60);
+            paint();
+        });
+    });
+    say(QStringLiteral("drag of the strength at actual size: Helga"), drag * 1e3, "ms");
+    say(QStringLiteral("peak memory with that"), peakMemory(), "MiB");
+}
+
 /// From file to file through the program's own steps, and through the codec alone.
 void measureSaving(const QByteArray& photo)
 {
@@ -204,5 +252,6 @@ int main(int argc, char** argv)
     stayOnOneCore();
     forgetPeakMemory();
     measureWindow(QFile::encodeName(photo));
+    measureActualSize(QFile::encodeName(photo));
     measureSaving(QFile::encodeName(photo));
 }

@@ -31,9 +31,11 @@ void MainWindowController::buildZoomEntries(QMenu& menu)
     connect(view, &DragDropImageView::zoomAsked, this, [this](int steps, const QPointF& at) { zoom(steps, at); });
 }
 
-/// Where the pointer is on the photo, or the middle of what is seen.
+/// Where a menu was opened on the photo, where the pointer is on it, or the middle of what is seen.
 QPointF MainWindowController::pointLookedAt() const
 {
+    if (m_menuAt)
+        return *m_menuAt;
     const DragDropImageView* view = m_ui->mainImageView;
     const QPointF pointer = view->mapFromGlobal(QPointF(QCursor::pos()));
     const QRectF seen = view->imageRect() & QRectF(view->rect());

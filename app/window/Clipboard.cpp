@@ -21,7 +21,8 @@ void MainWindowController::buildClipboardEntries(QMenu& edit)
         return entry;
     };
     edit.addSeparator();
-    m_photoActions << addEntry(tr("&Copy"), QKeySequence::Copy, &MainWindowController::copyPhoto);
+    m_copyAction = addEntry(tr("&Copy"), QKeySequence::Copy, &MainWindowController::copyPhoto);
+    m_photoActions << m_copyAction;
     m_pasteAction = addEntry(tr("&Paste"), QKeySequence::Paste, &MainWindowController::paste);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &MainWindowController::showWhatCanBePasted);
     showWhatCanBePasted();

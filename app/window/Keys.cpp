@@ -2,6 +2,8 @@
 #include "app/window/MainWindowController.h"
 #include "ui_MainWindow.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QFileOpenEvent>
@@ -65,6 +67,12 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
         m_ui->mainImageView->setFocus(Qt::MouseFocusReason);
         return false;
+    case QEvent::ContextMenu:
+        return takesContextMenu(widget, *static_cast<QContextMenuEvent*>(event));
+    case QEvent::WindowStateChange:
+        if (widget == this)
+            showWhetherAlone();
+        return false;
     case QEvent::Wheel: // would change a pop-up or a slider that the pointer merely passes
         event->setAccepted(!qobject_cast<QComboBox*>(widget) && !qobject_cast<QSlider*>(widget));
         return !event->isAccepted();
@@ -116,13 +124,22 @@ bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press
     case Qt::Key_Enter:
         return pressByKey(widget);
     case Qt::Key_Escape:
-        if (!m_ui->mainImageView->closeup().isOn())
-            return false;
-        showFitted();
-        return true;
+        return takesEscape();
     default:
         return false;
     }
+}
+
+/// The innermost ends: the close look, then the whole screen.
+bool MainWindowController::takesEscape()
+{
+    if (m_ui->mainImageView->closeup().isOn())
+        showFitted();
+    else if (isFullScreen())
+        m_fullScreenAction->trigger();
+    else
+        return false;
+    return true;
 }
 
 bool MainWindowController::takesKeyRelease(const QKeyEvent& release)

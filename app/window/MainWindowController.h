@@ -19,9 +19,11 @@
 #include <QPointer>
 #include <QTimer>
 #include <memory>
+#include <optional>
 
 class ChoiceMenu;
 class QAction;
+class QContextMenuEvent;
 class QFileDialog;
 class QKeyEvent;
 class QMenu;
@@ -33,8 +35,8 @@ class MainWindow;
 
 /// The one controller: owns the window, the photo, the list of looks and the work in progress, and brings them
 /// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
-/// Strength.cpp, ActualSize.cpp, Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs no window stands
-/// in app/state.
+/// Strength.cpp, ActualSize.cpp, FullScreen.cpp, Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs
+/// no window stands in app/state.
 class MainWindowController : public QMainWindow,
                              public DropDelegate,
                              public DocumentSlots,
@@ -167,6 +169,8 @@ private:
     void workEnded(bool closeAsked) override;
     bool takesDrag(QEvent* event); ///< true: it was one
     bool takesKeyPress(QWidget* widget, const QKeyEvent& press); ///< true: `widget` must not see it
+    bool takesEscape(); ///< false: there was nothing to end
+    bool takesContextMenu(const QWidget* widget, const QContextMenuEvent& event); ///< true: it was answered
     bool takesKeyRelease(const QKeyEvent& release);
     void showAppliedFilters();
     RenderSettings renderSettings(); ///< of the applied list, after updateFromSettings()
@@ -195,6 +199,9 @@ private:
     void zoom(int steps, const QPointF& at); ///< larger where positive
     void buildZoomEntries(QMenu& menu);
     QPointF pointLookedAt() const;
+    void buildFullScreenEntry(QMenu& menu);
+    void showWhetherAlone();
+    void buildPhotoMenu(const QList<QAction*>& entries); ///< null: a line between two groups
     void showWhatCanBeDone();
     void showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality);
     void openWaitingFile();
@@ -244,8 +251,12 @@ private:
     QList<QAction*> m_strengthActions; ///< of no use without a look
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown
-    QAction* m_actualSizeAction = nullptr; ///< owned by the menu
-    QAction *m_undoAction = nullptr, *m_redoAction = nullptr, *m_pasteAction = nullptr; ///< owned by the menu
+    QAction *m_actualSizeAction = nullptr, *m_fullScreenAction = nullptr; ///< owned by the menu
+    QMenu* m_photoMenu = nullptr; ///< opens on the photo
+    std::optional<QPointF> m_menuAt; ///< where it was opened by the mouse, in the preview; none while it is closed
+    QMargins m_marginsOfPhoto; ///< of the window, when it is not on the whole screen
+    QAction *m_undoAction = nullptr, *m_redoAction = nullptr, *m_copyAction = nullptr,
+            *m_pasteAction = nullptr; ///< owned by the menu
     quint64 m_spacePressed = 0; ///< when the space bar went down, in the milliseconds of key events
     QTimer m_resizeSettles; ///< runs while the window is being resized beyond the display copy
 

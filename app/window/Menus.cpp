@@ -15,7 +15,7 @@ void MainWindowController::buildMenus()
     QMenu* file = m_ui->menubar->addMenu(tr("&File"));
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
     buildRecentMenu(*file);
-    m_photoActions << file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
+    QAction* save = file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
     file->addAction(tr("Save &Many…"), tr("Ctrl+Shift+S"), this, &Self::saveManyPhotos);
     // What a saved photo carries besides its picture, in the order of Kept.
     m_kept = new ChoiceMenu(tr("&Keep with the photo"), "Saving/Kept",
@@ -31,14 +31,18 @@ void MainWindowController::buildMenus()
     buildEditMenu();
 
     QMenu* photo = m_ui->menubar->addMenu(tr("&Photo"));
-    m_photoActions << photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
-    m_photoActions << photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);
-    m_photoActions << photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
+    QAction* left = photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
+    QAction* right = photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);
+    QAction* flatten = photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
+    m_photoActions << save << left << right << flatten;
     photo->addSeparator();
     photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
     photo->addSeparator();
     buildZoomEntries(*photo);
+    buildFullScreenEntry(*photo);
     buildWalkEntries(*photo);
+    buildPhotoMenu({m_undoAction, m_copyAction, nullptr, m_actualSizeAction, m_fullScreenAction, nullptr, left, right,
+        flatten, nullptr, save});
 
     // In the order of the strip; the first ten have digits.
     QMenu* looks = m_ui->menubar->addMenu(tr("&Looks"));

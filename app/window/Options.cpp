@@ -65,7 +65,7 @@ void MainWindowController::loadWindow()
 
 void MainWindowController::saveWindow() const
 {
-    const QSize size = isMaximized() ? normalGeometry().size() : this->size();
+    const QSize size = isMaximized() || isFullScreen() ? normalGeometry().size() : this->size();
     setPreferenceInt("Window/Width", size.width());
     setPreferenceInt("Window/Height", size.height());
     setPreferenceBool("Window/Maximised", isMaximized());

@@ -4,6 +4,10 @@
 //
 // LOOKS are filter numbers with commas between them, or "none"; CROP and BORDER are filter numbers. With SAVED alone it
 // tells the file's width and height.
+//
+//     journey_compare --shown SCREENSHOT SAVED
+//
+// holds the middle of what a screen shows to the middle of a saved file, pixel by pixel as far as a JPEG can tell.
 
 #include "image/CharImage.h"
 #include "photo/PhotoLoader.h"
@@ -11,8 +15,10 @@
 #include "render/RenderPipeline.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 using namespace lumora;
 
@@ -35,12 +41,46 @@ QByteArray contents(const char* path)
     return bytes;
 }
 
+/// The mean difference of their colour bytes where `shift` moves the middle of the larger picture.
+double differenceOf(const QImage& part, const QImage& whole, const QPoint& shift)
+{
+    const QPoint from((whole.width() - part.width()) / 2 + shift.x(), (whole.height() - part.height()) / 2 + shift.y());
+    qint64 sum = 0;
+    for (int y = 0; y < part.height(); y++)
+        for (int x = 0; x < part.width(); x++) {
+            const QRgb a = part.pixel(x, y), b = whole.pixel(x + from.x(), y + from.y());
+            sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+        }
+    return double(sum) / (3.0 * part.width() * part.height());
+}
+
+int compareShown(const char* screenshot, const char* saved)
+{
+    constexpr double most = 1; // of a byte, which is what a JPEG loses in the mean
+    const QImage screen(QString::fromLocal8Bit(screenshot)), whole = decoded(contents(saved));
+    QRect middle(0, 0, screen.width() / 2, screen.height() / 2); // without its edges, where words stand
+    middle.moveCenter(screen.rect().center());
+    const QImage part = screen.copy(middle).convertToFormat(QImage::Format_RGB32);
+    if (part.isNull() || whole.width() < part.width() + 4 || whole.height() < part.height() + 4) {
+        std::fprintf(stderr, "journey_compare: no pictures to be compared\n");
+        return 2;
+    }
+    double least = 255;
+    for (int y = -2; y <= 2; y++)
+        for (int x = -2; x <= 2; x++)
+            least = std::min(least, differenceOf(part, whole, {x, y}));
+    std::printf("%s: %.2f away from %s\n", screenshot, least, saved);
+    return least > most;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
+    if (argc == 4 && std::strcmp(argv[1], "--shown") == 0)
+        return compareShown(argv[2], argv[3]);
     if (argc != 2 && argc != 6) {
         std::fprintf(stderr, "journey_compare: give the saved file, the photo, the looks, the crop and the border\n");
         return 2;
