@@ -1,6 +1,7 @@
 #include "app/preview/DragDropImageView.h"
 
 #include "app/preview/CornerLabel.h"
+#include "app/preview/SplitLine.h"
 #include "app/state/LocalFiles.h"
 #include "render/Scaled.h"
 
@@ -26,6 +27,7 @@ QRectF scaled(const QRectF& rect, qreal factor)
 
 DragDropImageView::DragDropImageView(QWidget* parent)
     : QWidget(parent)
+    , m_splitLine(new SplitLine(this))
 {
     setAcceptDrops(true);
     tellState();
@@ -40,6 +42,8 @@ void DragDropImageView::tellState()
         setAccessibleDescription(tr("The photo as it will be saved, at %1 %. Drag it or press the arrow keys to see "
                                     "other parts of it.")
                                      .arg(m_closeup.percent()));
+    else if (m_isSplit)
+        setAccessibleDescription(tr("Before on the left, after on the right of a line that the arrow keys move."));
     else
         setAccessibleDescription(
             tr("The photo under the applied looks. Hold the mouse or the space bar to see it before."));
@@ -48,11 +52,18 @@ void DragDropImageView::tellState()
 void DragDropImageView::setImage(const QImage& image, const QString& reason)
 {
     const QRect before = shownArea();
-    m_comparing = false;
+    setComparing(false);
     m_rendered = image;
     m_reason = reason;
-    tellState();
+    m_compared = {};
+    if (m_isSplit)
+        setSplit(!image.isNull());
     update(before | shownArea());
+}
+
+void DragDropImageView::askForBefore()
+{
+    m_compared = m_before ? m_before() : QImage();
 }
 
 void DragDropImageView::setComparing(bool on)
@@ -60,10 +71,30 @@ void DragDropImageView::setComparing(bool on)
     if (m_comparing == on)
         return;
     if (on)
-        m_compared = m_before ? m_before() : QImage();
+        askForBefore();
     m_comparing = on;
+    m_splitLine->setDrawn(!on);
     tellState();
     update();
+}
+
+void DragDropImageView::setSplit(bool on)
+{
+    m_isSplit = on && !m_rendered.isNull() && !m_closeup.isOn();
+    if (m_isSplit)
+        askForBefore();
+    placeSplit();
+    if (m_splitLine->hasFocus() && !m_isSplit)
+        setFocus();
+    m_splitLine->setVisible(m_isSplit);
+    tellState();
+    update(shownArea());
+    emit splitAnswered(m_isSplit);
+}
+
+void DragDropImageView::placeSplit()
+{
+    m_splitLine->setRoom(imageRect());
 }
 
 const QImage& DragDropImageView::shownImage() const
@@ -141,16 +172,18 @@ void DragDropImageView::showCloseup()
     m_heldStill.stop();
     m_panning = false;
     setComparing(false);
+    if (m_isSplit && m_closeup.isOn())
+        setSplit(false);
     setCursor(m_closeup.isOn() ? Qt::OpenHandCursor : Qt::ArrowCursor);
     tellState();
     update();
 }
 
-const QImage& DragDropImageView::fitted()
+const QImage& DragDropImageView::fitted(bool before)
 {
-    const QImage& shown = shownImage();
-    Fitted& fit = m_fittedImages[m_comparing];
-    const QSize size = fittedPixels(shown.size());
+    const QImage& shown = before && !m_compared.isNull() ? m_compared : m_rendered;
+    Fitted& fit = m_fittedImages[before];
+    const QSize size = fittedPixels(shownImage().size());
     if (fit.of != shown.cacheKey() || fit.image.size() != size) {
         fit.of = shown.cacheKey();
         fit.image = scaledTo(shown, size);
@@ -190,8 +223,10 @@ void DragDropImageView::paintEvent(QPaintEvent* event)
         painter.setPen(palette().color(QPalette::PlaceholderText));
         const QString invitation = QStringLiteral("Drop a photo here, or open one.");
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_reason.isEmpty() ? invitation : m_reason);
+    } else if (m_isSplit && !m_comparing) {
+        paintSplit(painter);
     } else {
-        painter.drawImage(imageRect(), fitted());
+        painter.drawImage(imageRect(), fitted(m_comparing));
     }
     const QRectF seen = imageRect() & QRectF(rect());
     if (m_comparing)
@@ -211,6 +246,18 @@ void DragDropImageView::paintCloseup(QPainter& painter, const QRect& exposed)
     const qreal ratio = devicePixelRatioF();
     const Closeup::Part part = m_closeup.part(shownImage(), scaled(exposed, ratio).toAlignedRect(), room());
     painter.drawImage(scaled(part.area, 1 / ratio), part.pixels);
+}
+
+/// The labels are parts of the two pictures, and are covered with them.
+void DragDropImageView::paintSplit(QPainter& painter)
+{
+    painter.setClipRect(m_splitLine->before());
+    painter.drawImage(imageRect(), fitted(true));
+    paintCornerLabel(painter, imageRect(), tr("Before"));
+    painter.setClipRect(m_splitLine->after());
+    painter.drawImage(imageRect(), fitted(false));
+    paintCornerLabel(painter, imageRect(), tr("After"), true);
+    painter.setClipping(false);
 }
 
 void DragDropImageView::paintDropSign(QPainter& painter)
@@ -348,7 +395,11 @@ void DragDropImageView::keyPressEvent(QKeyEvent* event)
         m_closeup.panBy({x, y}, room());
         update();
     };
-    if (!m_closeup.isOn())
+    if (m_isSplit && event->key() == Qt::Key_Left)
+        m_splitLine->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    else if (m_isSplit && event->key() == Qt::Key_Right)
+        m_splitLine->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    else if (!m_closeup.isOn())
         QWidget::keyPressEvent(event);
     else if (event->key() == Qt::Key_Left)
         pan(step.width(), 0);

@@ -10,6 +10,7 @@
 #include <utility>
 
 class QMimeData;
+class SplitLine;
 
 /// Takes dropped files.
 class DropDelegate {
@@ -36,6 +37,12 @@ public:
     /// on.
     void setBefore(std::function<QImage()> before) { m_before = std::move(before); }
     void setComparing(bool on);
+    /// Shows before on the left and after on the right of a line that is dragged across; comparing goes before it. It
+    /// stays for new pictures, and ends where there is none
+    /// and with a close look.
+    void setSplit(bool on);
+    bool isSplit() const { return m_isSplit; }
+    SplitLine* splitLine() const { return m_splitLine; }
     /// The picture that is shown now.
     const QImage& shownImage() const;
     /// Where the picture stands, in the coordinates of the widget. A magnified one may reach beyond it.
@@ -74,9 +81,11 @@ signals:
     void draggedOut(); ///< the fitted picture is being dragged away
     void actualSizeAsked(const QPointF& at); ///< by a double click
     void zoomAsked(int steps, const QPointF& at); ///< by the wheel with Ctrl; larger where positive
+    void splitAnswered(bool on); ///< to each setSplit: what it is now
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent*) override { placeSplit(); }
     void dragEnterEvent(QDragEnterEvent* event) override { takeDragEnter(*event); }
     void dragLeaveEvent(QDragLeaveEvent*) override { showDropSign(false); }
     void dropEvent(QDropEvent* event) override { takeDrop(*event); }
@@ -100,7 +109,10 @@ private:
     QRectF fittedRect(const QSize& picture) const;
     /// What the picture takes of the widget; all of it without one, for the words that stand there instead.
     QRect shownArea() const;
-    const QImage& fitted();
+    const QImage& fitted(bool before);
+    void askForBefore();
+    void placeSplit();
+    void paintSplit(QPainter& painter);
     void paintDropSign(QPainter& painter);
     void tellState();
     void paintCloseup(QPainter& painter, const QRect& exposed);
@@ -121,6 +133,8 @@ private:
     int m_wheel = 0; ///< what the wheel was turned since the last step, in eighths of a degree
     QString m_reason;
     bool m_comparing = false;
+    bool m_isSplit = false;
+    SplitLine* m_splitLine; ///< a child
     bool m_dropSign = false;
     bool m_focusByKey = false; ///< a frame would only disturb whoever points at the photo
     DropDelegate* m_dropDelegate = nullptr;

@@ -130,10 +130,12 @@ bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press
     }
 }
 
-/// The innermost ends: the close look, then the whole screen.
+/// The innermost ends: the split or the close look, then the whole screen.
 bool MainWindowController::takesEscape()
 {
-    if (m_ui->mainImageView->closeup().isOn())
+    if (m_ui->mainImageView->isSplit())
+        m_ui->mainImageView->setSplit(false);
+    else if (m_ui->mainImageView->closeup().isOn())
         showFitted();
     else if (isFullScreen())
         m_fullScreenAction->trigger();

@@ -35,8 +35,8 @@ class MainWindow;
 
 /// The one controller: owns the window, the photo, the list of looks and the work in progress, and brings them
 /// together. Its definitions are grouped by concern: Window.cpp, Menus.cpp, Options.cpp, AppliedFilters.cpp,
-/// Strength.cpp, ActualSize.cpp, FullScreen.cpp, Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and Work.cpp. What needs
-/// no window stands in app/state.
+/// Strength.cpp, ActualSize.cpp, Comparing.cpp, FullScreen.cpp, Document.cpp, Undo.cpp, Panels.cpp, Keys.cpp and
+/// Work.cpp. What needs no window stands in app/state.
 class MainWindowController : public QMainWindow,
                              public DropDelegate,
                              public DocumentSlots,
@@ -175,6 +175,8 @@ private:
     void showAppliedFilters();
     RenderSettings renderSettings(); ///< of the applied list, after updateFromSettings()
     RenderProgress shownProgress();
+    void connectComparing();
+    void buildSplitEntry(QMenu& photo);
     void buildStrengthEntries(QMenu& looks);
     void connectStrength();
     void strengthChanged();

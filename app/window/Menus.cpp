@@ -36,6 +36,8 @@ void MainWindowController::buildMenus()
     QAction* flatten = photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
     m_photoActions << save << left << right << flatten;
     photo->addSeparator();
+    buildSplitEntry(*photo);
+    photo->addSeparator();
     photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
     photo->addSeparator();
     buildZoomEntries(*photo);

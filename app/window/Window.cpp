@@ -84,11 +84,7 @@ void MainWindowController::completeNibLoading()
 
     m_ui->mainImageView->setDelegate(this);
     connect(m_ui->mainImageView, &DragDropImageView::draggedOut, this, &MainWindowController::dragPhotoOut);
-    // Crop and border are those of the render before: each one reads them from the options.
-    m_ui->mainImageView->setBefore([this] {
-        return m_ui->mainImageView->closeup().isOn() ? fullSizeBefore()
-                                                     : m_framedOriginal.of(m_photo.display(), cropFilter, borderFilter);
-    });
+    connectComparing();
     qApp->installEventFilter(this);
     buildMenus();
     showStrength(wholeStrength);

@@ -1,0 +1,32 @@
+#include "app/preview/SplitLine.h"
+#include "app/window/MainWindowController.h"
+#include "ui_MainWindow.h"
+
+#include <QAction>
+#include <QMenu>
+
+// The preview beside the photo without its looks.
+
+void MainWindowController::connectComparing()
+{
+    DragDropImageView* view = m_ui->mainImageView;
+    // Crop and border are those of the latest render: each one reads them from the options.
+    view->setBefore([this, view] {
+        return view->closeup().isOn() ? fullSizeBefore()
+                                      : m_framedOriginal.of(m_photo.display(), cropFilter, borderFilter);
+    });
+    setTabOrder(view, view->splitLine());
+}
+
+void MainWindowController::buildSplitEntry(QMenu& photo)
+{
+    DragDropImageView* view = m_ui->mainImageView;
+    QAction* entry = photo.addAction(tr("&Before and after"), tr("B"), this, [this, view](bool on) {
+        if (on && view->closeup().isOn())
+            showFitted(); // the split is of the whole photo
+        view->setSplit(on);
+    });
+    entry->setCheckable(true);
+    connect(view, &DragDropImageView::splitAnswered, entry, &QAction::setChecked);
+    m_photoActions << entry;
+}
