@@ -3,6 +3,7 @@
 // LUMORA is the program, FOLDER takes the photo. Opening is measured once, everything else a few times,
 // of which the shortest is shown. Times are those of a clock on the wall unless they say that they are the processor's.
 
+#include "app/preview/SplitLine.h"
 #include "app/window/MainWindowController.h"
 #include "bench/Measure.h"
 #include "bench/Photo.h"
@@ -74,6 +75,26 @@ void paint()
     QGuiApplication::sync();
 }
 
+/// A drag of the line across the whole photo, as fast as a screen can follow: the slowest of its steps.
+void measureSplit(DragDropImageView& view)
+{
+    constexpr int steps = 120; // of two seconds
+    view.setSplit(true);
+    paint();
+    const double slowest = leastOf(rounds, [&view] {
+        double most = 0;
+        for (int i = 0; i <= steps; i++)
+            most = std::max(most, secondsOf([&view, i] {
+                view.splitLine()->setValue(SplitLine::whole * i / steps);
+                paint();
+            }));
+        return most;
+    });
+    view.setSplit(false);
+    paint();
+    say(QStringLiteral("drag of the split to the painted preview, slowest step"), slowest * 1e3, "ms");
+}
+
 void measureWindow(const QByteArray& photo)
 {
     MainWindowController window;
@@ -133,6 +154,7 @@ void measureWindow(const QByteArray& photo)
     });
     strength->setSliderDown(false);
     say(QStringLiteral("drag of the strength to the painted preview: Helga"), drag * 1e3, "ms");
+    measureSplit(*window.findChild<DragDropImageView*>());
     say(QStringLiteral("sixteen thumbnails, painted"),
         1e3
             * leastOf(pressRounds,

@@ -24,6 +24,7 @@ SplitLine::SplitLine(QWidget* picture)
     setPageStep(whole / 10);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::SplitHCursor);
+    setToolTip(tr("Drag it across the photo. Esc ends the comparison."));
     setAccessibleName(tr("Line between before and after"));
     hide();
 }

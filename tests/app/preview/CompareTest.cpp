@@ -156,6 +156,15 @@ private slots:
         QCOMPARE(desk.kept(), shown);
     }
 
+    void eachSourceHasItsOwn()
+    {
+        FramedOriginal framed;
+        for (const QImage& source : {makePhoto(60, 40), makePhoto(61, 40), makePhoto(60, 40)}) {
+            const int thick = CharImage::getFilterFromName("Thick");
+            QCOMPARE(framed.of(source, Filter::original, thick), renderPhoto(source, {.borderFilter = thick}));
+        }
+    }
+
     void whereTheFrameDoesNotFitIntoTheMemoryThePhotoIsShown()
     {
         const QImage strip = makePhoto(200'000, 2);
