@@ -123,6 +123,7 @@ public:
     /// of the look, 0 .. 100 per cent (held there). Each of red, green and blue becomes the mix of its two values,
     /// rounded half up: 100 leaves the picture as it is, 0 gives the colours of `before`.
     void mixIn(const CharImage& before, int strength);
+    static constexpr int wholeStrength = 100; ///< per cent
 
     // ---- Toolkit: grain and maps ----
     /// Adds `count` squares of `spotSize` pixels at random places, each brighter or darker by one random amount of

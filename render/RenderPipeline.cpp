@@ -100,7 +100,7 @@ bool hasLooks(const RenderSettings& settings)
 /// Whether the looks are taken back in part.
 bool isMixed(const RenderSettings& settings)
 {
-    return settings.strength < 100 && !settings.asThumbnail && hasLooks(settings);
+    return settings.strength < CharImage::wholeStrength && !settings.asThumbnail && hasLooks(settings);
 }
 
 /// Whether a render would be the source once more. Its copy would cost as much as a look.

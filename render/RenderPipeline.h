@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/GrowArray.h"
+#include "image/CharImage.h"
 #include "image/FilterNumber.h"
 
 #include <QImage>
@@ -14,7 +15,7 @@ struct RenderSettings {
     const lumora::GrowArray<int>* filterIDs = nullptr; ///< the applied list, read when `filter` is -1
     int cropFilter = lumora::Filter::original; ///< whose crop aspect is taken
     int borderFilter = lumora::Filter::original; ///< whose margins and border are drawn
-    int strength = 100; ///< of the looks together, 0 .. 100 per cent; a thumbnail has them whole
+    int strength = lumora::CharImage::wholeStrength; ///< of the looks together, per cent; not of a thumbnail's
     bool asThumbnail = false; ///< square, without the border, though fitted inside its margins
 };
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "image/CharImage.h"
+
 #include <vector>
 
 /// What a person has chosen beside the photo: everything that a preview depends on. A value.
 struct Choices {
     std::vector<int> looks; ///< filter numbers in the order of application
-    int strength = 100; ///< of the looks together, in per cent
+    int strength = lumora::CharImage::wholeStrength; ///< of the looks together, in per cent
     bool multi = false; ///< looks are stacked
     int border = 0, crop = 0, size = 0; ///< the chosen items of the pop-ups, counted from 0
     bool varied = false; ///< looks vary

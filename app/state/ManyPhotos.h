@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/GrowArray.h"
+#include "image/CharImage.h"
 #include "photo/PhotoSaver.h"
 
 #include <QByteArray>
@@ -12,7 +13,7 @@
 /// What is made of many photos: the window's choices, named as people see them there.
 struct ManyChoices {
     lumora::GrowArray<int> looks; ///< filter numbers in the order of application
-    int strength = 100; ///< per cent
+    int strength = lumora::CharImage::wholeStrength;
     QString crop, border, size; ///< the chosen items
     std::optional<unsigned> variation; ///< the seed of the numbers that looks vary with; none: their fixed settings
     Kept kept = Kept::Everything;

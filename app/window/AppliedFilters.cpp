@@ -31,7 +31,7 @@ void MainWindowController::toggleAppliedFilter(int filter)
 void MainWindowController::removeAllFilters()
 {
     filterIDs.clear();
-    showStrength(wholeStrength);
+    showStrength(CharImage::wholeStrength);
     showAppliedFilters();
 }
 
@@ -48,7 +48,7 @@ void MainWindowController::pressFilterButton(int filter)
         return showAppliedFilters();
     filterIDs.press(filter, doMultiFiltering);
     if (!doMultiFiltering || filterIDs.numThings == 0)
-        showStrength(wholeStrength); // a new list begins
+        showStrength(CharImage::wholeStrength); // a new list begins
     showAppliedFilters();
     applyMultipleFilters();
     addStep(QString::fromUtf8(CharImage::getFilterName(filter)));

@@ -54,8 +54,7 @@ public:
     int borderFilter = lumora::Filter::original; ///< filter number whose border is drawn
     bool doCropping = true; ///< off only between updateFromSettings and the render that it begins
     bool doBorders = true; ///< the same
-    static constexpr int wholeStrength = 100; ///< per cent
-    int strength = wholeStrength; ///< of the looks together; every new list begins with the whole
+    int strength = lumora::CharImage::wholeStrength; ///< of the looks together; every new list begins with the whole
     float currentCropRatio = 0; ///< for callers: nothing in the program reads or writes it
     int currentBorder = 0; ///< the same
     int imgOutputSize = -1; ///< longest side of the exported picture in pixels; -1: the photo's own

@@ -87,7 +87,7 @@ void MainWindowController::completeNibLoading()
     connectComparing();
     qApp->installEventFilter(this);
     buildMenus();
-    showStrength(wholeStrength);
+    showStrength(CharImage::wholeStrength);
     showAppliedFilters();
     showWhatCanBeDone();
     setAcceptDrops(true);

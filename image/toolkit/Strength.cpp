@@ -28,12 +28,12 @@ constexpr std::size_t blockBytes = 64;
 
 void CharImage::mixIn(const CharImage& before, int strength)
 {
-    const int share = std::clamp(strength, 0, 100);
+    const int share = std::clamp(strength, 0, wholeStrength);
     // The spare bytes stay.
     std::uint16_t shares[blockBytes], rests[blockBytes];
     for (std::size_t i = 0; i < blockBytes; i++) {
-        shares[i] = std::uint16_t(i % 4 == 3 ? 100 : share);
-        rests[i] = std::uint16_t(100 - shares[i]);
+        shares[i] = std::uint16_t(i % 4 == 3 ? wholeStrength : share);
+        rests[i] = std::uint16_t(wholeStrength - shares[i]);
     }
     const auto mixBytes = [&](unsigned char* to, const unsigned char* from, std::size_t count) {
         for (std::size_t i = 0; i < count; i++) {

@@ -152,7 +152,7 @@ private:
         GrowArray<int> looks;
         for (const int filter : order.looks)
             looks.add(filter);
-        order.strength = int(number(strength, 0, 100));
+        order.strength = int(number(strength, 0, CharImage::wholeStrength));
         order.crop = chosenFilter(named(crop, m_parser.value(crop), cropChoices()), looks);
         order.border = chosenFilter(named(border, m_parser.value(border), borderChoices()), looks);
         if (m_parser.value(size).compare(QLatin1String("Original"), Qt::CaseInsensitive) != 0)

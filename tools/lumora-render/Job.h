@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/CharImage.h"
 #include "image/FilterNumber.h"
 #include "photo/PhotoSaver.h"
 
@@ -13,7 +14,7 @@
 /// What is made of every photo.
 struct Order {
     std::vector<int> looks; ///< filter numbers in the order of application
-    int strength = 100; ///< of the looks together, in per cent
+    int strength = lumora::CharImage::wholeStrength; ///< of the looks together, in per cent
     int crop = lumora::Filter::original, border = lumora::Filter::original; ///< filter numbers
     int size = -1; ///< the longer side in pixels; -1: the picture's own
     std::optional<unsigned> seed; ///< of the variation; without one looks use their fixed settings
