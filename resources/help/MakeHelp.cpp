@@ -1,7 +1,8 @@
 // Sets the help text as a PDF file: make_help help.html photo.jpg help.pdf
 //
 // What depends on the looks is filled in here: their crops and borders, and the row of looks, each with its picture:
-// the photo rendered by the pipeline, as the window would. A look that help says nothing about is an error.
+// the photo rendered by the pipeline, as the window would. A look that help says nothing about is an error. In the
+// text, split:NUMBER is the photo without and with the look of that number.
 
 #include "image/CharImage.h"
 #include "image/FilterNumber.h"
@@ -11,6 +12,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPageLayout>
+#include <QPainter>
 #include <QPdfWriter>
 #include <QStringList>
 #include <QTextDocument>
@@ -114,16 +116,39 @@ public:
 protected:
     QVariant loadResource(int type, const QUrl& url) override
     {
-        if (url.scheme() != "look")
-            return QTextDocument::loadResource(type, url);
         const int filter = url.path().toInt();
-        QImage picture = renderPhoto(photo, {.filter = filter, .cropFilter = filter, .borderFilter = filter});
-        picture = picture.scaled(390, 232, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        picture.setDevicePixelRatio(2.2); // printed finer than a screen shows it
-        return picture;
+        if (url.scheme() == "look")
+            return printed(rendered(filter, filter), {390, 232});
+        if (url.scheme() == "split")
+            return printed(split(rendered(Filter::original, filter), rendered(filter, filter)), {480, 260});
+        return QTextDocument::loadResource(type, url);
     }
 
 private:
+    /// Under a look, in the crop and the border of one.
+    QImage rendered(int filter, int framing) const
+    {
+        return renderPhoto(photo, {.filter = filter, .cropFilter = framing, .borderFilter = framing});
+    }
+
+    /// The left half of a picture beside the right half of another of its size.
+    static QImage split(const QImage& before, const QImage& after)
+    {
+        QImage both = after;
+        QPainter painter(&both);
+        const int half = both.width() / 2;
+        painter.drawImage(0, 0, before, 0, 0, half);
+        painter.fillRect(half - 1, 0, 2, both.height(), Qt::white);
+        return both;
+    }
+
+    static QImage printed(const QImage& picture, const QSize& room)
+    {
+        QImage small = picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        small.setDevicePixelRatio(2.2); // printed finer than a screen shows it
+        return small;
+    }
+
     const QImage photo;
 };
 

@@ -5,6 +5,7 @@ import configparser
 import glob
 import os
 import platform
+import re
 import subprocess
 import sys
 
@@ -44,7 +45,9 @@ assert arguments == ["%F"], arguments
 icon = entry["Desktop Entry"]["Icon"]
 assert glob.glob(os.path.join(share, "icons", "hicolor", "*", "apps", icon + ".*")), icon
 with open(help_document, "rb") as document:
-    assert document.read(5) == b"%PDF-"
+    content = document.read()
+assert content.startswith(b"%PDF-")
+assert re.findall(rb"/Count (\d+)", content) == [b"3"], "help has three pages"
 
 # The program for terminals, from where it was unpacked, with the package's own engine and reader.
 rendered = os.path.join(home, "rendered.jpg")
