@@ -1,4 +1,6 @@
 #include "image/CharImage.h"
+#include "photo/PhotoLoader.h"
+#include "photo/PhotoSaver.h"
 #include "render/FramingChoice.h"
 #include "tests/app/Desk.h"
 #include "tests/photo/Samples.h"
@@ -40,12 +42,17 @@ class SameBytesTest : public QObject {
         return samples::readFile(folder.path("out.jpg"));
     }
 
-    /// `seed` is that of the numbers that a render draws beside the variation.
-    void compare(
-        const QList<QByteArray>& options, const std::function<void()>& seed = [] { std::srand(1); })
+    /// What the window makes of the photo now, encoded as it saves. Lightleak draws numbers of its own in each render,
+    /// and the window's come from its last preview: here they come from `seed`.
+    QByteArray madeBySeed(const std::function<void()>& seed)
     {
         seed();
-        const QByteArray mine = saved();
+        return encodeJpeg(m_desk->window.saveMultipleFilters(false), loadPhoto(m_photo).metadata);
+    }
+
+    void compare(const QList<QByteArray>& options) { compare(options, saved()); }
+    void compare(const QList<QByteArray>& options, const QByteArray& mine)
+    {
         QVERIFY(mine.size() > 500);
         QVERIFY2(rendered(options) == mine, options.join(' ').constData());
     }
@@ -77,7 +84,11 @@ private slots:
         QCOMPARE(looks.numThings, 15);
         for (int i = 0; i < looks.numThings; i++) {
             m_desk->window.pressFilterButton(looks.theArray[i]);
-            compare({"--look", nameOf(looks.theArray[i]).toUpper()});
+            const QList<QByteArray> options = {"--look", nameOf(looks.theArray[i]).toUpper()};
+            if (looks.theArray[i] == Filter::lightleak)
+                compare(options, madeBySeed([] { std::srand(1); }));
+            else
+                compare(options);
         }
     }
 
@@ -123,7 +134,8 @@ private slots:
         m_desk->click("chkRandomness");
         for (const int look : {Filter::lolo, Filter::instant, Filter::lightleak}) {
             m_desk->window.pressFilterButton(look);
-            compare({"--look", nameOf(look), "--random", "7"}, seed);
+            const QList<QByteArray> options = {"--look", nameOf(look), "--random", "7"};
+            compare(options, look == Filter::lightleak ? madeBySeed(seed) : saved());
         }
     }
 
