@@ -65,6 +65,7 @@ private slots:
         QVERIFY(symlink("gone", (folder.path + "2c").constData()) == 0);
         QVERIFY(symlink("3", (folder.path + "4").constData()) == 0);
         QCOMPARE(folder.from("1", PhotoWalk::On), QByteArrayList({"3", "4"}));
+        QCOMPARE(folder.from("4", PhotoWalk::Back), QByteArrayList({"3", "1"}));
     }
 
     void namesMayBeOfAnyBytes()

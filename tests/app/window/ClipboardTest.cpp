@@ -104,6 +104,7 @@ private slots:
         QImage expected = makePhoto(50, 70);
         expected.setPixelColor(3, 3, Qt::white);
         QCOMPARE(pixelsOf(desk.window.getoriginalImage()), expected);
+        QCOMPARE(desk.window.getoriginalImage().devicePixelRatio(), 1.0);
         QCOMPARE(desk.breadcrumb(), QString("Mono"));
         QCOMPARE(desk.window.currentFilePath(), QByteArray());
         QVERIFY(!desk.find<QMenuBar>("menubar")->actions()[1]->menu()->actions()[0]->isEnabled()); // Undo: a new photo
