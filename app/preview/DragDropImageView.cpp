@@ -2,21 +2,13 @@
 
 #include "app/preview/CornerLabel.h"
 #include "app/preview/SplitLine.h"
-#include "app/state/LocalFiles.h"
 #include "render/Scaled.h"
 
-#include <QApplication>
-#include <QDragEnterEvent>
-#include <QMimeData>
-#include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
-#include <utility>
 
 namespace {
-
-constexpr int wheelStep = 120; ///< eighths of a degree
-constexpr int stepsAcross = 8; ///< of the arrow keys on a close look, from edge to edge of the widget
 
 QRectF scaled(const QRectF& rect, qreal factor)
 {
@@ -192,18 +184,6 @@ const QImage& DragDropImageView::fitted(bool before)
     return fit.image;
 }
 
-Qt::DropAction DragDropImageView::draggingEntered(const QMimeData* content, Qt::DropActions allowed) const
-{
-    const bool mayCopy = allowed & (Qt::LinkAction | Qt::CopyAction);
-    return mayCopy && !localFiles(*content).isEmpty() ? Qt::CopyAction : Qt::IgnoreAction;
-}
-
-bool DragDropImageView::performDragOperation(const QMimeData* content)
-{
-    const QByteArrayList paths = localFiles(*content);
-    return !paths.isEmpty() && m_dropDelegate && m_dropDelegate->loadImageFromFile(paths.first());
-}
-
 QSize DragDropImageView::sizeHint() const
 {
     return {800, 500};
@@ -258,163 +238,4 @@ void DragDropImageView::paintSplit(QPainter& painter)
     painter.drawImage(imageRect(), fitted(false));
     paintCornerLabel(painter, imageRect(), tr("After"), true);
     painter.setClipping(false);
-}
-
-void DragDropImageView::paintDropSign(QPainter& painter)
-{
-    const QColor accent = palette().color(QPalette::Highlight);
-    QColor veil = accent;
-    veil.setAlpha(60);
-    painter.fillRect(rect(), veil);
-    painter.setPen(QPen(accent, 4));
-    painter.drawRect(rect().adjusted(2, 2, -2, -2));
-}
-
-void DragDropImageView::showDropSign(bool on)
-{
-    m_dropSign = on;
-    update();
-}
-
-void DragDropImageView::takeDragEnter(QDragEnterEvent& event)
-{
-    // A drag of this program's own carries this photo, whose file would be made now.
-    if (event.source() || draggingEntered(event.mimeData(), event.possibleActions()) == Qt::IgnoreAction) {
-        event.ignore();
-        return;
-    }
-    showDropSign(true);
-    // A source that only links is told so; the file is read all the same.
-    event.setDropAction(event.possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
-    event.accept();
-}
-
-void DragDropImageView::takeDrop(QDropEvent& event)
-{
-    showDropSign(false);
-    if (!performDragOperation(event.mimeData())) {
-        event.setDropAction(Qt::IgnoreAction);
-        event.ignore();
-        return;
-    }
-    event.setDropAction(event.possibleActions() & Qt::CopyAction ? Qt::CopyAction : Qt::LinkAction);
-    event.accept();
-}
-
-void DragDropImageView::mousePressEvent(QMouseEvent* event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    beginPan(event->position());
-    m_mayDragOut = !m_closeup.isOn();
-    if (m_mayDragOut)
-        return setComparing(true);
-    m_heldStill.start(QApplication::startDragTime(), this);
-}
-
-void DragDropImageView::mouseMoveEvent(QMouseEvent* event)
-{
-    if (!(event->buttons() & Qt::LeftButton))
-        return;
-    if (m_closeup.isOn())
-        panTo(event->position());
-    else if (m_mayDragOut && !m_rendered.isNull() && isFarFromPress(event->position())) {
-        m_mayDragOut = false;
-        setComparing(false);
-        emit draggedOut();
-    }
-}
-
-/// Less than the platform's distance may be an unsteady hand.
-bool DragDropImageView::isFarFromPress(const QPointF& position) const
-{
-    return (position - m_pressed).manhattanLength() >= QApplication::startDragDistance();
-}
-
-void DragDropImageView::mouseReleaseEvent(QMouseEvent*)
-{
-    m_heldStill.stop();
-    setComparing(false);
-    if (m_closeup.isOn())
-        setCursor(Qt::OpenHandCursor);
-}
-
-void DragDropImageView::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::LeftButton) {
-        emit actualSizeAsked(event->position());
-        beginPan(event->position());
-    }
-}
-
-void DragDropImageView::beginPan(const QPointF& position)
-{
-    m_pressed = position;
-    m_panned = {};
-    m_panning = false;
-}
-
-/// The mouse is there now.
-void DragDropImageView::panTo(const QPointF& position)
-{
-    const QPointF way = position - m_pressed;
-    if (!m_panning && !isFarFromPress(position))
-        return;
-    if (!std::exchange(m_panning, true)) {
-        m_heldStill.stop();
-        setCursor(Qt::ClosedHandCursor);
-    }
-    const QPoint pixels = (way * devicePixelRatioF()).toPoint();
-    m_closeup.panBy(pixels - std::exchange(m_panned, pixels), room());
-    update();
-}
-
-void DragDropImageView::timerEvent(QTimerEvent* event)
-{
-    if (event->timerId() != m_heldStill.timerId())
-        return QWidget::timerEvent(event);
-    m_heldStill.stop();
-    setComparing(true);
-}
-
-void DragDropImageView::wheelEvent(QWheelEvent* event)
-{
-    if (!(event->modifiers() & Qt::ControlModifier))
-        return event->ignore();
-    m_wheel += event->angleDelta().y();
-    const int steps = m_wheel / wheelStep;
-    m_wheel %= wheelStep;
-    if (steps != 0)
-        emit zoomAsked(steps, event->position());
-}
-
-void DragDropImageView::keyPressEvent(QKeyEvent* event)
-{
-    const QSize step = room() / stepsAcross;
-    const auto pan = [this](int x, int y) {
-        m_closeup.panBy({x, y}, room());
-        update();
-    };
-    if (m_isSplit && event->key() == Qt::Key_Left)
-        m_splitLine->triggerAction(QAbstractSlider::SliderSingleStepSub);
-    else if (m_isSplit && event->key() == Qt::Key_Right)
-        m_splitLine->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    else if (!m_closeup.isOn())
-        QWidget::keyPressEvent(event);
-    else if (event->key() == Qt::Key_Left)
-        pan(step.width(), 0);
-    else if (event->key() == Qt::Key_Right)
-        pan(-step.width(), 0);
-    else if (event->key() == Qt::Key_Up)
-        pan(0, step.height());
-    else if (event->key() == Qt::Key_Down)
-        pan(0, -step.height());
-    else
-        QWidget::keyPressEvent(event);
-}
-
-void DragDropImageView::focusInEvent(QFocusEvent* event)
-{
-    QWidget::focusInEvent(event);
-    m_focusByKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
 }

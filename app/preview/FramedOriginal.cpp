@@ -11,7 +11,7 @@ const QImage& FramedOriginal::of(const QImage& source, int cropFilter, int borde
     m_borderFilter = borderFilter;
     m_picture = {}; // may be as large as the photo
     m_picture = renderPhoto(source, {.cropFilter = cropFilter, .borderFilter = borderFilter});
-    if (m_picture.isNull() || m_picture == source)
+    if (m_picture.isNull())
         m_picture = source;
     return m_picture;
 }
