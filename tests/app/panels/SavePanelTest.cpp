@@ -95,6 +95,7 @@ private slots:
         const LookList looks;
         for (const auto& [bytes, length] : {std::pair(412'345, "412 kB"), std::pair(2'123'456, "2.1 MB")}) {
             SavePanel panel(nullptr, bytes, "photo.png", looks);
+            panel.show();
             QCOMPARE(lineOf(panel, "JPEG"), QString("JPEG, whatever the ending: %1").arg(length));
         }
     }

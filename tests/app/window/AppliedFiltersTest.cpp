@@ -106,6 +106,7 @@ private slots:
         QVERIFY(desk.render() != render);
 
         desk.click("btnMono");
+        desk.choose("btnBorders", "Thin"); // without it the render of no look is the photo itself
         desk.click("chkMultiFilter");
         render = desk.render();
         desk.click("chkMultiFilter");

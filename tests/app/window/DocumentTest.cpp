@@ -233,14 +233,14 @@ private slots:
                     names << action->shortcut().toString();
             return names;
         };
-        const QStringList always{"btnLoad", "btnReExpose", "Ctrl+O", "Ctrl+Q", "Ctrl+E"};
+        const QStringList always{"btnLoad", "btnReExpose", "Ctrl+O", "Ctrl+Shift+S", "Ctrl+Q", "Ctrl+E"};
         QCOMPARE(enabled(), always);
         QVERIFY(!desk.window.loadImageFromFile("/nowhere") && desk.closeSheet());
         QCOMPARE(enabled(), always);
         QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "a.png", makePhoto(60, 40))));
         QCOMPARE(enabled(),
             QStringList({"btnLoad", "btnLeft", "btnRight", "btnReExpose", "btnFlatten", "btnSave", "Ctrl+O", "Ctrl+S",
-                "Ctrl+Q", "Ctrl+L", "Ctrl+R", "Ctrl+Shift+F", "Ctrl+E"}));
+                "Ctrl+Shift+S", "Ctrl+Q", "Ctrl+C", "Ctrl+L", "Ctrl+R", "Ctrl+Shift+F", "Ctrl+E"}));
     }
 
     void whereMemoryWouldNotDoNothingIsSavedOrFlattened()
