@@ -59,7 +59,7 @@ void MainWindowController::workEnded(bool closeAsked)
 /// Reads the photo of that path, unless the reader has begun with it already. Meanwhile the window lives.
 LoadedPhoto MainWindowController::readPhoto(const QByteArray& path)
 {
-    if (m_reader->path() != path)
+    if (path.isEmpty() || m_reader->path() != path) // which is empty where nothing was begun
         m_reader->begin(path);
     m_work.beginStep(tr("Decode"));
     if (m_reader->isDone())

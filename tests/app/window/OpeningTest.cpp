@@ -86,7 +86,7 @@ private slots:
         text.close();
         for (const QByteArray& path : {QFile::encodeName(text.fileName()), QByteArray("/nowhere/at.all"),
                  QFile::encodeName(desk.folder.path()), QByteArray()})
-            QVERIFY(!desk.window.loadImageFromFile(path) && desk.closeSheet());
+            QVERIFY2(!desk.window.loadImageFromFile(path) && desk.closeSheet(), path.constData());
         QCOMPARE(desk.window.getoriginalImage(), original);
         QCOMPARE(desk.window.getFiltersAppliedImage().cacheKey(), render.cacheKey());
         QCOMPARE(desk.window.windowTitle(), title);
