@@ -9,7 +9,7 @@
 
 void MainWindowController::buildFullScreenEntry(QMenu& menu)
 {
-    m_fullScreenAction = menu.addAction(tr("F&ull screen"), QKeySequence(Qt::Key_F11), this,
+    m_fullScreenAction = menu.addAction(tr("&Whole screen"), QKeySequence(Qt::Key_F11), this,
         [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
     m_fullScreenAction->setCheckable(true);
     m_marginsOfPhoto = m_ui->centralLayout->contentsMargins();
