@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/Appearance.h"
 #include "app/desktop/SessionEnd.h"
 #include "app/window/MainWindowController.h"

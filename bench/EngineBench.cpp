@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Measures the engine, the bridge and the pipeline: engine_bench [Google Benchmark's options]
 //
 // All in processor time, as the engine has one thread and waits for nothing. A row's time is the mean of its

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Measures what a person waits for, with a photo of 24 megapixels, on a real display: journey_bench LUMORA FOLDER
 //
 // LUMORA is the program, FOLDER takes the photo. Opening is measured once, everything else a few times,

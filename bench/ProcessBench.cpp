@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Measures the way of one photo of 24 megapixels from file to file, in whole processes, against the programs of the
 // JPEG library on pictures of the same sizes: process_bench LUMORA-RENDER FOLDER
 //

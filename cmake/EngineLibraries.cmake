@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The engine once for each level of x86-64 processors, from the same sources: shared libraries of one name. The dynamic
 # loader looks into glibc-hwcaps/ first and takes the highest level that the processor can run.
 set(engine_levels x86-64 x86-64-v3 x86-64-v4)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine on any pixels, sizes, filters and parameters:
 // build/asan/fuzz/EngineFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/EngineFuzz
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The loader on a file of any bytes: build/asan/fuzz/LoaderFuzz -max_total_time=600 FOLDER
 // build/asan/fuzz/seeds/LoaderFuzz
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Makes the inputs that the fuzz targets start from: make_seeds FOLDER
 //
 // There is one folder for each target, named after it. The files are small, and together they use every feature of the

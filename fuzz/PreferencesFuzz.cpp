@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The preference reader on a store of any bytes:
 // build/asan/fuzz/PreferencesFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/PreferencesFuzz
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The PSD reader on any bytes: build/asan/fuzz/PsdFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/PsdFuzz
 
 #include "fuzz/ReaderFuzz.h"

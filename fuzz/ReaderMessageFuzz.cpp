@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the window takes from a reader, which a hostile file may have taken over: the size of the shared memory, then
 // the message. build/asan/fuzz/ReaderMessageFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/ReaderMessageFuzz
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The TGA reader on any bytes: build/asan/fuzz/TgaFuzz -max_total_time=600 FOLDER build/asan/fuzz/seeds/TgaFuzz
 
 #include "fuzz/ReaderFuzz.h"

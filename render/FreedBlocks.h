@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// Has the C library keep freed blocks of up to 32 MiB, 64 MiB of them at most, for the next ones: a press on a look

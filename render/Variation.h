@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // The random numbers that looks draw: the table of the variation, and those that a look draws while it is made. Of the

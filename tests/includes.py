@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Holds the includes to the house: includes.py ROOT
 
 A floor or a room includes only itself and what lies below it, and no file includes itself by way of others. A source and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/RenderSeed.h"
 #include "app/window/MainWindowController.h"
 #include "photo/FreeMemory.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/controls/ChoiceMenu.h"
 #include "app/state/RecentPhotos.h"
 #include "app/state/Rules.h"

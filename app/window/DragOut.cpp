@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/controls/ChoiceMenu.h"
 #include "app/desktop/DraggedPhoto.h"
 #include "app/state/RenderSeed.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/Preferences.h"
 #include "app/window/MainWindowController.h"
 #include "image/CharImage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/controls/ShownOnly.h"
 #include "app/state/RenderSeed.h"
 #include "app/window/MainWindowController.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The HEIC and AVIF reader on any bytes:
 // build/asan/fuzz/HeifFuzz -max_total_time=600 -keep_seed=1 FOLDER build/asan/fuzz/seeds/HeifFuzz
 

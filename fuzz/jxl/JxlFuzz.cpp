@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The JPEG XL reader on any bytes:
 // build/asan/fuzz/JxlFuzz -max_total_time=600 -keep_seed=1 FOLDER build/asan/fuzz/seeds/JxlFuzz
 

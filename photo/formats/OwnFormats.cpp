@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/formats/OwnFormats.h"
 
 #include "photo/formats/JpegHandler.h"

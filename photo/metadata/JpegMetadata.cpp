@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/metadata/JpegMetadata.h"
 
 #include "photo/metadata/FittingExif.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reader where the system has no means to confine a process: the same code, in this one.
 
 #include "photo/PhotoLoader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// Reads one photo for the window at the other end of `channel`: waits for the file and the limits, decodes, answers

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sets the help text as a PDF file: make_help help.html photo.jpg help.pdf
 //
 // What depends on the looks is filled in here: their crops and borders, and the row of looks, each with its picture:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Paints sample.jpg, the photo that Lumora opens when it is given none: a lake at a late hour, computed and not
 // photographed, so that it belongs to the project. It holds what looks work on: blue sky, greens, warm skin-like tones,
 // deep shadows and fine texture.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/core/FreshFolder.h"
 #include "tests/core/TextOf.h"
 

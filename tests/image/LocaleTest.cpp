@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/GrowString.h"
 #include "image/CharImage.h"
 #include "tests/TurkishLocale.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Holds a saved file to the pipeline's own render of its photo, pixel by pixel:
 //
 //     journey_compare SAVED PHOTO LOOKS CROP BORDER

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window that files are dragged out of, as a file manager's is: journey_drag_source FILE...
 //
 // Tells on standard output that the pointer has "entered" it, then what the target under the pointer answers: "copy" or

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window that photos are dropped on, as another program's is: journey_drop_target FOLDER
 //
 // What is dropped is written there: the file as "file", its name as "name", and the picture as "picture.jpg". Tells on

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writes a JPEG photo of any size with soft colours and fine texture: journey_photo WIDTH HEIGHT FILE
 
 #include <QImage>

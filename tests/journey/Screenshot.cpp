@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Saves what a part of the display shows: journey_screenshot FILE X Y WIDTH HEIGHT
 
 #include <QGuiApplication>

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Everything by screen reader: each control has a name; Open, every look and Save answer to a press by name."""
 
 import os

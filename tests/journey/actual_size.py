@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The photo at actual size by keys, mouse and wheel, held to the saved file; the photo alone on the screen."""
 
 import os

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The photo before its looks, in register: held, and beside the looks in a split that is dragged across."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What a person has at a desk: eyes, a pointer and a keyboard. Nothing here knows Lumora."""
 
 import contextlib

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A real drag between two windows: the first of the files opens; one that is no photo changes nothing."""
 
 import os

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """From a file on disk to a file on disk: open by argument, Mono by the mouse, save through the panel."""
 
 import os

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What keys, clicks and the wheel mean does not depend on the control used last, and what is held acts once."""
 
 import os

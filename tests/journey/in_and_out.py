@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Photos go in and out by keys, by the menus and by a real drag to another program; quality is remembered."""
 
 import glob

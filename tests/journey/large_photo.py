@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A photo of 24 megapixels opens, takes Mono and is saved within its memory."""
 
 import os

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A whole afternoon with one photo, then quitting and coming back: the choices are kept."""
 
 import os

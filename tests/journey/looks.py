@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The strip of all looks in a narrow window, by real keys, clicks and the wheel."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Lumora as a person meets it: a window with named controls, found through the accessibility bus."""
 
 import os

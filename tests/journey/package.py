@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The Debian package: made, unpacked into an empty folder, and run from there with its help and its icons."""
 
 import configparser

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Many photos, by keys alone: a folder is chosen, saved into another one, and what failed is told."""
 
 import os

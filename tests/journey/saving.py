@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The photo that was opened is not saved over by mistake; what was saved is told; the window comes back as it was."""
 
 import os

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The journey of scripts/run where there is no display: showcase.py BUILD PHOTO FOLDER
 
 Opens the photo, presses Mono, saves, and leaves the window's picture and the saved JPEG in the folder."""

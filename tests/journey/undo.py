@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Steps are taken, taken back and taken again by keys; the photo on the screen is compared by its pixels."""
 
 import os

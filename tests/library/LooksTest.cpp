@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "image/CharImage.h"
 #include "library/lumora.h"
 #include "tests/library/Block.h"

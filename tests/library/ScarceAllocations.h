@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// While it lives, so many allocations by `new` succeed and all others fail, in this program and in its libraries.

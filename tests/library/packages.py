@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The Debian packages: made, looked through, and a program built from those of the library alone:
 packages.py BUILD LOOK PHOTO.ppm
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Prints a hash of what every look and every border makes of some pictures, fixed and varied. Two machines, compilers
 // or libraries agree when they print the same; whatever the looks print themselves stands between the hashes.
 

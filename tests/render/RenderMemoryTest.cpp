@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "render/RenderPipeline.h"
 #include "tests/photo/Samples.h"
 #include "tests/photo/ScarceMemory.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opens every file under a folder the way the application does, each in a process of its own, and tells how it went:
 //
 //     corpus_tool [--pixels] FOLDER [SECONDS] [MEBIBYTES]

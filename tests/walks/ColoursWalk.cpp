@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "image/looks/Delicious.h"
 #include "image/numbers/Plane.h"
 #include "image/passes/TrialError.h"

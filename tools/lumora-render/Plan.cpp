@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/lumora-render/Plan.h"
 
 #include "photo/EscapedText.h"

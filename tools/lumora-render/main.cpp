@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/lumora-render/Plan.h"
 #include "tools/lumora-render/Report.h"
 #include "tools/lumora-render/Runner.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 /// Gives libheif a decoder of HEVC pictures, as phones write them, that works on the caller's thread and is taken

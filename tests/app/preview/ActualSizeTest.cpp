@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "image/FilterNumber.h"
 #include "photo/PhotoSaver.h"
 #include "tests/app/Desk.h"

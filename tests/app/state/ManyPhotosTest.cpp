@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/ManyPhotos.h"
 #include "app/state/PhotoNames.h"
 #include "image/FilterNumber.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/SessionEnd.h"
 #include "app/state/Preferences.h"
 #include "image/CharImage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/image/looks/LookProperties.h"
 
 #include "image/looks/Look1974.h"

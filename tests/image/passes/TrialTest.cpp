@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "image/numbers/Hues.h"
 #include "image/numbers/Power.h"
 #include "image/passes/Levels.h"

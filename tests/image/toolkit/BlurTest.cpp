@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "image/CharImage.h"
 #include "image/numbers/Arithmetic.h"
 #include "image/toolkit/BlurKernel.h"

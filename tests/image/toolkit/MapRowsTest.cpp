@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "image/toolkit/MapRows.h"
 #include "tests/reference/Toolkit.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reader with decoders that do harm. Each takes the files that begin with its name, and does what a hostile file
 // might bring a real decoder to do.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "image/CharImage.h"
 #include "tests/reference/Looks.h"
 #include "tests/reference/Toolkit.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The manual page, the completion and --help name the same options: documents.py PROGRAM RESOURCES"""
 
 import pathlib

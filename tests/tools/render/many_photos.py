@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The first recipe of docs/MANY-PHOTOS.md, killed half way: many_photos.py RENDER MAKE_PHOTO DOCUMENT
 
 Runs the command as the document has it, with the program and the photos in a folder of the test. Kills all of it, and runs
