@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "image/numbers/Disc.h"
 #include "image/numbers/Power.h"
 #include "image/passes/RadialPass.h"
 
@@ -25,10 +26,10 @@ struct Leak {
     /// The glow's weights, 0 .. 0.15, of pixels that stand so far from the place.
     void glowAt(float* glow, const int* across, const int* down, int count) const
     {
+        float d[blockPixels];
+        exactDistances(d, across, down, count);
         for (int i = 0; i < count; i++) {
-            const double dx = across[i], dy = down[i];
-            const float d = float(std::sqrt(dx * dx + dy * dy));
-            const float q = 1.0f - d / radius;
+            const float q = 1.0f - d[i] / radius;
             glow[i] = q < 0.0f ? 0.0f : q > 1.0f ? 1.0f : q;
         }
         raise(glow, count, 1.5f);
