@@ -3,7 +3,6 @@
 
 #include "photo/IccProfile.h"
 
-#include <QColorSpace>
 #include <cmath>
 
 namespace {
@@ -18,11 +17,16 @@ bool isPlainDisplayGamma(const QColorSpace& space)
 
 } // namespace
 
+bool isSRgb(const QColorSpace& space)
+{
+    return space == QColorSpace(QColorSpace::SRgb) || (space.isValid() && isPlainDisplayGamma(space));
+}
+
 QImage inSRgb(QImage image)
 {
     const QColorSpace sRgb(QColorSpace::SRgb), embedded = image.colorSpace();
     if (embedded.isValid()) {
-        if (embedded != sRgb && !isPlainDisplayGamma(embedded))
+        if (!isSRgb(embedded))
             image.convertToColorSpace(sRgb);
     } else if (const QByteArray icc = embedded.iccProfile(); !icc.isEmpty()) {
         // An RGB profile of tables, which QColorSpace does not read.

@@ -59,6 +59,7 @@ bool isForPhotos(const QByteArray& format)
 struct Decoded {
     QString reason; ///< why there is no picture; empty where there is one
     QImage image; ///< anything beside a reason
+    bool isInRows = false; ///< the picture has gone into the rows
     bool isUpright = false; ///< otherwise it stands as it is stored, which the file's EXIF block may tell
     bool restIsMissing = false; ///< the file ended before the picture did
     PhotoMetadata metadata = {}; ///< where the decoder gives it
@@ -69,14 +70,15 @@ Decoded refused(const QString& reason)
     return {reason, {}};
 }
 
-Decoded decodeByOwn(PhotoHandler& handler, const Room& room)
+Decoded decodeByOwn(PhotoHandler& handler, const Room& room, PhotoRows* rows)
 {
     const QString refusal = sizeRefusal(handler.option(QImageIOHandler::Size).toSize(),
         bytesPerPixel(QImage::Format(handler.option(QImageIOHandler::ImageFormat).toInt())), room);
     if (!refusal.isEmpty())
         return refused(refusal);
     Decoded decoded;
-    if (!handler.read(&decoded.image))
+    decoded.isInRows = rows && handler.hasRows();
+    if (!(decoded.isInRows ? handler.readRows(*rows) : handler.read(&decoded.image)))
         return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
     decoded.isUpright = handler.isUpright();
     decoded.restIsMissing = handler.restIsMissing();
@@ -110,15 +112,15 @@ Decoded decodeByPlatform(QIODevice& file, const Room& room)
     return decoded;
 }
 
-/// Decodes the first picture of the file.
-Decoded decode(QIODevice& file, const Room& room)
+/// Decodes the first picture of the file; into the rows, where there are some and its decoder has them.
+Decoded decode(QIODevice& file, const Room& room, PhotoRows* rows)
 {
     const OwnFormat own = ownFormat(file);
     if (!own.reason.isEmpty())
         return refused(own.reason);
     if (own.handler) {
         own.handler->setDevice(&file);
-        return decodeByOwn(*own.handler, room);
+        return decodeByOwn(*own.handler, room, rows);
     }
     if (const auto key = findPngColourKey(file)) {
         PngWithoutKey png(file, *key);
@@ -131,7 +133,7 @@ Decoded decode(QIODevice& file, const Room& room)
     return decodeByPlatform(file, room);
 }
 
-LoadedPhoto load(QIODevice& file, qint64 memory)
+LoadedPhoto load(QIODevice& file, qint64 memory, PhotoRows* rows)
 {
     LoadedPhoto photo;
     const JpegMarkers markers = readJpegMarkers(file);
@@ -143,12 +145,15 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
         return refusedPhoto(refusal);
     photo.metadata = readMetadata(file, markers);
     file.seek(0);
-    Decoded decoded = decode(file, {memory, file.size()});
+    const bool isStoredUpright = orientationOf(photo.metadata.exif) == 1;
+    Decoded decoded = decode(file, {memory, file.size()}, isStoredUpright ? rows : nullptr);
     if (!decoded.reason.isEmpty())
         return refusedPhoto(decoded.reason);
     photo.restIsMissing = decoded.restIsMissing;
     if (decoded.metadata != PhotoMetadata())
         photo.metadata = std::move(decoded.metadata);
+    if (decoded.isInRows)
+        return photo;
     photo.image = onWhiteInEitherOrder(inSRgb(std::move(decoded.image)));
     if (!decoded.isUpright)
         photo.image = turnedUpright(photo.image, orientationOf(photo.metadata.exif));
@@ -157,10 +162,10 @@ LoadedPhoto load(QIODevice& file, qint64 memory)
 
 } // namespace
 
-LoadedPhoto decodePhoto(QIODevice& file, qint64 memory)
+LoadedPhoto decodePhoto(QIODevice& file, qint64 memory, PhotoRows* rows)
 {
     try {
-        return load(file, memory);
+        return load(file, memory, rows);
     } catch (const std::bad_alloc&) {
         return refusedPhoto(noMemoryForPhoto());
     }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/formats/JpegHandler.h"
 
+#include "photo/ColorProfile.h"
 #include "photo/IccProfile.h"
+#include "photo/PhotoRows.h"
 
 #include <QColorSpace>
 #include <QImage>
@@ -13,11 +15,14 @@
 #include <jerror.h>
 #include <jpeglib.h>
 #include <utility>
+#include <vector>
 
 namespace {
 
 /// That of Format_RGBX8888, in which renders are made.
 constexpr J_COLOR_SPACE colours = JCS_EXT_RGBA;
+
+constexpr int rowsAtATime = 16; ///< which stay in the processor's cache
 
 /// Makes colours of what is told as the light that each ink lets through, where no profile tells what the inks are.
 void paintInks(QImage& picture)
@@ -100,6 +105,26 @@ public:
                 jpeg_read_scanlines(&info, &row, 1);
             }
             jpeg_finish_decompress(&info); // up to the end of the file
+        });
+    }
+
+    /// Reads all rows of a coloured picture.
+    bool readRows(PhotoRows& rows)
+    {
+        const qint64 bytesPerRow = qint64(info.image_width) * 4;
+        std::vector<uchar> strip(std::size_t(bytesPerRow * rowsAtATime));
+        return attempt([&] {
+            jpeg_start_decompress(&info);
+            int count = 0;
+            while (info.output_scanline < info.output_height) {
+                JSAMPROW row = strip.data() + count * bytesPerRow;
+                jpeg_read_scanlines(&info, &row, 1);
+                if (++count == rowsAtATime || info.output_scanline == info.output_height) {
+                    rows.take(strip.data(), count * bytesPerRow);
+                    count = 0;
+                }
+            }
+            jpeg_finish_decompress(&info);
         });
     }
 
@@ -196,6 +221,24 @@ QVariant JpegHandler::option(ImageOption option) const
 bool JpegHandler::restIsMissing() const
 {
     return m_decoder && m_decoder->restIsMissing();
+}
+
+bool JpegHandler::hasRows() const
+{
+    Decoder* const jpeg = open();
+    if (!jpeg || jpeg->isGrey() || jpeg->isOfInks())
+        return false;
+    const QByteArray profile = jpeg->profile();
+    return profile.isEmpty() || isSRgb(QColorSpace::fromIccProfile(profile));
+}
+
+bool JpegHandler::readRows(PhotoRows& rows)
+{
+    Decoder* const jpeg = open();
+    if (!jpeg)
+        return false;
+    rows.begin(jpeg->size());
+    return jpeg->readRows(rows);
 }
 
 bool JpegHandler::read(QImage* image)

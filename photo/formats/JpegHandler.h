@@ -22,6 +22,8 @@ public:
     /// Knows Size and ImageFormat.
     QVariant option(ImageOption option) const override;
     bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
+    bool hasRows() const override;
+    bool readRows(PhotoRows& rows) override;
     bool restIsMissing() const override;
 
 private:

@@ -38,14 +38,6 @@ void loadDecoders()
     tzset(); // colour profiles are dated
 }
 
-LoadedPhoto decode(int descriptor, qint64 memory)
-{
-    QFile file;
-    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::DontCloseHandle))
-        return refusedPhoto(QStringLiteral("The file cannot be read."));
-    return decodePhoto(file, memory);
-}
-
 } // namespace
 
 int runReader(int channel)
@@ -62,6 +54,9 @@ int runReader(int channel)
         return 0; // the window needs no reader any more
     if (!limit(*limits) || !confine())
         return 1;
-    const SharedPhoto shared = share(decode(request.file.number(), limits->memory));
+    QFile file;
+    if (!file.open(request.file.number(), QIODevice::ReadOnly, QFileDevice::DontCloseHandle))
+        return 1;
+    const SharedPhoto shared = sharedPhoto(file, limits->memory);
     return sendPacket(channel, packed(shared.answer), shared.memory.number()) ? 0 : 1;
 }

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo/PhotoDecoder.h"
+#include "photo/PhotoRows.h"
 #include "tests/photo/Samples.h"
 
 #include <QBuffer>
+#include <QColorSpace>
 #include <QImageWriter>
 #include <QTest>
 
@@ -30,6 +33,28 @@ QByteArray pixels(int width, int height, int channels)
             bytes.append(reinterpret_cast<const char*>(picture.constScanLine(y)) + 4 * x, std::min(channels, 3))
                 .append(QByteArray(channels == 4 ? 1 : 0, char(x * 5 + y)));
     return bytes;
+}
+
+class KeptRows : public PhotoRows {
+public:
+    void begin(QSize size) override { picture = QImage(size, QImage::Format_RGBX8888); }
+    void take(const uchar* rows, qint64 bytes) override
+    {
+        if (taken + bytes > picture.sizeInBytes())
+            qFatal("too many rows");
+        memcpy(picture.bits() + taken, rows, std::size_t(bytes));
+        taken += bytes;
+    }
+
+    QImage picture;
+    qint64 taken = 0;
+};
+
+QByteArray ofProfile(QColorSpace space)
+{
+    QImage picture = samples::noise(45, 31);
+    picture.setColorSpace(space);
+    return written(picture, 90, false);
 }
 
 void eachLayout()
@@ -68,6 +93,39 @@ private slots:
         QCOMPARE(photo.reason, QString());
         QCOMPARE(samples::largestDifference(photo.image, QImage::fromData(file, "jpeg")), 0);
         QVERIFY(!photo.restIsMissing);
+    }
+
+    void rowsAreGivenAsTheyAreDecoded_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<bool>("areGiven");
+        const QByteArray colour = written(samples::noise(45, 31), 90, false);
+        QTest::newRow("colour") << colour << true;
+        QTest::newRow("whole strips") << written(samples::noise(45, 32), 90, true) << true;
+        QTest::newRow("less than a strip") << written(samples::noise(7, 1), 90, false) << true;
+        QTest::newRow("upright") << samples::withCameraExif(colour, 1) << true;
+        QTest::newRow("turned") << samples::withCameraExif(colour, 6) << false;
+        QTest::newRow("sRGB") << ofProfile(QColorSpace::SRgb) << true;
+        QTest::newRow("another profile") << ofProfile(QColorSpace::DisplayP3) << false;
+        QTest::newRow("a broken profile") << samples::jpeg(JpegKind::Colour, 8, 8, pixels(8, 8, 3), "icc") << false;
+        QTest::newRow("grey") << samples::jpeg(JpegKind::Grey, 45, 31, pixels(45, 31, 1)) << false;
+        QTest::newRow("inks") << samples::jpeg(JpegKind::Cmyk, 45, 31, pixels(45, 31, 4)) << false;
+        QTest::newRow("not JPEG") << samples::encoded(samples::noise(3, 2), "png") << false;
+    }
+    void rowsAreGivenAsTheyAreDecoded()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(bool, areGiven);
+        QBuffer buffer(&file);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        KeptRows rows;
+        const LoadedPhoto photo = decodePhoto(buffer, qint64(1) << 30, &rows), whole = samples::loaded(m_folder, file);
+        QCOMPARE(photo.reason, QString());
+        QCOMPARE(photo.image.isNull(), areGiven);
+        QCOMPARE(rows.picture.isNull(), !areGiven);
+        QCOMPARE(rows.taken, areGiven ? whole.image.sizeInBytes() : 0);
+        QCOMPARE(samples::largestDifference(areGiven ? rows.picture : photo.image, whole.image), 0);
+        QVERIFY(photo.metadata == whole.metadata);
     }
 
     void whatIsCutOffIsMissing_data() { eachLayout(); }

@@ -82,7 +82,9 @@ private slots:
         const QImage noise = samples::noise(311, 401); // large enough to be converted in several threads
         QTest::newRow("png") << samples::encoded(noise, "png");
         QTest::newRow("one pixel") << samples::encoded(samples::noise(1, 1), "png");
-        QTest::newRow("jpeg, which stays in its order") << samples::encoded(noise, "jpeg");
+        QTest::newRow("jpeg") << samples::encoded(noise, "jpeg");
+        QTest::newRow("jpeg, cut off") << samples::encoded(noise, "jpeg").chopped(20000);
+        QTest::newRow("jpeg, grey") << samples::jpeg(samples::JpegKind::Grey, 64, 32, QByteArray(64 * 32, '\x55'));
         QTest::newRow("tiff") << samples::encoded(noise, "tiff");
         QTest::newRow("webp") << samples::encoded(noise, "webp");
         QTest::newRow("bmp") << samples::encoded(noise, "bmp");
@@ -114,14 +116,19 @@ private slots:
     {
         QFETCH(QByteArray, file);
         const QByteArray path = write("photo", file);
-        PhotoReader reader;
-        const LoadedPhoto photo = read(reader, path), expected = loadPhoto(path);
-        QCOMPARE(reader.end(), End::Answered);
-        QCOMPARE(photo.reason, expected.reason);
-        QCOMPARE(photo.image, expected.image);
-        QCOMPARE(photo.image.format(), expected.image.format());
-        QCOMPARE(photo.image.colorSpace(), expected.image.colorSpace());
-        QVERIFY(photo.metadata == expected.metadata);
+        const LoadedPhoto expected = loadPhoto(path);
+        // A process that waited has all decoders there, and one that is asked at once only those that it needs.
+        for (const PhotoReader::Reads reads : {PhotoReader::Reads::Many, PhotoReader::Reads::One}) {
+            PhotoReader reader(reads);
+            const LoadedPhoto photo = read(reader, path);
+            QCOMPARE(reader.end(), End::Answered);
+            QCOMPARE(photo.reason, expected.reason);
+            QCOMPARE(photo.image, expected.image);
+            QCOMPARE(photo.image.format(), expected.image.format());
+            QCOMPARE(photo.image.colorSpace(), expected.image.colorSpace());
+            QCOMPARE(photo.restIsMissing, expected.restIsMissing);
+            QVERIFY(photo.metadata == expected.metadata);
+        }
     }
 
     void whatCannotBeOpenedIsRefused()
