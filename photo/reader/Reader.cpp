@@ -11,11 +11,14 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <ctime>
 #include <malloc.h>
+#include <poll.h>
 #include <sys/prctl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -29,13 +32,27 @@ void printMessage(QtMsgType, const QMessageLogContext&, const QString& message)
 /// is there: each decoder is asked about a file that none takes, and the metadata's library about a damaged one.
 void loadDecoders()
 {
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QByteArray nothing(64, '\0'), damaged = "\x89PNG\r\n\x1a\n" + nothing;
     QBuffer unknownFile(&nothing), damagedFile(&damaged);
     unknownFile.open(QIODevice::ReadOnly);
     damagedFile.open(QIODevice::ReadOnly);
     decodePhoto(unknownFile, 1 << 24);
     readMetadata(damagedFile, {});
-    tzset(); // colour profiles are dated
+}
+
+/// Whether the request is there already, so that somebody waits while the decoders are loaded.
+bool isRequested(int channel)
+{
+    pollfd request = {channel, POLLIN, 0};
+    return poll(&request, 1, 0) > 0;
+}
+
+/// Whether the file is one that is read without the platform's decoders.
+bool isJpeg(int file)
+{
+    std::array<unsigned char, 2> start = {};
+    return pread(file, start.data(), start.size(), 0) == 2 && start[0] == 0xFF && start[1] == 0xD8;
 }
 
 } // namespace
@@ -44,14 +61,17 @@ int runReader(int channel)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     mallopt(M_ARENA_MAX, 1); // each further one would take addresses, which are limited
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    loadDecoders();
-    qInstallMessageHandler(printMessage);
-
+    const bool isHurried = isRequested(channel);
+    if (!isHurried)
+        loadDecoders();
     const Packet request = receivePacket(channel);
     const auto limits = unpackedLimits(request.bytes);
     if (!limits || !request.file)
         return 0; // the window needs no reader any more
+    if (isHurried && !isJpeg(request.file.number()))
+        loadDecoders();
+    qInstallMessageHandler(printMessage);
+    tzset(); // colour profiles are dated
     if (!limit(*limits) || !confine())
         return 1;
     QFile file;
