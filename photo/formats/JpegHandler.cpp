@@ -104,7 +104,7 @@ public:
                 JSAMPROW row = bits + info.output_scanline * bytesPerRow;
                 jpeg_read_scanlines(&info, &row, 1);
             }
-            jpeg_finish_decompress(&info); // up to the end of the file
+            finish();
         });
     }
 
@@ -124,7 +124,7 @@ public:
                     count = 0;
                 }
             }
-            jpeg_finish_decompress(&info);
+            finish();
         });
     }
 
@@ -143,6 +143,22 @@ public:
 
 private:
     template <class Common> static Decoder& of(Common common) { return *static_cast<Decoder*>(common->client_data); }
+
+    /// Whether scans of a progressive picture are missing, so that it lacks details.
+    bool lacksScans() const
+    {
+        for (int component = 0; info.coef_bits && component < info.num_components; component++)
+            for (const int missingBits : info.coef_bits[component]) // -1: all
+                if (missingBits != 0)
+                    return true;
+        return false;
+    }
+
+    void finish()
+    {
+        m_restIsMissing = m_restIsMissing || lacksScans();
+        jpeg_finish_decompress(&info); // up to the end of the file
+    }
 
     void takeWarning()
     {

@@ -157,6 +157,21 @@ private slots:
         QVERIFY(samples::loaded(m_folder, file.left((scan + file.size()) / 2) + "\xFF\xD9").restIsMissing);
     }
 
+    void scansThatDoNotComeAreMissing()
+    {
+        const QByteArray whole = written(samples::noise(200, 160), 90, true);
+        int scans = 0;
+        for (qsizetype scan = whole.indexOf("\xFF\xDA"); scan > 0; scan = whole.indexOf("\xFF\xDA", scan + 2)) {
+            // Tables of a scan stand before it.
+            const LoadedPhoto photo =
+                samples::loaded(m_folder, whole.left(whole.lastIndexOf("\xFF\xC4", scan)) + "\xFF\xD9");
+            QCOMPARE(photo.restIsMissing, scans > 0);
+            QCOMPARE(photo.image.isNull(), scans == 0);
+            scans++;
+        }
+        QCOMPARE(scans, 10);
+    }
+
     void damageWithinAndWhatFollowsAreNotCalledMissing()
     {
         const QByteArray whole = written(samples::noise(200, 160), 90, false);
