@@ -9,11 +9,13 @@
 #include "photo/OnWhite.h"
 #include "photo/Orientation.h"
 #include "photo/formats/GifEnd.h"
+#include "photo/formats/InkTiff.h"
 #include "photo/formats/OwnFormats.h"
 #include "photo/formats/PngColourKey.h"
 #include "photo/formats/UnsupportedKind.h"
 #include "photo/metadata/MetadataReader.h"
 
+#include <QBuffer>
 #include <QImageReader>
 #include <algorithm>
 #include <new>
@@ -128,6 +130,14 @@ Decoded decode(QIODevice& file, const Room& room, PhotoRows* rows)
         if (decoded.reason.isEmpty() && !applyColourKey(decoded.image, *key))
             return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
         return decoded;
+    }
+    if (const auto inks = findInkTiff(file)) {
+        QBuffer colours;
+        colours.setData(toldAsColours(file, *inks));
+        colours.open(QIODevice::ReadOnly);
+        Decoded decoded = decodeByPlatform(colours, room);
+        if (decoded.reason.isEmpty() && convertInks(decoded.image, *inks))
+            return decoded;
     }
     file.seek(0);
     return decodeByPlatform(file, room);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/photo/Samples.h"
+#include "tests/photo/TiffSample.h"
 
 #include <QColorSpace>
 #include <QTest>
@@ -341,6 +342,41 @@ private slots:
         const auto kind = asColours ? JpegKind::Ycck : JpegKind::Cmyk;
         const QImage image = load(samples::jpeg(kind, 16, 16, pixel.repeated(256), profile));
         compare(image, 8, 8, colour.rgb(), 3);
+        QCOMPARE(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    }
+
+    void tiffOfInks_data()
+    {
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<bool>("planar");
+        QTest::addColumn<QByteArray>("profile");
+        QTest::addColumn<QColor>("red"); // of magenta and yellow
+        QTest::newRow("8 bits") << 8 << false << pressProfile() << QColor(237, 51, 55);
+        QTest::newRow("8 bits in planes") << 8 << true << pressProfile() << QColor(237, 51, 55);
+        QTest::newRow("16 bits") << 16 << false << pressProfile() << QColor(237, 51, 55);
+        QTest::newRow("no profile") << 8 << false << QByteArray() << QColor(255, 0, 0);
+        QTest::newRow("half of one") << 8 << false << pressProfile().left(2000) << QColor(255, 0, 0);
+    }
+    void tiffOfInks()
+    {
+        QFETCH(int, bits);
+        QFETCH(bool, planar);
+        QFETCH(QByteArray, profile);
+        QFETCH(QColor, red);
+        constexpr int count = 16 * 16, inks = 5;
+        QList<samples::TiffEntry> entries = samples::tiffPicture(16, 16, bits, 4, inks, planar);
+        if (!profile.isEmpty())
+            entries << samples::TiffEntry{34675, 7, quint32(profile.size()), profile};
+        const auto sample = [bits](int ink) { return QByteArray(bits / 8, char(ink)); };
+        QList<QByteArray> strips;
+        if (planar)
+            for (const int ink : {0, 255, 255, 0})
+                strips << sample(ink).repeated(count);
+        else
+            strips << (sample(0) + sample(255) + sample(255) + sample(0)).repeated(count);
+        const QImage image = load(samples::tiff(entries, strips));
+        compare(image, 8, 8, red.rgb(), 3);
+        QCOMPARE(image.format(), QImage::Format_RGBX8888);
         QCOMPARE(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
     }
 
