@@ -147,8 +147,10 @@ LoadedPhoto load(QIODevice& file, qint64 memory, PhotoRows* rows)
 {
     LoadedPhoto photo;
     const JpegMarkers markers = readJpegMarkers(file);
+    const qint64 maxScanPixels =
+        std::min(maxJpegScanPixels, maxScanPixelsOfTinyJpeg + file.size() * maxScanPixelsPerByte);
     if (markers.markers > maxJpegMarkers || markers.scans > maxJpegScans
-        || markers.scans * std::min(markers.pixels, maxPhotoPixels) > maxJpegScanPixels)
+        || markers.scans * std::min(markers.pixels, maxPhotoPixels) > maxScanPixels)
         return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
     const QString refusal = boundsRefusal(file);
     if (!refusal.isEmpty())

@@ -117,7 +117,10 @@ private slots:
     {
         QVERIFY(!decoded(jpegOfScans(90, 8, 8)).image.isNull());
         QVERIFY(decoded(jpegOfScans(90, 16384, 16384)).reason.contains("too many parts"));
-        QVERIFY(!decoded(jpegOfScans(9, 16384, 16384)).reason.contains("too many parts"));
+        const QByteArray few = jpegOfScans(9, 16384, 16384);
+        QVERIFY(decoded(few).reason.contains("too many parts"));
+        QVERIFY(!decoded(few + QByteArray(13'000'000, '\0')).reason.contains("too many parts"));
+        QVERIFY(!decoded(jpegOfScans(4, 16384, 16384)).reason.contains("too many parts"));
     }
 
     void animationsHaveSmallerCanvases()
