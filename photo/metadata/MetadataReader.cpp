@@ -167,6 +167,7 @@ PhotoMetadata metadataByLibrary(const QByteArray& file)
 {
     try {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::enableBMFF(); // otherwise it leaves CR3 alone
         const auto image = Exiv2::ImageFactory::open(bytesOf(file), long(file.size()));
         image->readMetadata();
         QByteArray block = writtenAnew(image->exifData());

@@ -6,6 +6,7 @@
 #include "photo/metadata/MetadataReader.h"
 #include "tests/photo/PhoneSamples.h"
 #include "tests/photo/Samples.h"
+#include "tests/photo/TiffSample.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -300,6 +301,22 @@ private slots:
         if (magic != "IIRO")
             QCOMPARE(samples::loaded(m_folder, file).metadata, metadata);
 #endif
+    }
+
+    void rawPhotosInBoxesKeepWhatTheyCarry()
+    {
+        const auto box = [](const QByteArray& name, const QByteArray& data) {
+            return samples::bigEndian(quint32(8 + data.size())) + name + data;
+        };
+        const QByteArray camera = samples::tiff({samples::text(0x010F, "Prism"), samples::text(0x0110, "Model 7")}, {});
+        const QByteArray moment = samples::tiff({samples::shorts(0x8827, {800})}, {});
+        const QByteArray boxes =
+            QByteArray::fromHex("85c0b687820f11e08111f4ce462b6a48") + box("CMT1", camera) + box("CMT2", moment);
+        const QByteArray file = box("ftyp", QByteArray("crx \0\0\0\1crx isom", 16)) + box("moov", box("uuid", boxes));
+        const Image image = opened(encodeJpeg(samples::noise(30, 20), metadataByLibrary(file)));
+        for (const auto& [key, text] : {std::pair("Exif.Image.Make", "Prism"), std::pair("Exif.Image.Model", "Model 7"),
+                 std::pair("Exif.Photo.ISOSpeedRatings", "800"), std::pair("Exif.Image.Orientation", "1")})
+            QCOMPARE(key + value(image, key), key + std::string(text));
     }
 
     void notesStayWhereTheyWere()
