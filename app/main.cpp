@@ -1,35 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/Appearance.h"
+#include "app/desktop/CommandLine.h"
 #include "app/desktop/SessionEnd.h"
 #include "app/window/MainWindowController.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <algorithm>
-#include <cstring>
-#include <utility>
+#include <vector>
 
-/// lumora [--] [FILE...]
+/// lumora [OPTION...] [--] [PHOTO...]
 int main(int argc, char** argv)
 {
-    // The bytes of the names as they are: they need not be text. The first file is read while the window comes up.
-    const int first = argc > 1 && std::strcmp(argv[1], "--") == 0 ? 2 : 1;
-    const QByteArrayList files(argv + std::min(first, argc), argv + argc);
+    const CommandLine line = readCommandLine({argv + 1, argv + argc});
+    if (const std::optional<int> status = answerWithoutWindow(line))
+        return *status;
+    // The first file is read while the window comes up.
     auto reader = std::make_unique<PhotoReader>();
-    if (!files.isEmpty())
-        reader->begin(files.first());
+    if (!line.files.isEmpty())
+        reader->begin(line.files.first());
 
-    QApplication application(argc, argv);
+    QByteArrayList arguments = QByteArrayList({argv[0]}) + line.toolkit;
+    std::vector<char*> words;
+    for (QByteArray& argument : arguments)
+        words.push_back(argument.data());
+    int count = int(words.size());
+    words.push_back(nullptr);
+    QApplication application(count, words.data());
     QApplication::setOrganizationName(QStringLiteral("Dovrel"));
     QApplication::setApplicationName(QStringLiteral("Lumora"));
-    QApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QApplication::setApplicationVersion(QStringLiteral(LUMORA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("dovrel.lumora"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/dovrel.lumora.png")));
     useDarkAppearance();
 
     MainWindowController controller(std::move(reader));
     const SessionEnd sessionEnd;
-    controller.openFilesWhenShown(files);
+    controller.openFilesWhenShown(line.files);
     controller.show();
     return QApplication::exec();
 }

@@ -4,11 +4,17 @@
 #include <QMimeData>
 #include <QUrl>
 
+QByteArray localFile(const QUrl& address)
+{
+    return address.isLocalFile() ? QByteArray::fromPercentEncoding(address.path(QUrl::FullyEncoded).toLatin1())
+                                 : QByteArray();
+}
+
 QByteArrayList localFiles(const QMimeData& content)
 {
     QByteArrayList paths;
     for (const QUrl& url : content.urls())
         if (url.isLocalFile())
-            paths << QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+            paths << localFile(url);
     return paths;
 }

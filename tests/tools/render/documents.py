@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The manual page, the completion and --help name the same options: documents.py PROGRAM RESOURCES"""
+"""The manual pages, the completions and --help name the same options: documents.py LUMORA-RENDER LUMORA RESOURCES"""
 
 import pathlib
 import re
 import subprocess
 import sys
 
-program, resources = sys.argv[1], pathlib.Path(sys.argv[2])
+program, window, resources = sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3])
 faults = []
 
 
@@ -31,16 +31,17 @@ differ("--help and the manual page", short_in_help, {name for head in heads for 
 # What the shell offers, asked of bash itself.
 COMPLETE = """
 compopt() { :; }
-source "$1"; shift
+source "$1"; complete=$2; shift 2
 COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1))
-_lumora_render
+$complete
 printf '%s\\n' "${COMPREPLY[@]}"
 """
 
 
-def offered(*words):
-    script = resources / "completion" / "lumora-render"
-    run = subprocess.run(["bash", "-c", COMPLETE, "bash", script, program, *words], check=True, capture_output=True, text=True)
+def offered(*words, by=program):
+    name = pathlib.Path(by).name
+    shell = ["bash", "-c", COMPLETE, "bash", resources / "completion" / name, "_" + name.replace("-", "_")]
+    run = subprocess.run([*shell, by, *words], check=True, capture_output=True, text=True)
     if run.stderr:
         faults.append(run.stderr)
     return set(run.stdout.split("\n")) - {""}
@@ -51,6 +52,16 @@ differ("looks that begin with M", {"Magazine", "Mono"}, offered("--look", "M"))
 differ("borders", {r"By\ Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"}, offered("--border", ""))
 differ("crops", {r"By\ Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"}, offered("--crop", ""))
 differ("levels", {"all"}, offered("--metadata", "a"))
+
+# The same of the window's program.
+help_text = subprocess.run([window, "--help"], check=True, capture_output=True, text=True).stdout
+in_help_of_window = set(re.findall(r"^  (-\w), (--[a-z]+) ", help_text, re.MULTILINE))
+page = (resources / "man" / "lumora.1").read_text().replace(r"\-", "-")
+differ("lumora --help and its manual page", in_help_of_window, set(re.findall(r'^\.BR (-\w) ", " (--[a-z]+)$', page, re.MULTILINE)))
+names = {name for _, name in in_help_of_window}
+assert names == {"--help", "--version"}, help_text
+differ("lumora --help and its completion", names, offered("-", by=window))
+differ("names of files", {"lumora.1"}, {pathlib.Path(name).name for name in offered("--", f"{resources}/man/lumora.", by=window)})
 
 for page in sorted((resources / "man").iterdir()):
     run = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, text=True, env={"LC_ALL": "C.UTF-8", "PATH": "/usr/bin:/bin"})
