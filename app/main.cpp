@@ -19,7 +19,8 @@ int main(int argc, char** argv)
     if (!line.files.isEmpty())
         reader->begin(line.files.first());
 
-    QByteArrayList arguments = QByteArrayList({argv[0]}) + line.toolkit;
+    // By its name, which is a part of WM_CLASS, desktops on X11 find the program that a window belongs to.
+    QByteArrayList arguments = QByteArrayList({argv[0], "-name", LUMORA_ID}) + line.toolkit;
     std::vector<char*> words;
     for (QByteArray& argument : arguments)
         words.push_back(argument.data());
@@ -29,8 +30,8 @@ int main(int argc, char** argv)
     QApplication::setOrganizationName(QStringLiteral("Dovrel"));
     QApplication::setApplicationName(QStringLiteral("Lumora"));
     QApplication::setApplicationVersion(QStringLiteral(LUMORA_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("dovrel.lumora"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/dovrel.lumora.png")));
+    QApplication::setDesktopFileName(QStringLiteral(LUMORA_ID));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/" LUMORA_ID ".png")));
     useDarkAppearance();
 
     MainWindowController controller(std::move(reader));

@@ -10,7 +10,7 @@ import re
 import subprocess
 import sys
 
-from desk import key, wait_for
+from desk import key, wait_for, xdotool
 from lumora import Lumora
 
 build, photo = sys.argv[1:3]
@@ -31,15 +31,15 @@ for library in ("libqt6widgets6", "libqt6gui6", "libexiv2", "libc6") + (("libsec
 
 share = os.path.join(root, "usr", "share")
 help_document = os.path.join(share, "lumora", "help.pdf")
-for path in ("applications/dovrel.lumora.desktop", "metainfo/dovrel.lumora.metainfo.xml", "lumora/help.pdf",
-             "icons/hicolor/scalable/apps/dovrel.lumora.svg", "icons/hicolor/48x48/apps/dovrel.lumora.png",
+for path in ("applications/com.dovrel.Lumora.desktop", "metainfo/com.dovrel.Lumora.metainfo.xml", "lumora/help.pdf",
+             "icons/hicolor/scalable/apps/com.dovrel.Lumora.svg", "icons/hicolor/48x48/apps/com.dovrel.Lumora.png",
              "man/man1/lumora.1.gz", "man/man1/lumora-render.1.gz", "bash-completion/completions/lumora-render",
-             "icons/hicolor/128x128/apps/dovrel.lumora.png", "icons/hicolor/256x256/apps/dovrel.lumora.png"):
+             "icons/hicolor/128x128/apps/com.dovrel.Lumora.png", "icons/hicolor/256x256/apps/com.dovrel.Lumora.png"):
     assert os.path.getsize(os.path.join(share, path)) > 0, path
 
 # What the desktop's menu entry starts and shows is in the package.
 entry = configparser.ConfigParser(interpolation=None)
-entry.read(os.path.join(share, "applications", "dovrel.lumora.desktop"))
+entry.read(os.path.join(share, "applications", "com.dovrel.Lumora.desktop"))
 program, *arguments = entry["Desktop Entry"]["Exec"].split()
 assert os.access(os.path.join(root, "usr", "bin", program), os.X_OK), program
 assert arguments == ["%F"], arguments
@@ -79,6 +79,9 @@ os.environ["PATH"] = os.path.dirname(viewer) + ":" + os.environ["PATH"]
 
 with Lumora(build, photo, program=os.path.join(root, "usr", "bin", program)) as lumora:
     lumora.wait_for_title("Lumora - " + os.path.basename(photo))
+    # The desktop finds the window's entry by a name of the window's.
+    named = xdotool("search", "--onlyvisible", "--classname", f"^{re.escape(entry['Desktop Entry']['StartupWMClass'])}$")
+    assert named and xdotool("getwindowpid", named.split()[0]) == str(lumora.process.pid), named
     with open(f"/proc/{lumora.process.pid}/maps") as maps:
         assert engine is None or os.path.realpath(engine) in maps.read(), engine
     # The photo was read by the package's own reader, and the next one waits.
