@@ -8,6 +8,7 @@
 #include "photo/JpegMarkers.h"
 #include "photo/OnWhite.h"
 #include "photo/Orientation.h"
+#include "photo/formats/BmpEnd.h"
 #include "photo/formats/GifEnd.h"
 #include "photo/formats/InkTiff.h"
 #include "photo/formats/OwnFormats.h"
@@ -110,7 +111,7 @@ Decoded decodeByPlatform(QIODevice& file, const Room& room)
         return refused(isUnsupportedKind(file) ? QStringLiteral("The picture is of a kind that is not supported.")
                                                : QStringLiteral("The picture is damaged and cannot be read."));
     decoded.isUpright = reader.transformation() != QImageIOHandler::TransformationNone;
-    decoded.restIsMissing = format == "gif" && gifBreaksOff(file);
+    decoded.restIsMissing = (format == "gif" && gifBreaksOff(file)) || (format == "bmp" && bmpBreaksOff(file));
     return decoded;
 }
 
