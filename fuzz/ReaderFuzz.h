@@ -27,4 +27,5 @@ void readAnyBytes(const std::uint8_t* data, std::size_t size, qint64 maxPixels =
     QImage image;
     if (handler.read(&image) && image.size() != told)
         __builtin_trap();
+    handler.metadata(); // also of a picture that cannot be read
 }
