@@ -139,10 +139,10 @@ private:
     {
         for (const QString& value : m_parser.values(look)) {
             const int filter = CharImage::getFilterFromName(named(look, value, lookNames()).toUtf8().constData());
-            if (std::ranges::count(m_command.order.looks, filter) > 0)
+            if (m_command.order.looks.find(filter) >= 0)
                 refuse(QStringLiteral("--look %1: a stack has each look once.").arg(value));
             else if (filter != Filter::original)
-                m_command.order.looks.push_back(filter);
+                m_command.order.looks.add(filter);
         }
     }
 
@@ -150,12 +150,9 @@ private:
     {
         Order& order = m_command.order;
         readLooks();
-        GrowArray<int> looks;
-        for (const int filter : order.looks)
-            looks.add(filter);
         order.strength = int(number(strength, 0, CharImage::wholeStrength));
-        order.crop = chosenFilter(named(crop, m_parser.value(crop), cropChoices()), looks);
-        order.border = chosenFilter(named(border, m_parser.value(border), borderChoices()), looks);
+        order.crop = chosenFilter(named(crop, m_parser.value(crop), cropChoices()), order.looks);
+        order.border = chosenFilter(named(border, m_parser.value(border), borderChoices()), order.looks);
         if (m_parser.value(size).compare(QLatin1String("Original"), Qt::CaseInsensitive) != 0)
             order.size = int(number(size, 1, longestSide));
         if (m_parser.isSet(random))

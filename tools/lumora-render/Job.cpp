@@ -72,12 +72,9 @@ QByteArray encodePng(const QImage& picture)
 /// A null picture and a reason where there is no memory for it.
 QImage renderInSize(const LoadedPhoto& photo, const Order& order, QString* reason)
 {
-    lumora::GrowArray<int> looks;
-    for (const int look : order.looks)
-        looks.add(look);
     order.seed ? varyBy(*order.seed) : useFixedSettings();
     RenderSettings settings;
-    settings.filterIDs = &looks;
+    settings.filterIDs = &order.looks;
     settings.cropFilter = order.crop;
     settings.borderFilter = order.border;
     settings.strength = order.strength;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/GrowArray.h"
 #include "image/CharImage.h"
 #include "image/FilterNumber.h"
 #include "photo/PhotoSaver.h"
@@ -10,11 +11,10 @@
 #include <optional>
 #include <set>
 #include <sys/types.h>
-#include <vector>
 
 /// What is made of every photo.
 struct Order {
-    std::vector<int> looks; ///< filter numbers in the order of application
+    lumora::GrowArray<int> looks; ///< filter numbers in the order of application
     int strength = lumora::CharImage::wholeStrength; ///< of the looks together, in per cent
     int crop = lumora::Filter::original, border = lumora::Filter::original; ///< filter numbers
     int size = -1; ///< the longer side in pixels; -1: the picture's own

@@ -38,9 +38,7 @@ Plan planFor(const Command& command)
         plan.fault = "--output " + escaped(command.output) + ": there is no such folder.";
     else if (command.output == "-" && isatty(STDOUT_FILENO) != 0)
         plan.fault = "A terminal shows no pictures: name an --output.";
-    lumora::GrowArray<int> looks;
-    for (const int look : command.order.looks)
-        looks.add(look);
+    const Order& order = command.order;
     std::set<QByteArray> outputs;
     for (const QByteArray& photo : command.photos) {
         Task task = {photo, command.output, {}};
@@ -48,7 +46,7 @@ Plan planFor(const Command& command)
             plan.fault = "The photo of the standard input has no name: name a file as the --output.";
         if (folder)
             task.output = *folder
-                + exportName(photo.mid(photo.lastIndexOf('/') + 1), looks, command.order.lossless ? ".png" : ".jpg");
+                + exportName(photo.mid(photo.lastIndexOf('/') + 1), order.looks, order.lossless ? ".png" : ".jpg");
         if (!outputs.insert(task.output).second)
             task.refusal = QStringLiteral("Another photo of this run has the same output.");
         else if (const auto number = fileNumber(photo))

@@ -4,6 +4,7 @@
 #include "tools/lumora-render/Job.h"
 
 #include <functional>
+#include <vector>
 
 /// How a task ended.
 struct Result {
