@@ -38,6 +38,16 @@ QString jpegRefusal(const QSize& picture)
         .arg(picture.height());
 }
 
+QStringList keptNames()
+{
+    return {"all", "no-place", "none"};
+}
+
+QStringList qualityNames()
+{
+    return {"standard", "high", "best"};
+}
+
 QByteArray exportName(const QByteArray& photo, const GrowArray<int>& looks, const QByteArray& ending)
 {
     const qsizetype dot = photo.lastIndexOf('.');

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QImage>
 #include <QSizeF>
-#include <QString>
+#include <QStringList>
 
 // From a render to its file: what the window and `lumora-render` share.
 
@@ -20,6 +20,10 @@ QSizeF scaleForExport(QImage& render, int maxSide);
 
 /// What people are told where encodeJpeg could not encode a picture of that size.
 QString jpegRefusal(const QSize& picture);
+
+/// The names that the levels of Kept and of JpegQuality have in the arguments of `lumora-render`, in their order.
+QStringList keptNames();
+QStringList qualityNames();
 
 /// The name that is proposed for a photo (its file's name without folders, any bytes) under looks: without its ending,
 /// then the names of the looks, then `ending`, as in "over Helga Mono.jpg". "over.jpg" without a look.

@@ -2,6 +2,7 @@
 #include "app/state/ManyPhotos.h"
 
 #include "image/CharImage.h"
+#include "render/Export.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,16 +11,14 @@ using namespace lumora;
 
 QStringList renderArguments(const ManyChoices& choices, const QString& folder, int jobs)
 {
-    constexpr const char* kept[] = {"all", "no-place", "none"}; // in the order of Kept
-    constexpr const char* qualities[] = {"standard", "high", "best"}; // in that of JpegQuality
     QStringList arguments;
     for (int i = 0; i < choices.looks.numThings; i++)
         arguments << "--look" << CharImage::getFilterName(choices.looks.theArray[i]);
     if (choices.variation)
         arguments << "--random" << QString::number(*choices.variation);
     arguments << "--strength" << QString::number(choices.strength) << "--crop" << choices.crop << "--border"
-              << choices.border << "--size" << choices.size << "--metadata" << kept[int(choices.kept)] << "--quality"
-              << qualities[int(choices.quality)];
+              << choices.border << "--size" << choices.size << "--metadata" << keptNames()[int(choices.kept)]
+              << "--quality" << qualityNames()[int(choices.quality)];
     arguments << "--jobs" << QString::number(jobs) << "--output" << folder + u'/';
     return arguments << "--skip-existing"
                      << "--json"

@@ -3,6 +3,7 @@
 
 #include "image/CharImage.h"
 #include "photo/EscapedText.h"
+#include "render/Export.h"
 #include "render/FramingChoice.h"
 
 #include <QCommandLineParser>
@@ -157,8 +158,8 @@ private:
             order.size = int(number(size, 1, longestSide));
         if (m_parser.isSet(random))
             order.seed = unsigned(number(random, 0, 0xffffffff));
-        order.kept = Kept(level(metadata, {"all", "no-place", "none"}));
-        order.quality = JpegQuality(level(quality, {"standard", "high", "best"}));
+        order.kept = Kept(level(metadata, keptNames()));
+        order.quality = JpegQuality(level(quality, qualityNames()));
         order.lossless = m_parser.isSet(png);
         order.mayReplace = m_parser.isSet(replace);
     }
