@@ -165,7 +165,7 @@ void SaveManyPanel::choosePhotos(Asked asked)
         m_photos = photosIn(QFile::encodeName(chosen.first()));
     else
         for (const QString& photo : chosen)
-            m_photos.push_back(QFile::encodeName(photo));
+            m_photos << QFile::encodeName(photo);
     showPhotos();
 }
 

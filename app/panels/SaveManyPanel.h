@@ -8,7 +8,6 @@
 #include <QProcess>
 #include <QTimer>
 #include <functional>
-#include <vector>
 
 class QLabel;
 class QListWidget;
@@ -50,7 +49,7 @@ private:
 
     const ManyChoices m_choices;
     const Ask m_ask;
-    std::vector<QByteArray> m_photos; ///< their paths
+    QByteArrayList m_photos; ///< their paths
     QString m_folder;
     ManyPhotos m_run;
     QElapsedTimer m_clock; ///< since the run began

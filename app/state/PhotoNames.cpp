@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/PhotoNames.h"
 
+#include "app/state/FolderFiles.h"
+
 #include <QStringList>
 #include <algorithm>
-#include <filesystem>
 
 QStringList photoEndings()
 {
@@ -13,19 +14,16 @@ QStringList photoEndings()
         .split(u' ');
 }
 
-std::vector<QByteArray> photosIn(const QByteArray& folder)
+QByteArrayList photosIn(const QByteArray& folder)
 {
     const QStringList endings = photoEndings();
-    std::vector<QByteArray> photos;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder.toStdString(), error), end; !error && entry != end;
-         entry.increment(error)) {
-        std::error_code unknown; // a link that leads nowhere is no file
-        const QByteArray path = QByteArray::fromStdString(entry->path().native());
-        const qsizetype dot = path.lastIndexOf('.');
-        if (entry->is_regular_file(unknown) && endings.contains(QString::fromLatin1(path.mid(dot + 1).toLower())))
-            photos.push_back(path);
-    }
-    std::ranges::sort(photos);
+    QByteArrayList photos = filesIn(folder);
+    photos.removeIf([&](const QByteArray& name) {
+        const qsizetype dot = name.lastIndexOf('.');
+        return dot < 0 || !endings.contains(QString::fromLatin1(name.mid(dot + 1).toLower()));
+    });
+    std::sort(photos.begin(), photos.end(), NaturalOrder());
+    for (QByteArray& photo : photos)
+        photo.prepend(folder + '/');
     return photos;
 }

@@ -1,51 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/PhotoWalk.h"
 
+#include "app/state/FolderFiles.h"
 #include "app/state/Rules.h"
 
-#include <QCollator>
-#include <QLocale>
 #include <algorithm>
-#include <filesystem>
-
-namespace {
-
-/// Of the names of files as people read them; names that read the same are told apart by their bytes.
-class NaturalOrder {
-public:
-    NaturalOrder()
-        : m_collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale()) // C knows no numbers
-    {
-        m_collator.setNumericMode(true);
-        m_collator.setCaseSensitivity(Qt::CaseInsensitive);
-    }
-
-    bool operator()(const QByteArray& a, const QByteArray& b) const
-    {
-        const int order = m_collator.compare(QString::fromUtf8(a), QString::fromUtf8(b));
-        return order != 0 ? order < 0 : a < b;
-    }
-
-private:
-    QCollator m_collator;
-};
-
-/// The names of the regular files in a folder, which is empty or ends with a slash.
-QByteArrayList namesIn(const QByteArray& folder)
-{
-    QByteArrayList names;
-    std::error_code error;
-    const std::filesystem::path place = folder.isEmpty() ? "." : folder.toStdString();
-    for (std::filesystem::directory_iterator entry(place, error), end; !error && entry != end; entry.increment(error)) {
-        const std::string name = entry->path().filename().native();
-        std::error_code unknown;
-        if (name.front() != '.' && entry->is_regular_file(unknown))
-            names << QByteArray::fromStdString(name);
-    }
-    return names;
-}
-
-} // namespace
 
 void PhotoWalk::setFiles(const QByteArrayList& files)
 {
@@ -67,7 +26,7 @@ QByteArrayList PhotoWalk::from(const QByteArray& path, Direction direction) cons
         const QByteArray name = fileNameOf(path), folder = path.chopped(name.size());
         const NaturalOrder inOrder;
         before.clear();
-        for (const QByteArray& other : path.isEmpty() ? QByteArrayList() : namesIn(folder))
+        for (const QByteArray& other : path.isEmpty() ? QByteArrayList() : filesIn(folder))
             if (other != name)
                 (inOrder(other, name) ? before : after) << other;
         for (QByteArrayList* names : {&before, &after}) {
