@@ -21,3 +21,8 @@ int ChoiceMenu::chosen() const
     const QList<QAction*> entries = actions();
     return int(std::ranges::find_if(entries, &QAction::isChecked) - entries.begin());
 }
+
+QString ChoiceMenu::chosenText() const
+{
+    return actions()[chosen()]->iconText(); // the text without its mark of a key
+}

@@ -15,4 +15,5 @@ public:
     ChoiceMenu(const QString& title, const lumora::GrowString& key, const QStringList& entries, QWidget* parent);
 
     int chosen() const; ///< its place, counted from 0
+    QString chosenText() const; ///< as people read it
 };

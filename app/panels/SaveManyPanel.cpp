@@ -15,8 +15,8 @@
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QThread>
 #include <algorithm>
+#include <unistd.h>
 
 namespace {
 
@@ -39,7 +39,7 @@ QString renderProgram()
 /// As many as there are processors, and as the memory has room for large photos.
 int jobsAtOnce()
 {
-    return int(std::clamp<qint64>(freeMemory() / memoryOfJob, 1, std::max(QThread::idealThreadCount(), 1)));
+    return int(std::clamp<qint64>(freeMemory() / memoryOfJob, 1, std::max(sysconf(_SC_NPROCESSORS_ONLN), 1L)));
 }
 
 QLabel* plainLabel(const QString& text = {})
@@ -67,7 +67,7 @@ QString timeText(qint64 milliseconds)
 
 } // namespace
 
-SaveManyPanel::SaveManyPanel(QWidget* parent, const ManyChoices& choices, const QString& looks, Ask ask)
+SaveManyPanel::SaveManyPanel(QWidget* parent, const ManyChoices& choices, const QString& words, Ask ask)
     : QDialog(parent)
     , m_choices(choices)
     , m_ask(std::move(ask))
@@ -102,8 +102,8 @@ SaveManyPanel::SaveManyPanel(QWidget* parent, const ManyChoices& choices, const 
     rows->addWidget(m_photosText, 0, 1);
     rows->addWidget(m_photosButton, 0, 2);
     rows->addWidget(m_folderOfPhotosButton, 0, 3);
-    rows->addWidget(new QLabel(tr("Looks")), 1, 0);
-    rows->addWidget(plainLabel(looks), 1, 1, 1, 3);
+    rows->addWidget(new QLabel(tr("Choices")), 1, 0);
+    rows->addWidget(plainLabel(words), 1, 1, 1, 3);
     rows->addWidget(new QLabel(tr("Into")), 2, 0);
     rows->addWidget(m_folderText, 2, 1, 1, 2);
     rows->addWidget(m_folderButton, 2, 3);
@@ -190,6 +190,12 @@ void SaveManyPanel::showPhotos()
     m_start->setEnabled(count > 0 && !m_folder.isEmpty());
 }
 
+void SaveManyPanel::letChoose(bool may)
+{
+    for (QPushButton* button : {m_photosButton, m_folderOfPhotosButton, m_folderButton, m_start})
+        button->setEnabled(may);
+}
+
 void SaveManyPanel::start()
 {
     m_run = ManyPhotos(int(m_photos.size()));
@@ -198,8 +204,7 @@ void SaveManyPanel::start()
     m_remarks->hide();
     m_bar->setRange(0, m_run.count());
     m_clock.start();
-    for (QPushButton* button : {m_photosButton, m_folderOfPhotosButton, m_folderButton, m_start})
-        button->setEnabled(false);
+    letChoose(false);
     m_close->setText(tr("Cancel"));
     m_close->setFocus();
     m_process.start(renderProgram(), renderArguments(m_choices, m_folder, jobsAtOnce()));
@@ -255,8 +260,7 @@ void SaveManyPanel::showEnd()
         lines << tr("Not saved: %1").arg(QLocale().toString(m_run.failed()));
     m_countText->setText(lines.join(u'\n'));
     m_leftText->clear();
-    for (QPushButton* button : {m_photosButton, m_folderOfPhotosButton, m_folderButton, m_start})
-        button->setEnabled(true);
+    letChoose(true);
     m_close->setEnabled(true);
     m_close->setText(tr("Close"));
     m_close->setFocus();

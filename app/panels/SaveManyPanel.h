@@ -26,8 +26,8 @@ public:
     /// Asks for them; empty where nothing is chosen.
     using Ask = std::function<QStringList(QWidget& parent, Asked asked)>;
 
-    /// `looks` names those of the choices for people.
-    SaveManyPanel(QWidget* parent, const ManyChoices& choices, const QString& looks, Ask ask);
+    /// `words` tells people the choices in a line.
+    SaveManyPanel(QWidget* parent, const ManyChoices& choices, const QString& words, Ask ask);
     /// Ends what is going on; what is written stays.
     ~SaveManyPanel() override;
 
@@ -43,6 +43,7 @@ private:
     void chooseFolder();
     void start();
     void showPhotos();
+    void letChoose(bool may);
     void showProgress();
     void showNewest();
     void showEnd();

@@ -6,6 +6,7 @@
 #include "app/state/PhotoNames.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
+#include "render/FramingChoice.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
@@ -113,8 +114,8 @@ void MainWindowController::saveManyPhotos()
         return;
     const RenderSettings settings = renderSettings();
     const bool isVaried = m_ui->chkRandomness->isChecked();
-    const ManyChoices choices = {filterIDs, settings.strength, m_ui->btnCropping->currentText(),
-        m_ui->btnBorders->currentText(), m_ui->btnImgSize->currentText(),
+    const ManyChoices choices = {filterIDs, settings.strength, cropChoices()[m_ui->btnCropping->currentIndex()],
+        borderChoices()[m_ui->btnBorders->currentIndex()], sizeChoices()[m_ui->btnImgSize->currentIndex()],
         isVaried ? std::optional(m_variation) : std::nullopt, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen())};
     const auto ask = [this](QWidget& parent, SaveManyPanel::Asked asked) {
         using Asked = SaveManyPanel::Asked;
@@ -130,7 +131,11 @@ void MainWindowController::saveManyPhotos()
         parent.activateWindow();
         return chosen;
     };
-    SaveManyPanel panel(this, choices, breadcrumb(filterIDs, false), ask);
+    const QString words =
+        tr("%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6")
+            .arg(breadcrumb(filterIDs, false), QString::number(choices.strength), m_ui->btnCropping->currentText(),
+                m_ui->btnBorders->currentText(), m_ui->btnImgSize->currentText(), m_quality->chosenText());
+    SaveManyPanel panel(this, choices, words, ask);
     const WorkWaits waits(m_work);
     panel.exec();
     activateWindow();

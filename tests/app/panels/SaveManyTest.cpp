@@ -10,6 +10,8 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSlider>
+#include <functional>
 #include <memory>
 
 using namespace lumora;
@@ -79,6 +81,53 @@ class SaveManyTest : public QObject {
             const QByteArray jpeg = contentsOf(QFile::encodeName(out() + '/' + output));
             QVERIFY2(jpeg.startsWith("\xff\xd8") && jpeg.endsWith("\xff\xd9"), qPrintable(output));
         }
+    }
+
+    static QAction& action(Desk& desk, const QString& text)
+    {
+        for (QAction* found : desk.window.findChildren<QAction*>())
+            if (found->text() == text)
+                return *found;
+        qFatal("there is no %s", qPrintable(text));
+    }
+
+    /// Has a window save a photo under Lolo and what is chosen: by itself, and as one of many. Gives the file, which
+    /// has that name and is the same either way.
+    QByteArray savedByTheWindow(const std::function<void(Desk&)>& choose, const QString& words, const QString& name)
+    {
+        setPreferences({});
+        QDir(out()).removeRecursively();
+        QDir().mkpath(out());
+        Desk desk(makePhoto(90, 60));
+        desk.window.pressFilterButton(Filter::lolo);
+        choose(desk);
+        printedBy([&] { desk.saveAs(desk.folder.filePath("one.jpg")); });
+
+        bool done = false, told = false;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, [&] {
+            auto* many = qobject_cast<SaveManyPanel*>(QApplication::activeModalWidget());
+            if (!many)
+                return;
+            watch.stop();
+            const auto answer = [&](const QString& text, const QString& path) {
+                desk.withPanel([&](QFileDialog& files) { typeName(files, path); }, [&] { press(*many, text); });
+            };
+            told = this->words(*many).contains(words);
+            answer("Choose Photos…", desk.folder.filePath("photo.png"));
+            answer("Save Into…", out());
+            press(*many, "Save Them");
+            done = hasEnded(*many);
+            press(*many, "Close");
+        });
+        watch.start(0);
+        action(desk, "Save &Many…").trigger();
+        if (!done || !told || outputs() != QStringList(name))
+            qFatal("it saves %s and tells other words than %s", qPrintable(outputs().join('|')), qPrintable(words));
+        const QByteArray file = contentsOf(QFile::encodeName(out() + '/' + name));
+        if (file.isEmpty() || file != contentsOf(QFile::encodeName(desk.folder.filePath("one.jpg"))))
+            qFatal("the files differ: %s", qPrintable(words));
+        return file;
     }
 
 private slots:
@@ -197,42 +246,37 @@ private slots:
         QVERIFY(button(*many, "Save Them").isEnabled());
     }
 
-    /// By the choices that are on, and to the byte as it saves the one photo.
-    void theWindowSavesThemAsItSavesOne()
+    /// To the byte as it saves the one photo, and told in words.
+    void eachChoiceThatIsOnReachesTheFiles()
     {
-        Desk desk(makePhoto(90, 60));
-        desk.window.pressFilterButton(Filter::lolo);
-        desk.click("chkRandomness");
-        desk.click("btnReExpose");
-        desk.choose("btnImgSize", "100");
-        desk.choose("btnCropping", "4x3");
-        printedBy([&] { desk.saveAs(desk.folder.filePath("one.jpg")); });
-
-        bool done = false;
-        QTimer watch;
-        connect(&watch, &QTimer::timeout, [&] {
-            auto* many = qobject_cast<SaveManyPanel*>(QApplication::activeModalWidget());
-            if (!many)
-                return;
-            watch.stop();
-            const auto answer = [&](const QString& text, const QString& path) {
-                desk.withPanel([&](QFileDialog& files) { typeName(files, path); }, [&] { press(*many, text); });
-            };
-            answer("Choose Photos…", desk.folder.filePath("photo.png"));
-            answer("Save Into…", out());
-            press(*many, "Save Them");
-            done = hasEnded(*many);
-            press(*many, "Close");
-        });
-        watch.start(0);
-        for (QAction* action : desk.window.findChildren<QAction*>())
-            if (action->text() == "Save &Many…")
-                action->trigger();
-        QVERIFY(done);
-        QCOMPARE(outputs(), QStringList("photo Lolo.jpg"));
-        const QByteArray one = contentsOf(QFile::encodeName(desk.folder.filePath("one.jpg")));
-        QVERIFY(one.size() > 500);
-        QVERIFY(contentsOf(QFile::encodeName(out() + "/photo Lolo.jpg")) == one);
+        const QString plain = "Lolo · Strength: 100 % · Crop: By Filter · Border: By Filter · Size: Original · "
+                              "Quality: Standard";
+        const QByteArray plainFile = savedByTheWindow([](Desk&) {}, plain, "photo Lolo.jpg");
+        const struct {
+            std::function<void(Desk&)> choose;
+            const char *before, *after; ///< the word that changes
+            const char* name = "photo Lolo.jpg";
+        } choices[] = {
+            {[](Desk& desk) {
+                 desk.click("chkMultiFilter");
+                 desk.window.pressFilterButton(Filter::mono);
+             },
+                "Lolo", "Lolo > Mono", "photo Lolo Mono.jpg"},
+            {[](Desk& desk) { desk.find<QSlider>("sldStrength")->setValue(40); }, "100 %", "40 %"},
+            {[](Desk& desk) { desk.choose("btnCropping", "4x3"); }, "Crop: By Filter", "Crop: 4x3"},
+            {[](Desk& desk) { desk.choose("btnBorders", "Rounded"); }, "Border: By Filter", "Border: Rounded"},
+            {[](Desk& desk) { desk.choose("btnImgSize", "100"); }, "Original", "100"},
+            {[](Desk& desk) { action(desk, "&Best").trigger(); }, "Standard", "Best"},
+            {[](Desk& desk) {
+                 desk.click("chkRandomness");
+                 desk.click("btnReExpose");
+             },
+                "", ""},
+        };
+        for (const auto& choice : choices) {
+            const QString words = *choice.before ? QString(plain).replace(choice.before, choice.after) : plain;
+            QVERIFY2(savedByTheWindow(choice.choose, words, choice.name) != plainFile, qPrintable(words));
+        }
     }
 };
 
