@@ -38,7 +38,8 @@ void drawIntoBlock(const QImage& image, unsigned char* block, int outWidth, int 
 /// set to 255, as the format asks.
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height);
 
-/// The same where the spare bytes are 255 already: those of getRGBACharImageArray are, and looks leave them alone.
+/// The same where the spare bytes are 255 already: those of getRGBACharImageArray are, and looks and borders leave them
+/// alone.
 QImage opaqueImage(unsigned char* pixels, int width, int height);
 
 /// A picture of `image`, which is not changed and may be deleted afterwards.

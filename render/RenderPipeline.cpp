@@ -121,18 +121,23 @@ void applyLooks(CharImage& image, const RenderSettings& settings, const RenderPr
             applyStep(image, settings.filterIDs->theArray[i], progress);
 }
 
-/// Makes the picture larger by the margins, which are white, within its block. A new one would be fresh memory, which
-/// costs more than to move the rows.
+/// Makes the picture larger by the margins, which are opaque white, within its block. A new one would be fresh memory,
+/// which costs more than to move the rows.
 void addMargins(CharImage& image, const Frame& frame)
 {
-    const std::size_t row = std::size_t(image.width) * 4, framedRow = row + std::size_t(frame.left + frame.right) * 4;
-    for (int y = image.height - 1; y >= 0; y--)
-        std::memmove(image.data + std::size_t(y + frame.top) * framedRow + std::size_t(frame.left) * 4,
-            image.data + std::size_t(y) * row, row);
+    const std::size_t left = std::size_t(frame.left) * 4, right = std::size_t(frame.right) * 4;
+    const std::size_t row = std::size_t(image.width) * 4, framedRow = left + row + right;
+    const auto whiten = [](unsigned char* pixels, std::size_t size) { std::memset(pixels, 255, size); };
+    whiten(image.data + std::size_t(frame.top + image.height) * framedRow, std::size_t(frame.bottom) * framedRow);
+    for (int y = image.height - 1; y >= 0; y--) {
+        unsigned char* const framed = image.data + std::size_t(frame.top + y) * framedRow;
+        std::memmove(framed + left, image.data + std::size_t(y) * row, row);
+        whiten(framed, left);
+        whiten(framed + left + row, right);
+    }
+    whiten(image.data, std::size_t(frame.top) * framedRow);
     image.width += frame.left + frame.right;
     image.height += frame.top + frame.bottom;
-    constexpr unsigned char white[] = {255, 255, 255};
-    image.fillBorder(frame.left, frame.right, frame.top, frame.bottom, white);
 }
 
 void addFrame(CharImage& image, const Frame& frame, int borderFilter)
@@ -143,11 +148,9 @@ void addFrame(CharImage& image, const Frame& frame, int borderFilter)
 }
 
 /// Takes the block of the image along.
-QImage pictureOf(CharImage& image, const Frame& frame, const QColorSpace& space)
+QImage pictureOf(CharImage& image, const QColorSpace& space)
 {
-    // Only margins have spare bytes that nobody has set.
-    const auto wrapped = frame.hasMargins() ? getImageRefFromRGBACharArray : opaqueImage;
-    QImage picture = wrapped(std::exchange(image.data, nullptr), image.width, image.height);
+    QImage picture = opaqueImage(std::exchange(image.data, nullptr), image.width, image.height);
     picture.setColorSpace(space);
     return picture;
 }
@@ -171,7 +174,7 @@ QImage render(const QImage& source, const RenderSettings& settings, const Frame&
         report(progress, "Border");
         addFrame(*image, frame, settings.borderFilter);
     }
-    return pictureOf(*image, frame, source.colorSpace());
+    return pictureOf(*image, source.colorSpace());
 }
 
 } // namespace
@@ -233,7 +236,7 @@ QImage RenderedLooks::withStrength(int strength) const
         const auto image = copyOf(*m->after, m->frame);
         image->mixIn(*m->before, strength);
         addFrame(*image, m->frame, m->borderFilter);
-        return pictureOf(*image, m->frame, m->space);
+        return pictureOf(*image, m->space);
     } catch (const std::bad_alloc&) {
         return {};
     }
