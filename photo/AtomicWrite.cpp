@@ -133,7 +133,7 @@ int roomFor(qint64 bytes, const std::string& folder)
 }
 
 /// Writes the file; the error number when it could not be done, 0 otherwise.
-int write(const std::string& target, const QByteArray& data)
+int write(const std::string& target, const QByteArray& data, Leftovers leftovers)
 {
     const std::string folder = folderOf(target);
     const Standing standing(target);
@@ -141,7 +141,8 @@ int write(const std::string& target, const QByteArray& data)
         return standing.error;
     const struct stat* const replaced = standing.exists ? &standing.status : nullptr;
     const SizeLimitFails sizeLimitFails;
-    removeLeftovers(folder);
+    if (leftovers == Leftovers::Remove)
+        removeLeftovers(folder);
     // Whatever keeps a file without a name from being made or named, one with a hidden name may do.
     int error = replace(target, replaced, data, UnfinishedFile::Unnamed);
     if (error != 0)
@@ -160,13 +161,14 @@ int makeNew(const std::string& target, const QByteArray& data, UnfinishedFile::K
 }
 
 /// Writes a file where none stands; the error number when it could not be done, 0 otherwise.
-int writeNew(const std::string& target, const QByteArray& data)
+int writeNew(const std::string& target, const QByteArray& data, Leftovers leftovers)
 {
     const std::string folder = folderOf(target);
     const SizeLimitFails sizeLimitFails;
     int error = makeNew(target, data, UnfinishedFile::Unnamed);
     if (error != 0 && error != EEXIST) {
-        removeLeftovers(folder);
+        if (leftovers == Leftovers::Remove)
+            removeLeftovers(folder);
         error = makeNew(target, data, UnfinishedFile::Hidden);
     }
     if (error == 0)
@@ -176,17 +178,17 @@ int writeNew(const std::string& target, const QByteArray& data)
 
 } // namespace
 
-bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason)
+bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason, Leftovers leftovers)
 {
-    const int error = write(linkTarget(path.toStdString()), data);
+    const int error = write(linkTarget(path.toStdString()), data, leftovers);
     if (error != 0)
         *reason = failure(error);
     return error == 0;
 }
 
-bool writeNewFile(const QByteArray& path, const QByteArray& data, QString* reason)
+bool writeNewFile(const QByteArray& path, const QByteArray& data, QString* reason, Leftovers leftovers)
 {
-    const int error = writeNew(path.toStdString(), data);
+    const int error = writeNew(path.toStdString(), data, leftovers);
     if (error != 0)
         *reason = failure(error);
     return error == 0;

@@ -20,15 +20,21 @@ enum class JpegQuality {
 QByteArray encodeJpeg(const QImage& image, const PhotoMetadata& metadata, Kept kept = Kept::Everything,
     JpegQuality quality = JpegQuality::Standard);
 
+/// Whether a save looks for what killed ones have left behind. It lists the whole folder: who writes many files into
+/// one calls removeLeftovers once.
+enum class Leftovers { Remove, Leave };
+
 /// Writes `data` to `path` (any bytes) so that a file that stands there is replaced whole or left as it was, whatever
 /// fails. A replaced file's owner, permissions, access control list and `user.*` attributes stay, or its rights become
 /// narrower; through a symbolic link its target is written. False and a `reason` for people when it could not be
 /// written. Only a killed process can leave a hidden ".lumora-" file in the folder, which the next save there removes.
-bool writeFileAtomically(const QByteArray& path, const QByteArray& data, QString* reason);
+bool writeFileAtomically(
+    const QByteArray& path, const QByteArray& data, QString* reason, Leftovers leftovers = Leftovers::Remove);
 
 /// The same for a file that is not there yet: one that stands there by the time that the data is complete is left as it
 /// is, and so is a link that leads nowhere.
-bool writeNewFile(const QByteArray& path, const QByteArray& data, QString* reason);
+bool writeNewFile(
+    const QByteArray& path, const QByteArray& data, QString* reason, Leftovers leftovers = Leftovers::Remove);
 
 /// Whether `writeFileAtomically` is likely to write so many bytes to `path`: whether what stands there may be replaced,
 /// a file be made in its folder, and the disk has room. False and a `reason` otherwise. Nothing is changed.

@@ -95,7 +95,7 @@ QString write(
     // Whatever stands there may have come since the photo was begun.
     QString reason = outputRefusal(output, photos, mayReplace);
     if (reason.isEmpty())
-        mayReplace ? writeFileAtomically(output, data, &reason) : writeNewFile(output, data, &reason);
+        (mayReplace ? writeFileAtomically : writeNewFile)(output, data, &reason, Leftovers::Leave); // main() did that
     return reason;
 }
 

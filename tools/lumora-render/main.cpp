@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo/UnfinishedFile.h"
 #include "tools/lumora-render/Plan.h"
 #include "tools/lumora-render/Report.h"
 #include "tools/lumora-render/Runner.h"
@@ -29,6 +30,15 @@ int refuse(const QByteArray& fault)
     return wrongArguments;
 }
 
+/// Once for all outputs, which go to one folder.
+void removeLeftoversOfRuns(const std::vector<Task>& tasks)
+{
+    if (tasks.empty() || tasks.front().output == "-")
+        return;
+    const QByteArray& output = tasks.front().output;
+    removeLeftovers(output.left(output.lastIndexOf('/') + 1).toStdString());
+}
+
 int render(const Command& command)
 {
     Plan plan = planFor(command);
@@ -36,6 +46,7 @@ int render(const Command& command)
         return refuse(plan.fault);
     const int standardOutput = keptStandardOutput();
     Report report(command.json ? standardOutput : -1);
+    removeLeftoversOfRuns(plan.tasks);
     std::vector<Task> tasks;
     std::vector<std::size_t> numbers; // of the tasks that are left, among all
     for (std::size_t i = 0; i < plan.tasks.size(); i++) {

@@ -12,6 +12,7 @@
 #include <csignal>
 #include <memory>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace lumora;
@@ -279,6 +280,19 @@ private slots:
         QCOMPARE(lines.size(), 2);
         QVERIFY(lines[0]["skipped"].toBool() && lines[0]["number"].toInt() == 1);
         QVERIFY(!lines[1].contains("skipped") && lines[1]["number"].toInt() == 2);
+    }
+
+    void whatKilledRunsHaveLeftBehindGoes()
+    {
+        makePhoto("a.png");
+        QVERIFY(mkdir(path("out").constData(), 0700) == 0);
+        const pid_t killed = fork();
+        if (killed == 0)
+            _exit(0);
+        QCOMPARE(waitpid(killed, nullptr, 0), killed);
+        samples::writeFile(path("out/.lumora-" + QByteArray::number(killed) + "-0"), "half");
+        QCOMPARE(run({"--output", "out", "a.png"}).status, 0);
+        QCOMPARE(m_folder->names("out"), Names({"a.jpg"}));
     }
 
     void oneSeedOnePicture()
