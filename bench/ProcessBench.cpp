@@ -2,13 +2,15 @@
 // Measures the way of one photo of 24 megapixels from file to file, in whole processes, against the programs of the
 // JPEG library on pictures of the same sizes: process_bench LUMORA-RENDER FOLDER
 //
-// All on one core, in processor time, of each process and those that it starts. FOLDER takes the pictures.
+// All on one core, in processor time, of each process and those that it starts. FOLDER takes the pictures. Beside them,
+// where they are installed, two curves by GraphicsMagick and one by libvips on the same photo.
 
 #include "bench/Measure.h"
 #include "bench/Photo.h"
 
 #include <QFile>
 #include <QImage>
+#include <QStandardPaths>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -82,6 +84,29 @@ void compare(const std::string& program, const std::string& folder, const std::s
     std::fflush(stdout);
 }
 
+/// A row for a program, where it is installed.
+void measureOther(const char* name, const std::vector<std::string>& command)
+{
+    if (QStandardPaths::findExecutable(QString::fromStdString(command[0])).isEmpty())
+        return;
+    Cost whole;
+    for (int i = 0; i < rounds; i++) {
+        const Cost cost = costOf(command);
+        whole = {std::min(whole.milliseconds, cost.milliseconds), std::max(whole.mebibytes, cost.mebibytes)};
+    }
+    std::printf("%-10s %6.0f ms, at most %.0f MiB\n", name, whole.milliseconds, whole.mebibytes);
+    std::fflush(stdout);
+}
+
+void measureOthers(const std::string& folder)
+{
+    setenv("OMP_NUM_THREADS", "1", 1); // GraphicsMagick's threads
+    setenv("VIPS_CONCURRENCY", "1", 1);
+    const std::string photo = folder + "/photo.jpg", output = folder + "/output.jpg";
+    measureOther("gm", {"gm", "convert", photo, "-modulate", "100,120", "-gamma", "1.1", "-quality", "75", output});
+    measureOther("vips", {"vips", "gamma", photo, output + "[Q=75]", "--exponent", "1.1"});
+}
+
 bool writePhoto(const std::string& path)
 {
     const Picture photo = benchPhoto(width, height);
@@ -106,4 +131,5 @@ int main(int argc, char** argv)
     prctl(PR_SET_CHILD_SUBREAPER, 1); // whom a program leaves behind becomes a child of this one
     for (const char* look : {"Original", "Mono", "Helga"})
         compare(argv[1], folder, look);
+    measureOthers(folder);
 }

@@ -4,6 +4,9 @@
 #include "bench/Measure.h"
 #include "bench/Photo.h"
 #include "image/FilterNumber.h"
+#ifdef LUMORA_LIBRARY
+#include "library/lumora.h"
+#endif
 #include "render/ImageBridge.h"
 #include "render/RenderPipeline.h"
 #include "tests/reference/Looks.h"
@@ -113,6 +116,22 @@ void addBridge(std::vector<Row>& rows)
                     }});
 }
 
+/// Looks by the library for other programs. Beside the row of the look alone it takes a copy of the picture, there and
+/// back.
+void addLibrary([[maybe_unused]] std::vector<Row>& rows)
+{
+#ifdef LUMORA_LIBRARY
+    for (int look = 0; look < lumora_look_count(); look++) {
+        const std::string name = lumora_look_name(look);
+        if (name == "Mono" || name == "Helga")
+            rows.push_back({.name = "library " + name, .operation = [look](Subject& s) {
+                                lumora_apply(look, s.image->data, s.image->width, s.image->height,
+                                    std::size_t(s.image->width) * 4, 0);
+                            }});
+    }
+#endif
+}
+
 } // namespace
 
 Subject::Subject(int width, int height)
@@ -140,5 +159,6 @@ std::vector<Row> allRows()
     addToolkit(rows);
     addBorders(rows);
     addBridge(rows);
+    addLibrary(rows);
     return rows;
 }
