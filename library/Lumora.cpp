@@ -137,7 +137,7 @@ int lumora_mix(int strength, unsigned char* data, int width, int height, size_t 
     for (const int fault : {pixels.fault(), former.fault()})
         if (fault != LUMORA_OK)
             return fault;
-    if (strength < 0 || strength > 100)
+    if (strength < 0 || strength > CharImage::wholeStrength)
         return LUMORA_BAD_STRENGTH;
     for (int y = 0; y < height; y++)
         RowImage(pixels.row(y), width).mixIn(RowImage(former.row(y), width), strength);
