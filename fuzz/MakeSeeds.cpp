@@ -179,6 +179,8 @@ int main(int argc, char** argv)
             folder + "/PreferencesFuzz", "odd", "; note\n[%General]\nPrefsVersion=@Variant(\\0\\0\\0\\b)\n[x\n=\n");
     for (int filter = 0; filter <= lumora::Filter::end; filter++)
         made = made && write(folder + "/EngineFuzz", QString::number(filter), ramp(40 + filter * 97) + char(filter));
+    for (int look = 0; look < 20; look++)
+        made = made && write(folder + "/LibraryFuzz", QString::number(look), ramp(60 + look * 61) + char(look));
     if (!made)
         std::fprintf(stderr, "make_seeds: cannot write to %s\n", argv[1]);
     return made ? 0 : 1;
