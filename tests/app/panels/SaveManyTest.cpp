@@ -195,6 +195,8 @@ private slots:
         const auto many = panel();
         start(*many);
         QVERIFY(QTest::qWaitFor([&] { return many->findChild<QProgressBar*>()->value() > 0; }, 60000));
+        QVERIFY(words(*many).contains(QStringLiteral("%1 of 40").arg(many->findChild<QProgressBar*>()->value())));
+        QVERIFY(words(*many).join('\n').contains("Time left: 0:"));
         press(*many, "Cancel");
         QVERIFY(hasEnded(*many));
         QVERIFY(words(*many).contains("Cancelled. What was saved stays."));
