@@ -12,6 +12,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SOURCE lumora)
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://lumora.dovrel.example/)
 # The libraries that a program links are found by dpkg-shlibdeps; what it loads at run time is named here.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 if(engine_libraries)
@@ -37,7 +38,8 @@ add_package(program lumora graphics)
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "photo looks: one photo, many looks, a JPEG file
 Lumora opens one photo, shows it under each of its looks, crops it, puts a
 border round it and saves it as a JPEG.")
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-wayland, xdg-utils")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
+    "qt6-image-formats-plugins, qt6-wayland, qt6-xdgdesktopportal-platformtheme, xdg-utils")
 
 if(LUMORA_LIBRARY)
     add_package(library liblumora1 libs)
