@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/FileRights.h"
 #include "photo/PhotoSaver.h"
+#include "photo/Reason.h"
 #include "photo/UnfinishedFile.h"
 
 #include <cerrno>
@@ -22,25 +23,25 @@ QString failure(int error)
     case EACCES:
     case EPERM:
     case EROFS:
-        return QStringLiteral("There is no permission to write there.");
+        return Reason::tr("There is no permission to write there.");
     case ENOSPC:
     case EDQUOT:
-        return QStringLiteral("The disk is full.");
+        return Reason::tr("The disk is full.");
     case EFBIG:
-        return QStringLiteral("The file is larger than may be written there.");
+        return Reason::tr("The file is larger than may be written there.");
     case ENOENT:
     case ENOTDIR:
-        return QStringLiteral("The folder does not exist.");
+        return Reason::tr("The folder does not exist.");
     case ENAMETOOLONG:
-        return QStringLiteral("The file's name is too long.");
+        return Reason::tr("The file's name is too long.");
     case ELOOP:
-        return QStringLiteral("The link leads to itself.");
+        return Reason::tr("The link leads to itself.");
     case EEXIST:
-        return QStringLiteral("There is a file of that name already.");
+        return Reason::tr("There is a file of that name already.");
     case EISDIR:
-        return QStringLiteral("There is a folder of that name.");
+        return Reason::tr("There is a folder of that name.");
     default:
-        return QStringLiteral("The file cannot be written: %1.").arg(qt_error_string(error));
+        return Reason::tr("The file cannot be written: %1.").arg(qt_error_string(error));
     }
 }
 

@@ -2,6 +2,7 @@
 #include "photo/FileBounds.h"
 
 #include "photo/PhotoLimits.h"
+#include "photo/Reason.h"
 #include "photo/TiffReader.h"
 
 #include <QIODevice>
@@ -22,7 +23,7 @@ QString animationRefusal(const QByteArray& header)
     const int width = side(canvas), height = side(canvas + 3);
     if (qint64(width) * height <= maxAnimationPixels)
         return {};
-    return QStringLiteral("The animation is too large: %1 x %2 pixels.").arg(width).arg(height);
+    return Reason::tr("The animation is too large: %1 x %2 pixels.").arg(width).arg(height);
 }
 
 QString tiffRefusal(TiffReader& reader)
@@ -60,13 +61,13 @@ QString tiffRefusal(TiffReader& reader)
         }
     }
     if (told.bits * told.samples > quint64(maxSampleBits))
-        return QStringLiteral("The picture is of a kind that cannot be read: it has %1 channels of %2 bits.")
+        return Reason::tr("The picture is of a kind that cannot be read: it has %1 channels of %2 bits.")
             .arg(told.samples)
             .arg(told.bits);
     const quint64 mostOfTile =
         std::max(quint64(maxTilePixels), std::min(told.width * told.height, quint64(maxPhotoPixels)));
     if (told.tileWidth * told.tileHeight > mostOfTile)
-        return QStringLiteral("The picture is damaged: it has parts of %1 x %2 pixels.")
+        return Reason::tr("The picture is damaged: it has parts of %1 x %2 pixels.")
             .arg(told.tileWidth)
             .arg(told.tileHeight);
     return {};

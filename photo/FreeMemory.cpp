@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/FreeMemory.h"
 
+#include "photo/Reason.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <algorithm>
@@ -39,7 +41,7 @@ qint64 freeMemory()
 
 QString memoryRefusal(const QSize& picture)
 {
-    return QStringLiteral("There is not enough free memory for a picture of %1 x %2 pixels.")
+    return Reason::tr("There is not enough free memory for a picture of %1 x %2 pixels.")
         .arg(picture.width())
         .arg(picture.height());
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/LoadedPhoto.h"
 
+#include "photo/Reason.h"
+
 LoadedPhoto refusedPhoto(const QString& reason)
 {
     LoadedPhoto refused;
@@ -10,5 +12,5 @@ LoadedPhoto refusedPhoto(const QString& reason)
 
 QString noMemoryForPhoto()
 {
-    return QStringLiteral("There is not enough free memory for the picture.");
+    return Reason::tr("There is not enough free memory for the picture.");
 }

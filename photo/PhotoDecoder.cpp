@@ -8,6 +8,7 @@
 #include "photo/JpegMarkers.h"
 #include "photo/OnWhite.h"
 #include "photo/Orientation.h"
+#include "photo/Reason.h"
 #include "photo/formats/BmpEnd.h"
 #include "photo/formats/GifEnd.h"
 #include "photo/formats/InkTiff.h"
@@ -39,12 +40,12 @@ QString sizeRefusal(const QSize& size, int bytesPerPixel, const Room& room)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
     if (pixels > maxPhotoPixels)
-        return QStringLiteral("The picture is too large: %1 x %2 pixels. At most %3 megapixels can be opened.")
+        return Reason::tr("The picture is too large: %1 x %2 pixels. At most %3 megapixels can be opened.")
             .arg(size.width())
             .arg(size.height())
             .arg(maxPhotoPixels / 1000000);
     if (pixels > maxPixelsOfTinyFile && pixels / maxPixelsPerByte > room.fileBytes)
-        return QStringLiteral("The picture is damaged: the file is too small for %1 x %2 pixels.")
+        return Reason::tr("The picture is damaged: the file is too small for %1 x %2 pixels.")
             .arg(size.width())
             .arg(size.height());
     return pixels * bytesPerPixel > room.memory / blocksPerPhoto ? memoryRefusal(size) : QString();
@@ -82,7 +83,7 @@ Decoded decodeByOwn(PhotoHandler& handler, const Room& room, PhotoRows* rows)
     Decoded decoded;
     decoded.isInRows = rows && handler.hasRows();
     if (!(decoded.isInRows ? handler.readRows(*rows) : handler.read(&decoded.image)))
-        return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
+        return refused(Reason::tr("The picture is damaged or of a kind that cannot be read."));
     decoded.isUpright = handler.isUpright();
     decoded.restIsMissing = handler.restIsMissing();
     decoded.metadata = handler.metadata();
@@ -99,7 +100,7 @@ Decoded decodeByPlatform(QIODevice& file, const Room& room)
     reader.setAutoTransform(true);
     const QByteArray format = reader.format(); // empty once it is read
     if (!reader.canRead() || !isForPhotos(format))
-        return refused(QStringLiteral("The file is not a picture of a kind that can be read."));
+        return refused(Reason::tr("The file is not a picture of a kind that can be read."));
     const QSize size = reader.size();
     if (size.isValid()) {
         const QString refusal = sizeRefusal(size, bytesPerPixel(reader.imageFormat()), room);
@@ -108,8 +109,8 @@ Decoded decodeByPlatform(QIODevice& file, const Room& room)
     }
     Decoded decoded;
     if (!readEveryPixel(reader, decoded.image))
-        return refused(isUnsupportedKind(file) ? QStringLiteral("The picture is of a kind that is not supported.")
-                                               : QStringLiteral("The picture is damaged and cannot be read."));
+        return refused(isUnsupportedKind(file) ? Reason::tr("The picture is of a kind that is not supported.")
+                                               : Reason::tr("The picture is damaged and cannot be read."));
     decoded.isUpright = reader.transformation() != QImageIOHandler::TransformationNone;
     decoded.restIsMissing = (format == "gif" && gifBreaksOff(file)) || (format == "bmp" && bmpBreaksOff(file));
     return decoded;
@@ -129,7 +130,7 @@ Decoded decode(QIODevice& file, const Room& room, PhotoRows* rows)
         PngWithoutKey png(file, *key);
         Decoded decoded = decodeByPlatform(png, room);
         if (decoded.reason.isEmpty() && !applyColourKey(decoded.image, *key))
-            return refused(QStringLiteral("The picture is damaged or of a kind that cannot be read."));
+            return refused(Reason::tr("The picture is damaged or of a kind that cannot be read."));
         return decoded;
     }
     if (const auto inks = findInkTiff(file)) {
@@ -152,7 +153,7 @@ LoadedPhoto load(QIODevice& file, qint64 memory, PhotoRows* rows)
         std::min(maxJpegScanPixels, maxScanPixelsOfTinyJpeg + file.size() * maxScanPixelsPerByte);
     if (markers.markers > maxJpegMarkers || markers.scans > maxJpegScans
         || markers.scans * std::min(markers.pixels, maxPhotoPixels) > maxScanPixels)
-        return refusedPhoto(QStringLiteral("The picture is damaged: it has too many parts."));
+        return refusedPhoto(Reason::tr("The picture is damaged: it has too many parts."));
     const QString refusal = boundsRefusal(file);
     if (!refusal.isEmpty())
         return refusedPhoto(refusal);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/PhotoFile.h"
 
+#include "photo/Reason.h"
+
 #include <QFile>
 #include <cerrno>
 #include <fcntl.h>
@@ -14,12 +16,12 @@ QString openFailure(int error)
     switch (error) {
     case ENOENT:
     case ENOTDIR:
-        return QStringLiteral("The file does not exist.");
+        return Reason::tr("The file does not exist.");
     case EACCES:
     case EPERM:
-        return QStringLiteral("There is no permission to read the file.");
+        return Reason::tr("There is no permission to read the file.");
     default:
-        return QStringLiteral("The file cannot be opened: %1.").arg(qt_error_string(error));
+        return Reason::tr("The file cannot be opened: %1.").arg(qt_error_string(error));
     }
 }
 
@@ -35,9 +37,9 @@ QString openPhotoFile(const QByteArray& path, QFile& file)
     if (!known || !S_ISREG(status.st_mode) || status.st_size == 0) {
         close(descriptor);
         if (known && S_ISREG(status.st_mode))
-            return QStringLiteral("The file is empty.");
-        return S_ISDIR(status.st_mode) ? QStringLiteral("It is a folder, not a picture.")
-                                       : QStringLiteral("It is not a file with a picture.");
+            return Reason::tr("The file is empty.");
+        return S_ISDIR(status.st_mode) ? Reason::tr("It is a folder, not a picture.")
+                                       : Reason::tr("It is not a file with a picture.");
     }
     if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         close(descriptor);

@@ -2,9 +2,9 @@
 #include "render/Export.h"
 
 #include "image/CharImage.h"
+#include "photo/Reason.h"
 #include "render/Scaled.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -33,7 +33,7 @@ QSizeF scaleForExport(QImage& render, int maxSide)
 
 QString jpegRefusal(const QSize& picture)
 {
-    return QCoreApplication::translate("Export", "A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.")
+    return Reason::tr("A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.")
         .arg(picture.width())
         .arg(picture.height());
 }

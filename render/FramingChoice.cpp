@@ -3,21 +3,32 @@
 
 #include "image/CharImage.h"
 
+#include <QCoreApplication>
+
 using namespace lumora;
 
 QStringList cropChoices()
 {
-    return {"By Filter", "Square", "Cinema", "6x4", "4x3", "7x6", "None"};
+    return {QT_TRANSLATE_NOOP("FramingChoice", "By Filter"), QT_TRANSLATE_NOOP("FramingChoice", "Square"), "Cinema",
+        "6x4", "4x3", "7x6", QT_TRANSLATE_NOOP("FramingChoice", "None")};
 }
 
 QStringList borderChoices()
 {
-    return {"By Filter", "Thin", "Medium", "Thick", "Rounded", "Instant", "Cinema", "None"};
+    return {"By Filter", QT_TRANSLATE_NOOP("FramingChoice", "Thin"), QT_TRANSLATE_NOOP("FramingChoice", "Medium"),
+        QT_TRANSLATE_NOOP("FramingChoice", "Thick"), QT_TRANSLATE_NOOP("FramingChoice", "Rounded"), "Instant", "Cinema",
+        "None"};
 }
 
 QStringList sizeChoices()
 {
-    return {"Original", "1600", "1400", "1200", "1000", "800", "600", "500", "400", "200", "100"};
+    return {QT_TRANSLATE_NOOP("FramingChoice", "Original"), "1600", "1400", "1200", "1000", "800", "600", "500", "400",
+        "200", "100"};
+}
+
+QString shownChoice(const QString& choice)
+{
+    return QCoreApplication::translate("FramingChoice", choice.toUtf8().constData());
 }
 
 int chosenFilter(const QString& choice, const GrowArray<int>& looks)

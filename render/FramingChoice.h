@@ -14,6 +14,9 @@ QStringList borderChoices();
 /// "Original", or the longer side in pixels.
 QStringList sizeChoices();
 
+/// A choice for people, in the language of this process. Names of looks are names and stay.
+QString shownChoice(const QString& choice);
+
 /// The filter number of a crop or a border that was chosen, for a list of looks.
 int chosenFilter(const QString& choice, const lumora::GrowArray<int>& looks);
 /// The longer side that was chosen in pixels; -1 for the picture's own.

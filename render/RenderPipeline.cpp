@@ -7,6 +7,7 @@
 #include "render/ImageBridge.h"
 
 #include <QColorSpace>
+#include <QCoreApplication>
 #include <cstring>
 #include <memory>
 #include <new>
@@ -157,9 +158,9 @@ QImage pictureOf(CharImage& image, const QColorSpace& space)
 
 QImage render(const QImage& source, const RenderSettings& settings, const Frame& frame, const RenderProgress& progress)
 {
-    report(progress, "Fit");
+    report(progress, QT_TRANSLATE_NOOP("RenderStep", "Fit"));
     if (leavesAll(source, settings, frame)) {
-        report(progress, "Border");
+        report(progress, QT_TRANSLATE_NOOP("RenderStep", "Border"));
         return source;
     }
     const std::unique_ptr<CharImage> image = fitted(source, frame);
@@ -171,13 +172,18 @@ QImage render(const QImage& source, const RenderSettings& settings, const Frame&
         applyLooks(*image, settings, progress);
     }
     if (!settings.asThumbnail) {
-        report(progress, "Border");
+        report(progress, QT_TRANSLATE_NOOP("RenderStep", "Border"));
         addFrame(*image, frame, settings.borderFilter);
     }
     return pictureOf(*image, source.colorSpace());
 }
 
 } // namespace
+
+QString shownStep(const char* step)
+{
+    return QCoreApplication::translate("RenderStep", step);
+}
 
 QImage renderPhoto(
     const QImage& source, const RenderSettings& settings, const RenderProgress& progress, QString* reason)

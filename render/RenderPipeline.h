@@ -23,6 +23,9 @@ struct RenderSettings {
 /// Told before each step of a render with the step's name for people ("Fit", a look's name, "Border").
 using RenderProgress = std::function<void(const char* step)>;
 
+/// A step for people, in the language of this process. Names of looks are names and stay.
+QString shownStep(const char* step);
+
 /// Renders a photo: crops and fits it, applies the filters and finishes the border. The one road of previews,
 /// thumbnails and saved files. `source` is not changed; the picture is in its colour space. A null source gives a null
 /// picture. A picture that the free memory cannot hold, as a square is that is cut from a long strip, is a null picture

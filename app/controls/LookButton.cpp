@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/controls/LookButton.h"
 
+#include "app/state/Rules.h"
 #include "image/CharImage.h"
 
 #include <QKeyEvent>
@@ -30,7 +31,7 @@ void LookButton::setPlace(int place)
     if (place == m_place)
         return;
     m_place = place;
-    setAccessibleDescription(place > 0 ? tr("Applied as number %1").arg(place) : QString());
+    setAccessibleDescription(place > 0 ? tr("Applied as number %1").arg(shownNumber(place)) : QString());
     update();
 }
 
@@ -57,7 +58,7 @@ void LookButton::paintEvent(QPaintEvent* event)
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
-    const QString number = QString::number(m_place);
+    const QString number = shownNumber(m_place);
     const int height = painter.fontMetrics().height();
     QRect sign(0, 0, qMax(height, painter.fontMetrics().horizontalAdvance(number) + height / 2), height);
     sign.moveTopRight({(width() + iconSize().width()) / 2, height / 4});

@@ -186,7 +186,7 @@ void SaveManyPanel::showPhotos()
     m_photosText->setText(count == 0 ? tr("No photos chosen")
             : count == 1
             ? shownName(fileNameOf(m_photos.front()))
-            : tr("%1 and others: %2 photos").arg(shownName(fileNameOf(m_photos.front())), QLocale().toString(count)));
+            : tr("%1 and others: %Ln photos", nullptr, count).arg(shownName(fileNameOf(m_photos.front()))));
     m_start->setEnabled(count > 0 && !m_folder.isEmpty());
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/preview/CornerLabel.h"
 #include "app/preview/SplitLine.h"
+#include "app/state/Rules.h"
 #include "render/Scaled.h"
 
 #include <QPaintEvent>
@@ -34,7 +35,7 @@ void DragDropImageView::tellState()
     else if (m_closeup.isOn())
         setAccessibleDescription(tr("The photo as it will be saved, at %1 %. Drag it or press the arrow keys to see "
                                     "other parts of it.")
-                                     .arg(m_closeup.percent()));
+                                     .arg(shownNumber(m_closeup.percent())));
     else if (m_isSplit)
         setAccessibleDescription(tr("Before on the left, after on the right of a line that the arrow keys move."));
     else
@@ -202,7 +203,7 @@ void DragDropImageView::paintEvent(QPaintEvent* event)
         paintCloseup(painter, event->rect());
     } else if (shownImage().isNull()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
-        const QString invitation = QStringLiteral("Drop a photo here, or open one.");
+        const QString invitation = tr("Drop a photo here, or open one.");
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_reason.isEmpty() ? invitation : m_reason);
     } else if (m_isSplit && !m_comparing) {
         paintSplit(painter);
@@ -213,7 +214,7 @@ void DragDropImageView::paintEvent(QPaintEvent* event)
     if (m_comparing)
         paintCornerLabel(painter, seen, tr("Before"));
     if (m_closeup.isOn())
-        paintCornerLabel(painter, seen, tr("%1 %").arg(m_closeup.percent()), true, true);
+        paintCornerLabel(painter, seen, tr("%1 %").arg(shownNumber(m_closeup.percent())), true, true);
     if (m_dropSign)
         paintDropSign(painter);
     if (hasFocus() && m_focusByKey) {

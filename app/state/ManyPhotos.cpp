@@ -2,6 +2,7 @@
 #include "app/state/ManyPhotos.h"
 
 #include "image/CharImage.h"
+#include "photo/Reason.h"
 #include "render/Export.h"
 
 #include <QJsonDocument>
@@ -48,7 +49,7 @@ void ManyPhotos::addLine(const QByteArray& line)
     }
     for (const QString& words : {reason, warning})
         if (!words.isEmpty())
-            m_remarks.append({told["file"].toString(), words});
+            m_remarks.append({told["file"].toString(), Reason::translated(words)});
 }
 
 qint64 ManyPhotos::timeLeft(qint64 passed) const

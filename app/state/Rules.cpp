@@ -63,13 +63,20 @@ QString breadcrumb(const GrowArray<int>& filterIDs, bool multi)
 {
     QString text;
     if (multi || filterIDs.numThings == 0)
-        text += QStringLiteral("Original");
+        text += QString::fromUtf8(CharImage::getFilterName(Filter::original));
     for (int i = 0; i < filterIDs.numThings; i++) {
         if (!text.isEmpty())
             text += QStringLiteral(" > ");
         text += QString::fromUtf8(CharImage::getFilterName(filterIDs.theArray[i]));
     }
     return text;
+}
+
+QString shownNumber(qint64 number)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number);
 }
 
 QString shownLength(qint64 bytes)
@@ -80,8 +87,7 @@ QString shownLength(qint64 bytes)
 QString savedLine(const QByteArray& fileName, const QSize& picture, qint64 bytes)
 {
     return QCoreApplication::translate("MainWindowController", "Saved %1, %2 x %3, %4")
-        .arg(shownName(fileName), QString::number(picture.width()), QString::number(picture.height()),
-            shownLength(bytes));
+        .arg(shownName(fileName), shownNumber(picture.width()), shownNumber(picture.height()), shownLength(bytes));
 }
 
 QString withJpegEnding(const QString& path)

@@ -38,6 +38,8 @@ int thumbnailSide(int buttonWidth, int windowHeight);
 /// "Original", one look's name, or the chain "Original > Helga > Mono" in multi mode.
 QString breadcrumb(const lumora::GrowArray<int>& filterIDs, bool multi);
 
+/// A number of pixels or per cent, for people: "1600".
+QString shownNumber(qint64 number);
 /// The length of a file in bytes, for people: "412 kB", "2.1 MB".
 QString shownLength(qint64 bytes);
 

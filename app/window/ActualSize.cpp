@@ -21,11 +21,11 @@ constexpr int actualSize = 100; ///< per cent
 void MainWindowController::buildZoomEntries(QMenu& menu)
 {
     m_actualSizeAction =
-        menu.addAction(tr("&Actual size"), tr("Z"), this, [this] { toggleActualSize(pointLookedAt()); });
+        menu.addAction(tr("&Actual size"), Qt::Key_Z, this, [this] { toggleActualSize(pointLookedAt()); });
     m_actualSizeAction->setCheckable(true);
-    QAction* in = menu.addAction(tr("Zoom &in"), tr("+"), this, [this] { zoom(1, pointLookedAt()); });
-    in->setShortcuts({tr("+"), tr("=")}); // the key of the plus sign, also without Shift
-    QAction* out = menu.addAction(tr("Zoom &out"), tr("-"), this, [this] { zoom(-1, pointLookedAt()); });
+    QAction* in = menu.addAction(tr("Zoom &in"), Qt::Key_Plus, this, [this] { zoom(1, pointLookedAt()); });
+    in->setShortcuts({Qt::Key_Plus, Qt::Key_Equal}); // the key of the plus sign, also without Shift
+    QAction* out = menu.addAction(tr("Zoom &out"), Qt::Key_Minus, this, [this] { zoom(-1, pointLookedAt()); });
     m_photoActions << m_actualSizeAction << in << out;
     DragDropImageView* view = m_ui->mainImageView;
     connect(view, &DragDropImageView::actualSizeAsked, this, &MainWindowController::toggleActualSize);

@@ -62,7 +62,7 @@ void MainWindowController::applyOriginalFilter()
         return showAppliedFilters();
     removeAllFilters();
     applyMultipleFilters();
-    addStep(tr("Original"));
+    addStep(QString::fromUtf8(CharImage::getFilterName(Filter::original)));
 }
 
 void MainWindowController::applyMultipleFilters()
@@ -110,7 +110,7 @@ RenderSettings MainWindowController::renderSettings()
 
 RenderProgress MainWindowController::shownProgress()
 {
-    return [this](const char* step) { m_work.beginStep(QString::fromUtf8(step)); };
+    return [this](const char* step) { m_work.beginStep(shownStep(step)); };
 }
 
 QImage MainWindowController::filterNSImage(const QImage& image, int usingFilter, bool asThumbnail, QString* reason)

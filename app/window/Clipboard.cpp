@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/LocalFiles.h"
+#include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "photo/ColorProfile.h"
 #include "photo/OnWhite.h"
@@ -45,7 +46,7 @@ void MainWindowController::copyPhoto()
     if (picture.isNull())
         return openModalSheetWithText(tr("The photo cannot be copied."), reason);
     QGuiApplication::clipboard()->setImage(picture);
-    showNote(tr("Copied, %1 x %2").arg(picture.width()).arg(picture.height()));
+    showNote(tr("Copied, %1 x %2").arg(shownNumber(picture.width()), shownNumber(picture.height())));
 }
 
 /// A copied file is opened, as most programs that copy one also copy its icon as a picture.

@@ -22,7 +22,7 @@ void MainWindowController::connectComparing()
 void MainWindowController::buildSplitEntry(QMenu& photo)
 {
     DragDropImageView* view = m_ui->mainImageView;
-    QAction* entry = photo.addAction(tr("&Before and after"), tr("B"), this, [this, view](bool on) {
+    QAction* entry = photo.addAction(tr("&Before and after"), Qt::Key_B, this, [this, view](bool on) {
         if (on && view->closeup().isOn())
             showFitted(); // the split is of the whole photo
         view->setSplit(on);

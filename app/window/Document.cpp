@@ -70,7 +70,7 @@ void MainWindowController::setCurrentFile(const QByteArray& path)
         m_panelFolder = QFileInfo(QFile::decodeName(path)).absolutePath(); // where the panels start
     // "[*]" is the platform's placeholder for an unsaved document, and doubled it is itself.
     const QString name = shownName(m_photo.fileName()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-    setWindowTitle(QStringLiteral("Lumora - ") + name);
+    setWindowTitle(tr("Lumora - %1").arg(name));
 }
 
 void MainWindowController::setoriginalImage(const QImage& image)

@@ -17,7 +17,7 @@ void MainWindowController::buildMenus()
     file->addAction(tr("&Open…"), QKeySequence::Open, this, &Self::loadImageButtonPressed);
     buildRecentMenu(*file);
     QAction* save = file->addAction(tr("&Save…"), QKeySequence::Save, this, &Self::saveFilteredImage);
-    file->addAction(tr("Save &Many…"), tr("Ctrl+Shift+S"), this, &Self::saveManyPhotos);
+    file->addAction(tr("Save &Many…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, this, &Self::saveManyPhotos);
     // What a saved photo carries besides its picture, in the order of Kept.
     m_kept = new ChoiceMenu(tr("&Keep with the photo"), "Saving/Kept",
         {tr("&Everything it carried"), tr("Everything but the &place"), tr("&Nothing")}, file);
@@ -26,20 +26,20 @@ void MainWindowController::buildMenus()
         new ChoiceMenu(tr("&JPEG quality"), "Saving/Quality", {tr("&Standard"), tr("&High"), tr("&Best")}, file);
     file->addMenu(m_quality);
     file->addSeparator();
-    QAction* quit = file->addAction(tr("&Quit"), tr("Ctrl+Q"), this, &QWidget::close);
+    QAction* quit = file->addAction(tr("&Quit"), Qt::CTRL | Qt::Key_Q, this, &QWidget::close);
     quit->setMenuRole(QAction::QuitRole);
 
     buildEditMenu();
 
     QMenu* photo = m_ui->menubar->addMenu(tr("&Photo"));
-    QAction* left = photo->addAction(tr("Rotate &left"), tr("Ctrl+L"), this, &Self::rotateImageLeft);
-    QAction* right = photo->addAction(tr("Rotate &right"), tr("Ctrl+R"), this, &Self::rotateImageRight);
-    QAction* flatten = photo->addAction(tr("&Flatten"), tr("Ctrl+Shift+F"), this, &Self::flattenImage);
+    QAction* left = photo->addAction(tr("Rotate &left"), Qt::CTRL | Qt::Key_L, this, &Self::rotateImageLeft);
+    QAction* right = photo->addAction(tr("Rotate &right"), Qt::CTRL | Qt::Key_R, this, &Self::rotateImageRight);
+    QAction* flatten = photo->addAction(tr("&Flatten"), Qt::CTRL | Qt::SHIFT | Qt::Key_F, this, &Self::flattenImage);
     m_photoActions << save << left << right << flatten;
     photo->addSeparator();
     buildSplitEntry(*photo);
     photo->addSeparator();
-    photo->addAction(tr("R&e-expose"), tr("Ctrl+E"), this, &Self::reExpose);
+    photo->addAction(tr("R&e-expose"), Qt::CTRL | Qt::Key_E, this, &Self::reExpose);
     photo->addSeparator();
     buildZoomEntries(*photo);
     buildFullScreenEntry(*photo);

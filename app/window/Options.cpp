@@ -80,10 +80,10 @@ void MainWindowController::updateFromSettings()
     const bool before = std::exchange(doMultiFiltering, m_ui->chkMultiFilter->isChecked());
     if (doMultiFiltering != before)
         showAppliedFilters();
-    cropFilter = chosenFilter(m_ui->btnCropping->currentText(), filterIDs);
-    borderFilter = chosenFilter(m_ui->btnBorders->currentText(), filterIDs);
+    cropFilter = chosenFilter(m_ui->btnCropping->currentData().toString(), filterIDs);
+    borderFilter = chosenFilter(m_ui->btnBorders->currentData().toString(), filterIDs);
     strength = m_ui->sldStrength->value();
-    imgOutputSize = chosenSize(m_ui->btnImgSize->currentText());
+    imgOutputSize = chosenSize(m_ui->btnImgSize->currentData().toString());
     updateBreadcrumb();
 }
 

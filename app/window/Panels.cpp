@@ -6,7 +6,6 @@
 #include "app/state/PhotoNames.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
-#include "render/FramingChoice.h"
 #include "ui_MainWindow.h"
 
 #include <QFileDialog>
@@ -44,13 +43,15 @@ private:
 /// Whatever opens, by the names that such files have.
 QString allPhotos()
 {
-    return QStringLiteral("All photos (*.%1)").arg(photoEndings().join(QStringLiteral(" *.")));
+    return MainWindowController::tr("All photos (%1)")
+        .arg(QStringLiteral("*.") + photoEndings().join(QStringLiteral(" *.")));
 }
 
 /// What both panels share: the six types, and the folder where the last one was left.
 void prepare(QFileDialog& panel, const QString& folder)
 {
-    panel.setNameFilter(QStringLiteral("Photos (*.jpg *.jpeg *.gif *.png *.psd *.tga)"));
+    panel.setNameFilter(
+        MainWindowController::tr("Photos (%1)").arg(QStringLiteral("*.jpg *.jpeg *.gif *.png *.psd *.tga")));
     if (!folder.isEmpty() && QFileInfo(folder).isDir())
         panel.setDirectory(folder);
 }
@@ -114,8 +115,8 @@ void MainWindowController::saveManyPhotos()
         return;
     const RenderSettings settings = renderSettings();
     const bool isVaried = m_ui->chkRandomness->isChecked();
-    const ManyChoices choices = {filterIDs, settings.strength, cropChoices()[m_ui->btnCropping->currentIndex()],
-        borderChoices()[m_ui->btnBorders->currentIndex()], sizeChoices()[m_ui->btnImgSize->currentIndex()],
+    const ManyChoices choices = {filterIDs, settings.strength, m_ui->btnCropping->currentData().toString(),
+        m_ui->btnBorders->currentData().toString(), m_ui->btnImgSize->currentData().toString(),
         isVaried ? std::optional(m_variation) : std::nullopt, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen())};
     const auto ask = [this](QWidget& parent, SaveManyPanel::Asked asked) {
         using Asked = SaveManyPanel::Asked;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/controls/ShownOnly.h"
 #include "app/state/RenderSeed.h"
+#include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "ui_MainWindow.h"
 
@@ -47,7 +48,7 @@ void MainWindowController::showStrength(int percent)
 {
     strength = percent;
     showValue(*m_ui->sldStrength, percent);
-    m_ui->lblStrength->setText(tr("Stren&gth %1 %").arg(percent));
+    m_ui->lblStrength->setText(tr("Stren&gth %1 %").arg(shownNumber(percent)));
 }
 
 /// The preview in the strength that is chosen, from the looks as they were rendered last.

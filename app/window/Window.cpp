@@ -20,10 +20,12 @@ namespace {
 
 constexpr int settleTime = 150; ///< milliseconds without a change of size after which a resize has ended
 
-void fill(QComboBox& popUp, const QStringList& items)
+/// An item shows its choice in the language of the window; its data are the choice itself.
+void fill(QComboBox& popUp, const QStringList& choices)
 {
     popUp.clear();
-    popUp.addItems(items);
+    for (const QString& choice : choices)
+        popUp.addItem(shownChoice(choice), choice);
     popUp.setCurrentIndex(0);
 }
 
@@ -63,7 +65,7 @@ void MainWindowController::completeNibLoading()
 
     m_ui->setupUi(this);
     windowDidLoad();
-    setWindowTitle(QStringLiteral("Lumora by Dovrel"));
+    setWindowTitle(tr("Lumora by Dovrel"));
     m_ui->filtersText->setText(QStringLiteral("Original"));
 
     QPalette colours = palette();
@@ -74,7 +76,8 @@ void MainWindowController::completeNibLoading()
              m_ui->btn1974, m_ui->btnMono, m_ui->btnFishEye, m_ui->btnInstant, m_ui->btnMagazine}) {
         button->setFilter(buttonFilters[filterButtons.numThings]);
         filterButtons.add(button);
-        button->setToolTip(QStringLiteral("%1 (%2)").arg(button->text()).arg(filterButtons.numThings % 10));
+        button->setToolTip(
+            tr("%1 (%2)", "a look and its key").arg(button->text(), shownNumber(filterButtons.numThings % 10)));
     }
 
     m_ui->filtersBox->addLooks(furtherLooks());
@@ -249,7 +252,7 @@ void MainWindowController::openHelp()
 
 void MainWindowController::openAbout()
 {
-    openModalSheetWithText(QStringLiteral("Lumora Mac, Version 1.0"), tr("Copyright © 2026 Dovrel"));
+    openModalSheetWithText(tr("Lumora Mac, Version 1.0"), tr("Copyright © 2026 Dovrel"));
 }
 
 void MainWindowController::applicationWillTerminate() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/formats/OwnFormats.h"
 
+#include "photo/Reason.h"
 #include "photo/formats/JpegHandler.h"
 #include "photo/formats/PsdHandler.h"
 #include "photo/formats/Signatures.h"
@@ -20,18 +21,13 @@
 
 namespace {
 
-[[maybe_unused]] OwnFormat missing(const QString& format, const QString& library)
-{
-    return {
-        nullptr, QStringLiteral("It is %1. This Lumora was built without %2, which reads them.").arg(format, library)};
-}
-
 OwnFormat heif()
 {
 #ifdef LUMORA_HEIF
     return {std::make_unique<HeifHandler>(), {}};
 #else
-    return missing(QStringLiteral("a HEIC or AVIF photo"), QStringLiteral("libheif"));
+    return {
+        nullptr, Reason::tr("It is a HEIC or AVIF photo. This Lumora was built without libheif, which reads them.")};
 #endif
 }
 
@@ -40,7 +36,7 @@ OwnFormat jxl()
 #ifdef LUMORA_JXL
     return {std::make_unique<JxlHandler>(), {}};
 #else
-    return missing(QStringLiteral("a JPEG XL photo"), QStringLiteral("libjxl"));
+    return {nullptr, Reason::tr("It is a JPEG XL photo. This Lumora was built without libjxl, which reads them.")};
 #endif
 }
 
@@ -49,7 +45,7 @@ OwnFormat raw()
 #ifdef LUMORA_RAW
     return {std::make_unique<RawHandler>(), {}};
 #else
-    return missing(QStringLiteral("a camera's raw photo"), QStringLiteral("LibRaw"));
+    return {nullptr, Reason::tr("It is a camera's raw photo. This Lumora was built without LibRaw, which reads them.")};
 #endif
 }
 

@@ -3,6 +3,7 @@
 
 #include "photo/FreeMemory.h"
 #include "photo/PhotoFile.h"
+#include "photo/Reason.h"
 #include "photo/reader/Channel.h"
 #include "photo/reader/ReaderProcess.h"
 #include "photo/reader/SharedPhoto.h"
@@ -26,19 +27,19 @@ QString reasonOf(PhotoReader::End end)
     case End::Answered:
         return {};
     case End::BrokeDown:
-        return QStringLiteral("Reading it failed: the file is damaged, or made to do harm.");
+        return Reason::tr("Reading it failed: the file is damaged, or made to do harm.");
     case End::TookTooLong:
-        return QStringLiteral("Reading it takes too long: the file is damaged, or made to do harm.");
+        return Reason::tr("Reading it takes too long: the file is damaged, or made to do harm.");
     case End::TookTooMuchMemory:
         return noMemoryForPhoto();
     case End::TriedFiles:
-        return QStringLiteral("Reading it was stopped: the file led to other files, which no picture needs.");
+        return Reason::tr("Reading it was stopped: the file led to other files, which no picture needs.");
     case End::TriedNetwork:
-        return QStringLiteral("Reading it was stopped: the file led to the network, which no picture needs.");
+        return Reason::tr("Reading it was stopped: the file led to the network, which no picture needs.");
     case End::Cancelled:
-        return QStringLiteral("Reading it was cancelled.");
+        return Reason::tr("Reading it was cancelled.");
     case End::NotStarted:
-        return QStringLiteral("The program that reads photos cannot be started. Lumora is not completely installed.");
+        return Reason::tr("The program that reads photos cannot be started. Lumora is not completely installed.");
     }
     return {};
 }

@@ -3,6 +3,7 @@
 
 #include "photo/PhotoDecoder.h"
 #include "photo/PhotoRows.h"
+#include "photo/Reason.h"
 
 #include <QColorSpace>
 #include <cerrno>
@@ -133,7 +134,7 @@ LoadedPhoto receivedPhoto(const SharedPhoto& shared)
 {
     const ReaderAnswer& answer = shared.answer;
     if (!answer.reason.isEmpty())
-        return refusedPhoto(answer.reason);
+        return refusedPhoto(Reason::translated(answer.reason));
     const auto size = std::size_t(sealedBytes(shared.memory));
     // Private, so that whoever changes the picture changes no page but his own.
     void* address = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE, shared.memory.number(), 0);

@@ -3,6 +3,7 @@
 
 #include "photo/FreeMemory.h"
 #include "photo/PhotoReader.h"
+#include "photo/Reason.h"
 #include "photo/reader/Descriptor.h"
 #include "render/Export.h"
 #include "render/RenderPipeline.h"
@@ -116,8 +117,8 @@ QString outputRefusal(const QByteArray& output, const FileNumbers& photos, bool 
         return {};
     const std::optional<FileNumber> number = fileNumber(output);
     if (number && photos.contains(*number))
-        return QStringLiteral("The output would replace a photo that is to be rendered.");
-    return mayReplace ? QString() : QStringLiteral("There is a file of that name already.");
+        return Reason::tr("The output would replace a photo that is to be rendered.");
+    return mayReplace ? QString() : Reason::tr("There is a file of that name already.");
 }
 
 Outcome renderOne(const Task& task, const Order& order, const FileNumbers& photos, int standardOutput)
@@ -135,8 +136,7 @@ Outcome renderOne(const Task& task, const Order& order, const FileNumbers& photo
     const QByteArray data =
         order.lossless ? encodePng(picture) : encodeJpeg(picture, photo.metadata, order.kept, order.quality);
     if (data.isEmpty()) {
-        outcome.reason =
-            order.lossless ? QStringLiteral("The picture cannot be encoded.") : jpegRefusal(picture.size());
+        outcome.reason = order.lossless ? Reason::tr("The picture cannot be encoded.") : jpegRefusal(picture.size());
         return outcome;
     }
     holdInterrupts();
@@ -146,7 +146,7 @@ Outcome renderOne(const Task& task, const Order& order, const FileNumbers& photo
         outcome.height = picture.height();
         outcome.bytes = data.size();
         if (photo.restIsMissing)
-            outcome.warning = QStringLiteral("The rest of the file is missing.");
+            outcome.warning = Reason::tr("The rest of the file is missing.");
     }
     return outcome;
 }

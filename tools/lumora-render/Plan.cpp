@@ -2,6 +2,7 @@
 #include "tools/lumora-render/Plan.h"
 
 #include "photo/EscapedText.h"
+#include "photo/Reason.h"
 #include "render/Export.h"
 
 #include <set>
@@ -48,7 +49,7 @@ Plan planFor(const Command& command)
             task.output = *folder
                 + exportName(photo.mid(photo.lastIndexOf('/') + 1), order.looks, order.lossless ? ".png" : ".jpg");
         if (!outputs.insert(task.output).second)
-            task.refusal = QStringLiteral("Another photo of this run has the same output.");
+            task.refusal = Reason::tr("Another photo of this run has the same output.");
         else if (const auto number = fileNumber(photo))
             plan.photos.insert(*number);
         plan.tasks.push_back(task);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/lumora-render/Runner.h"
 
+#include "photo/Reason.h"
 #include "photo/reader/Descriptor.h"
 #include "tools/lumora-render/Interrupt.h"
 
@@ -45,8 +46,8 @@ Outcome failure(const QString& reason)
 Outcome brokenDown(int status)
 {
     if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) // by the system, which does so where the memory runs out
-        return failure(QStringLiteral("Rendering it was ended from outside, as happens where the memory runs out."));
-    return failure(QStringLiteral("Rendering it failed: the program broke down."));
+        return failure(Reason::tr("Rendering it was ended from outside, as happens where the memory runs out."));
+    return failure(Reason::tr("Rendering it failed: the program broke down."));
 }
 
 /// A process at work on a task.
@@ -128,7 +129,7 @@ private:
         return {};
     }
 
-    static QString noProcess() { return QStringLiteral("No process can be started for it."); }
+    static QString noProcess() { return Reason::tr("No process can be started for it."); }
 
     /// In the process of the task.
     [[noreturn]] void work(const Task& task, pid_t parent, int report)
