@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/Appearance.h"
 #include "app/desktop/CommandLine.h"
+#include "app/desktop/Language.h"
 #include "app/desktop/SessionEnd.h"
 #include "app/window/MainWindowController.h"
 
@@ -33,6 +34,7 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(QStringLiteral(LUMORA_ID));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/" LUMORA_ID ".png")));
     useDarkAppearance();
+    useLanguage(languageOfDesktop());
 
     MainWindowController controller(std::move(reader));
     const SessionEnd sessionEnd;

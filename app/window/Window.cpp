@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/desktop/Language.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "image/CharImage.h"
@@ -29,9 +30,12 @@ void fill(QComboBox& popUp, const QStringList& choices)
     popUp.setCurrentIndex(0);
 }
 
+/// In the language of the window where it has one, and else in English.
 QString helpDocument()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/lumora/help.pdf");
+    const QString help = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/lumora/help");
+    const QString translated = QStringLiteral("%1_%2.pdf").arg(help, usedLanguage());
+    return QFileInfo::exists(translated) ? translated : help + QStringLiteral(".pdf");
 }
 
 } // namespace

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sets the help text as a PDF file: make_help help.html photo.jpg help.pdf
+// Sets the help text as PDF files: make_help help.html photo.jpg FOLDER [LANGUAGE.qm...]
+//
+// The first is help.pdf, in English; one more for each language has its name, as in help_de.pdf. What is translated is
+// each element of the text by itself: make_help --texts help.html  prints them, in the form in which lupdate reads
+// them.
 //
 // What depends on the looks is filled in here: their crops and borders, and the row of looks, each with its picture:
 // the photo rendered by the pipeline, as the window would. A look that help says nothing about is an error. In the
@@ -9,18 +13,23 @@
 #include "image/FilterNumber.h"
 #include "render/RenderPipeline.h"
 
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QHash>
 #include <QImage>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTextDocument>
+#include <QTranslator>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <iterator>
+#include <vector>
 
 using namespace lumora;
 
@@ -72,6 +81,56 @@ QString faultyText()
     return {};
 }
 
+constexpr const char *none = "none", *allOthers = "all others"; ///< of the crops and borders
+
+/// In the language that is set; in English where it does not have the text.
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Help", text);
+}
+
+/// What stands between the marks of an element of the text.
+struct Element {
+    qsizetype begin, length;
+    QString text; ///< on one line
+};
+
+/// Those that have words.
+std::vector<Element> elementsOf(const QString& html)
+{
+    static const QRegularExpression element(QStringLiteral("<(title|h1|h2|p|li|th|td)(?: [^>]*)?>(.*?)</\\1>"),
+        QRegularExpression::DotMatchesEverythingOption),
+        word(QStringLiteral("^(?!<img).*\\w"));
+    std::vector<Element> all;
+    for (const QRegularExpressionMatch& match : element.globalMatch(html))
+        if (const QString text = match.captured(2).simplified(); word.match(text).hasMatch())
+            all.push_back({match.capturedStart(2), match.capturedLength(2), text});
+    return all;
+}
+
+QString translatedText(QString html)
+{
+    const std::vector<Element> elements = elementsOf(html);
+    for (auto element = elements.rbegin(); element != elements.rend(); ++element)
+        html.replace(element->begin, element->length, translated(element->text.toUtf8().constData()));
+    // Not each has the letters of each language.
+    return html.replace(QStringLiteral("DejaVu Sans"),
+        QCoreApplication::translate("Help", "DejaVu Sans", "a font that has the letters of the language"));
+}
+
+/// Of the help and of its tables.
+void printTexts(const QString& html)
+{
+    QStringList texts = {none, allOthers};
+    for (const Element& element : elementsOf(html))
+        texts << element.text;
+    for (const LookText& look : looks)
+        texts << look.says << look.crop << look.border;
+    texts.removeAll(QString());
+    for (const QString& text : texts)
+        std::printf("QT_TRANSLATE_NOOP(\"Help\", R\"(%s)\")\n", qUtf8Printable(text));
+}
+
 /// Cells in rows of so many.
 QString rowsOf(const QStringList& cells, int inRow)
 {
@@ -89,21 +148,21 @@ QString lookRows()
         cells += QStringLiteral("<td width=\"33%\" bgcolor=\"#e4e6ea\"><img src=\"look:%1\"><br>"
                                 "<span class=\"look\">%2</span><br><span class=\"says\">%3</span></td>")
                      .arg(look.filter)
-                     .arg(CharImage::getFilterName(look.filter), look.says);
+                     .arg(CharImage::getFilterName(look.filter), translated(look.says));
     return rowsOf(cells, 3);
 }
 
 QString framingRows()
 {
-    const auto cell = [](const char* name, const char* crop, const char* border) {
+    const auto cell = [](const QString& name, const char* crop, const char* border) {
         return QStringLiteral("<td>%1</td><td>%2</td><td>%3</td><td width=\"26\"></td>")
-            .arg(name, *crop ? crop : "none", *border ? border : "none");
+            .arg(name, translated(*crop ? crop : none), translated(*border ? border : none));
     };
     QStringList cells;
     for (const LookText& look : looks)
         if (*look.crop || *look.border)
             cells += cell(CharImage::getFilterName(look.filter), look.crop, look.border);
-    return rowsOf(cells << cell("all others", "", ""), 2);
+    return rowsOf(cells << cell(translated(allOthers), "", ""), 2);
 }
 
 /// The help's text; an image of the address "look:N" is the photo under filter N with its crop and border.
@@ -117,15 +176,23 @@ public:
 protected:
     QVariant loadResource(int type, const QUrl& url) override
     {
-        const int filter = url.path().toInt();
-        if (url.scheme() == "look")
-            return printed(rendered(filter, filter), {390, 232});
-        if (url.scheme() == "split")
-            return printed(split(rendered(Filter::original, filter), rendered(filter, filter)), {480, 260});
-        return QTextDocument::loadResource(type, url);
+        if (url.scheme() != "look" && url.scheme() != "split")
+            return QTextDocument::loadResource(type, url);
+        static QHash<QUrl, QImage> pictures; // the same in each language
+        if (!pictures.contains(url))
+            pictures[url] = pictureOf(url);
+        return pictures[url];
     }
 
 private:
+    QImage pictureOf(const QUrl& url) const
+    {
+        const int filter = url.path().toInt();
+        if (url.scheme() == "look")
+            return printed(rendered(filter, filter), {390, 232});
+        return printed(split(rendered(Filter::original, filter), rendered(filter, filter)), {480, 260});
+    }
+
     /// Under a look, in the crop and the border of one.
     QImage rendered(int filter, int framing) const
     {
@@ -153,39 +220,59 @@ private:
     const QImage photo;
 };
 
+/// The help in the language that is set.
+void write(const QString& path, const QString& html, const QImage& photo)
+{
+    CharImage::useRandom = 0;
+    std::srand(17); // the light leak falls at the same place in every build
+    // Rendered at the size of a preview: some looks depend on it.
+    HelpDocument document(photo.scaledToWidth(800, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGBX8888));
+    document.setHtml(translatedText(html)
+                         .replace("<!-- looks -->", lookRows())
+                         .replace("<!-- crops and borders -->", framingRows()));
+    QPdfWriter writer(path);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setTitle(translated("Lumora Help"));
+    writer.setCreator("Lumora");
+    document.print(&writer);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QGuiApplication application(argc, argv);
     const QStringList arguments = application.arguments();
-    if (arguments.size() != 4) {
-        std::fprintf(stderr, "make_help: give the text, the photo and the PDF file to write\n");
+    if (arguments.size() < 3) {
+        std::fprintf(stderr, "make_help: give the text, the photo and the folder to write into\n");
         return 2;
     }
-    QFile text(arguments[1]);
+    const bool onlyTexts = arguments[1] == "--texts";
+    QFile file(arguments[onlyTexts ? 2 : 1]);
     const QImage photo(arguments[2]);
-    if (!text.open(QIODevice::ReadOnly) || photo.isNull()) {
+    if (!file.open(QIODevice::ReadOnly) || (!onlyTexts && photo.isNull())) {
         std::fprintf(stderr, "make_help: the text or the photo cannot be read\n");
         return 1;
+    }
+    const QString html = QString::fromUtf8(file.readAll());
+    if (onlyTexts) {
+        printTexts(html);
+        return 0;
     }
     if (const QString look = faultyText(); !look.isEmpty()) {
         std::fprintf(stderr, "make_help: %s has no sentence, or a crop or a border without words\n", qPrintable(look));
         return 1;
     }
-    CharImage::useRandom = 0;
-    std::srand(17); // the light leak falls at the same place in every build
-
-    // Rendered at the size of a preview: some looks depend on it.
-    HelpDocument document(photo.scaledToWidth(800, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGBX8888));
-    document.setHtml(QString::fromUtf8(text.readAll())
-                         .replace("<!-- looks -->", lookRows())
-                         .replace("<!-- crops and borders -->", framingRows()));
-
-    QPdfWriter writer(arguments[3]);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setTitle("Lumora Help");
-    writer.setCreator("Lumora");
-    document.print(&writer);
+    const QDir folder(arguments.value(3));
+    write(folder.filePath("help.pdf"), html, photo);
+    for (const QString& language : arguments.mid(4)) {
+        QTranslator texts;
+        if (!texts.load(language)) {
+            std::fprintf(stderr, "make_help: %s cannot be read\n", qPrintable(language));
+            return 1;
+        }
+        QCoreApplication::installTranslator(&texts);
+        write(folder.filePath(QStringLiteral("help_%1.pdf").arg(QFileInfo(language).completeBaseName())), html, photo);
+    }
     return 0;
 }
