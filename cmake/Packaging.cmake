@@ -39,7 +39,7 @@ set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "photo looks: one photo, many looks, a JPEG
 Lumora opens one photo, shows it under each of its looks, crops it, puts a
 border round it and saves it as a JPEG.")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
-    "qt6-image-formats-plugins, qt6-wayland, qt6-xdgdesktopportal-platformtheme, xdg-utils")
+    "qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, qt6-xdgdesktopportal-platformtheme, xdg-utils")
 
 if(LUMORA_LIBRARY)
     add_package(library liblumora1 libs)

@@ -111,9 +111,9 @@ void LookStrip::keyPressEvent(QKeyEvent* event)
     const auto walkTo = [&](qsizetype to) { all[qBound(qsizetype(0), to, last)]->setFocus(Qt::TabFocusReason); };
     switch (event->key()) {
     case Qt::Key_Left:
-        return walkTo(at - 1);
+        return walkTo(isRightToLeft() ? at + 1 : at - 1);
     case Qt::Key_Right:
-        return walkTo(at + 1);
+        return walkTo(isRightToLeft() ? at - 1 : at + 1);
     case Qt::Key_Home:
         return walkTo(0);
     case Qt::Key_End:

@@ -17,7 +17,7 @@ public:
     explicit LookStrip(QWidget* parent = nullptr);
     ~LookStrip() override;
 
-    QList<LookButton*> buttons() const; ///< from left to right
+    QList<LookButton*> buttons() const; ///< in the order in which they are read
     /// Makes the buttons of further looks behind a thin line.
     void addLooks(const std::vector<int>& filters);
     /// Presses the buttons of the applied looks; several carry their places (`multi`). The last one is scrolled to.

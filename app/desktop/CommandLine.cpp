@@ -28,24 +28,23 @@ QCommandLineOption toolkitOption(const char* name, const QString& value = {})
 
 /// The parser takes text, and names are bytes: each byte becomes the character of its number, and back.
 class Parser : public QCommandLineParser {
-    Q_DECLARE_TR_FUNCTIONS(CommandLine)
-
 public:
     Parser()
     {
         // Qt's own options begin with one dash.
         setSingleDashWordOptionMode(ParseAsLongOptions);
-        addOptions({{{"h", "help"}, tr("Print this help.")}, {{"v", "version"}, tr("Print the version.")}});
+        addOptions({{{"h", "help"}, QStringLiteral("Print this help.")},
+            {{"v", "version"}, QStringLiteral("Print the version.")}});
         for (const char* name : toolkitValues)
             addOption(toolkitOption(name, QStringLiteral("value")));
         for (const char* name : toolkitSwitches)
             addOption(toolkitOption(name));
         setApplicationDescription(
-            tr("Gives one photo a look. Of several photos the first is opened; Page Down and Page "
-               "Up go through them.\nStatus: 2 if the arguments are wrong."));
+            QStringLiteral("Gives one photo a look. Of several photos the first is opened; Page Down and Page "
+                           "Up go through them.\nStatus: 2 if the arguments are wrong."));
         addPositionalArgument(QStringLiteral("PHOTO"),
-            tr("Files or file:// addresses; after -- also names that begin "
-               "with a dash."),
+            QStringLiteral("Files or file:// addresses; after -- also names that begin "
+                           "with a dash."),
             QStringLiteral("[--] [PHOTO...]"));
     }
 };

@@ -50,10 +50,11 @@ QStringList languages()
 QString languageOfDesktop()
 {
     const QStringList known = languages();
-    for (QString name : QLocale::system().uiLanguages()) {
-        name.replace(u'-', u'_');
-        if (name == QLatin1String("en") || known.contains(name))
-            return known.contains(name) ? name : QString();
+    for (QString wanted : QLocale::system().uiLanguages()) {
+        wanted.replace(u'-', u'_');
+        for (const QString& name : {wanted, wanted.section(u'_', 0, 0)}) // Austrian is German
+            if (name == QLatin1String("en") || known.contains(name))
+                return known.contains(name) ? name : QString();
     }
     return {};
 }
