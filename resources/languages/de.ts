@@ -1100,10 +1100,6 @@
         <translation>Das Programm, das Fotos liest, kann nicht gestartet werden. Lumora ist nicht vollständig installiert.</translation>
     </message>
     <message>
-        <source>The file cannot be read.</source>
-        <translation>Die Datei kann nicht gelesen werden.</translation>
-    </message>
-    <message>
         <source>A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.</source>
         <translation>Ein JPEG kann %1 x %2 Pixel nicht aufnehmen. Bitte eine kleinere Größe wählen.</translation>
     </message>

@@ -1100,10 +1100,6 @@
         <translation>El programa que lee las fotos no se puede iniciar. Lumora no está instalado por completo.</translation>
     </message>
     <message>
-        <source>The file cannot be read.</source>
-        <translation>El archivo no se puede leer.</translation>
-    </message>
-    <message>
         <source>A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.</source>
         <translation>Un JPEG no puede contener %1 x %2 píxeles. Elige un tamaño menor.</translation>
     </message>

@@ -1100,10 +1100,6 @@
         <translation>Le programme qui lit les photos ne peut pas être lancé. Lumora n’est pas complètement installé.</translation>
     </message>
     <message>
-        <source>The file cannot be read.</source>
-        <translation>Le fichier ne peut pas être lu.</translation>
-    </message>
-    <message>
         <source>A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.</source>
         <translation>Un JPEG ne peut pas contenir %1 x %2 pixels. Choisissez une taille plus petite.</translation>
     </message>

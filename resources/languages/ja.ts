@@ -1100,10 +1100,6 @@
         <translation>写真を読むプログラムを起動できません。Lumora が完全にインストールされていません。</translation>
     </message>
     <message>
-        <source>The file cannot be read.</source>
-        <translation>ファイルを読み取れません。</translation>
-    </message>
-    <message>
         <source>A JPEG cannot hold %1 x %2 pixels. Choose a smaller size.</source>
         <translation>JPEG には %1 x %2 ピクセルは入りません。小さいサイズを選んでください。</translation>
     </message>
