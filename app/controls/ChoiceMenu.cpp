@@ -4,6 +4,7 @@
 #include "app/state/Preferences.h"
 
 #include <QActionGroup>
+#include <QRegularExpression>
 #include <algorithm>
 
 ChoiceMenu::ChoiceMenu(const QString& title, const lumora::GrowString& key, const QStringList& entries, QWidget* parent)
@@ -24,5 +25,7 @@ int ChoiceMenu::chosen() const
 
 QString ChoiceMenu::chosenText() const
 {
-    return actions()[chosen()]->iconText(); // the text without its mark of a key
+    // Without its mark of a key, which stands in brackets where the letter is none of the text.
+    static const QRegularExpression mark(QStringLiteral("\\(&.\\)|&"));
+    return actions()[chosen()]->text().remove(mark);
 }

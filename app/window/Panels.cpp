@@ -134,7 +134,7 @@ void MainWindowController::saveManyPhotos()
     };
     const QString words =
         tr("%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6")
-            .arg(breadcrumb(filterIDs, false), QString::number(choices.strength), m_ui->btnCropping->currentText(),
+            .arg(breadcrumb(filterIDs, false), shownNumber(choices.strength), m_ui->btnCropping->currentText(),
                 m_ui->btnBorders->currentText(), m_ui->btnImgSize->currentText(), m_quality->chosenText());
     SaveManyPanel panel(this, choices, words, ask);
     const WorkWaits waits(m_work);

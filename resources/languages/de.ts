@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>Dekodieren</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · Stärke: %2 % · Zuschnitt: %3 · Rahmen: %4 · Größe: %5 · Qualität: %6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>Looks</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>Nach</translation>
     </message>
@@ -1254,6 +1254,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Auswahl</translation>
     </message>
 </context>
 <context>

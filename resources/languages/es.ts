@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>Descodificar</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · Intensidad: %2 % · Recorte: %3 · Borde: %4 · Tamaño: %5 · Calidad: %6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>Efectos</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>En</translation>
     </message>
@@ -1254,6 +1254,10 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Elegido</translation>
     </message>
 </context>
 <context>

@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>Décodage</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · Intensité&#xa0;: %2&#xa0;% · Cadrage&#xa0;: %3 · Bordure&#xa0;: %4 · Taille&#xa0;: %5 · Qualité&#xa0;: %6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>Photos</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>Effets</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>Dans</translation>
     </message>
@@ -1254,6 +1254,10 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Choix</translation>
     </message>
 </context>
 <context>

@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>Decodifica</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · Intensità: %2% · Ritaglio: %3 · Bordo: %4 · Misura: %5 · Qualità: %6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>Foto</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>Effetti</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>In</translation>
     </message>
@@ -1254,6 +1254,10 @@
     <message>
         <source>Close</source>
         <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Scelte</translation>
     </message>
 </context>
 <context>

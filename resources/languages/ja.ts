@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>デコード</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · 強さ: %2 % · 切り抜き: %3 · 枠: %4 · サイズ: %5 · 品質: %6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>写真</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>ルック</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>保存先</translation>
     </message>
@@ -1253,6 +1253,10 @@
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>選択内容</translation>
     </message>
 </context>
 <context>

@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>Dekodowanie</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · Siła: %2% · Kadr: %3 · Ramka: %4 · Rozmiar: %5 · Jakość: %6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>Zdjęcia</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>Efekty</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>Do folderu</translation>
     </message>
@@ -1255,6 +1255,10 @@
     <message>
         <source>Close</source>
         <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Wybór</translation>
     </message>
 </context>
 <context>

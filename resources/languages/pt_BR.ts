@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>Decodificar</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · Força: %2% · Corte: %3 · Borda: %4 · Tamanho: %5 · Qualidade: %6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>Efeitos</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>Em</translation>
     </message>
@@ -1254,6 +1254,10 @@
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Escolhas</translation>
     </message>
 </context>
 <context>

@@ -952,6 +952,10 @@
         <source>Decode</source>
         <translation>解码</translation>
     </message>
+    <message>
+        <source>%1 · Strength: %2 % · Crop: %3 · Border: %4 · Size: %5 · Quality: %6</source>
+        <translation>%1 · 强度：%2% · 裁剪：%3 · 边框：%4 · 尺寸：%5 · 质量：%6</translation>
+    </message>
 </context>
 <context>
     <name>Reason</name>
@@ -1197,10 +1201,6 @@
         <translation>照片</translation>
     </message>
     <message>
-        <source>Looks</source>
-        <translation>滤镜</translation>
-    </message>
-    <message>
         <source>Into</source>
         <translation>保存到</translation>
     </message>
@@ -1253,6 +1253,10 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>所选项</translation>
     </message>
 </context>
 <context>
