@@ -3,7 +3,7 @@
 """Looks through the files of the languages: languages.py FOLDER
 
 Each text is translated, and keeps what the program puts in or reads out of it: placeholders, marks of the help, the
-letter that opens it by the keyboard, an ellipsis, the end of a sentence. Prints what is wrong and fails if anything
+letter that opens it by the keyboard, an ellipsis, the end of a sentence or a list. Prints what is wrong and fails if anything
 is."""
 
 import collections
@@ -18,7 +18,7 @@ KEPT = {
     "letters": re.compile(r"&(?![a-z]+;)(?=\w)"),
     "ellipses": re.compile("…"),
 }
-ENDS = (".", "。")
+ENDS = [(".", "。"), ";"]
 
 
 def faults_of(source, text):
@@ -28,7 +28,7 @@ def faults_of(source, text):
     for what, pattern in KEPT.items():
         if collections.Counter(pattern.findall(source)) != collections.Counter(pattern.findall(text)):
             yield f"has other {what}"
-    if source.endswith(ENDS) != text.endswith(ENDS):
+    if any(source.endswith(end) != text.endswith(end) for end in ENDS):
         yield "ends otherwise"
 
 

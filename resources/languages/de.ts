@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>Foto-Looks</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>Einem Foto einen Look geben und es speichern</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>Lumora zeigt ein Foto groß und daneben, wie es mit jedem seiner Looks wäre: kühl und gedämpft, warm und verblasst, schwarzweiß, wie ein Sofortbild oder ein Bild aus einem Film. Ein Druck wendet einen Look an; sind mehrere Looks eingeschaltet, stapeln sie sich in der Reihenfolge, in der sie gewählt wurden.</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>Was es kann:</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>Looks vom Sofortbild bis zum Infrarotfilm, von denen sich viele zufällig verändern lassen</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>Zuschnitte und Rahmen, die zu einem Look gehören oder von Hand gewählt werden</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>Vierteldrehungen, fest eingerechnete Looks und JPEG-Dateien in der gewünschten Größe</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>öffnet JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD und Rohfotos von Kameras, aufrecht und in den richtigen Farben</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>bedienbar mit der Maus, der Tastatur und einem Bildschirmleser</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>Ein Foto mit dem Look Mono über der Reihe der Looks</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>Das Foto vor und nach dem Look 1974, zu beiden Seiten einer Linie</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>Einem Foto einen Look, einen Zuschnitt und einen Rahmen geben und es speichern</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>foto;bild;look;filter;effekt;rahmen;zuschnitt;sofortbild;retro;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>Efectos fotográficos</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>Dar un efecto a una foto y guardarla</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>Lumora muestra una foto en grande y, al lado, cómo sería con cada uno de sus efectos: fría y apagada, cálida y desvaída, en blanco y negro, como una copia instantánea o un fotograma de cine. Una pulsación aplica un efecto; con varios efectos activados, se apilan en el orden en que se eligieron.</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>Lo que hace:</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>efectos que van de la copia instantánea a la película infrarroja, muchos de los cuales pueden variar al azar</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>recortes y bordes propios de un efecto o elegidos a mano</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>giros de un cuarto de vuelta, efectos permanentes y archivos JPEG del tamaño deseado</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>abre fotos JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD y en bruto de las cámaras, derechas y con sus colores correctos</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>se maneja con el ratón, con el teclado y con un lector de pantalla</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>Una foto con el efecto Mono, sobre la fila de efectos</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>La foto antes y después del efecto 1974, a ambos lados de una línea</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>Dar a una foto un efecto, un recorte y un borde, y guardarla</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>foto;imagen;look;filtro;efecto;borde;recorte;instantánea;retro;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>Effets photo</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>Donner un effet à une photo et l’enregistrer</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>Lumora montre une photo en grand et, à côté, ce qu’elle serait avec chacun de ses effets&#xa0;: froide et atténuée, chaude et passée, en noir et blanc, comme un tirage instantané ou l’image d’un film. Une pression applique un effet&#xa0;; quand plusieurs effets sont activés, ils s’empilent dans l’ordre où ils ont été choisis.</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>Ce qu’il fait&#xa0;:</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>des effets allant du tirage instantané au film infrarouge, dont beaucoup peuvent varier au hasard</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>des cadrages et des bordures propres à un effet ou choisis à la main</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>des rotations d’un quart de tour, des effets rendus permanents et des fichiers JPEG à la taille voulue</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>ouvre les photos JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD et les photos brutes des appareils, à l’endroit et dans leurs vraies couleurs</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>s’utilise à la souris, au clavier et avec un lecteur d’écran</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>Une photo avec l’effet Mono, au-dessus de la rangée des effets</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>La photo avant et après l’effet 1974, de part et d’autre d’une ligne</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>Donner à une photo un effet, un cadrage et une bordure, et l’enregistrer</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>photo;image;look;filtre;effet;bordure;cadrage;instantané;rétro;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>Effetti fotografici</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>Dare un effetto a una foto e salvarla</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>Lumora mostra una foto in grande e, accanto, come sarebbe con ciascuno dei suoi effetti: fredda e smorzata, calda e sbiadita, in bianco e nero, come una stampa istantanea o un fotogramma di un film. Una pressione applica un effetto; con più effetti attivi, si sommano nell’ordine in cui sono stati scelti.</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>Che cosa fa:</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>effetti dalla stampa istantanea alla pellicola a infrarossi, molti dei quali possono variare a caso</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>ritagli e bordi propri di un effetto o scelti a mano</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>rotazioni di un quarto di giro, effetti resi permanenti e file JPEG della misura voluta</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>apre foto JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD e foto raw delle fotocamere, diritte e nei colori giusti</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>si usa con il mouse, con la tastiera e con un lettore di schermo</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>Una foto con l’effetto Mono, sopra la fila degli effetti</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>La foto prima e dopo l’effetto 1974, ai due lati di una linea</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>Dare a una foto un effetto, un ritaglio e un bordo, e salvarla</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>foto;immagine;look;filtro;effetto;bordo;ritaglio;istantanea;retro;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>

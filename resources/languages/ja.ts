@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>写真のルック</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>写真にルックを与えて保存します</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>Lumora は一枚の写真を大きく表示し、その横にそれぞれのルックを適用した様子を並べます。冷たく抑えた色、暖かく色あせた色、白黒、インスタント写真や映画の一場面のような仕上がり。一度押すだけでルックを適用でき、複数のルックをオンにすると、選んだ順に重なります。</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>できること:</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>インスタント写真から赤外線フィルムまでのルック。多くはランダムに変化させられます</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>ルックに属する、または自分で選ぶ切り抜きと枠</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>90 度の回転、ルックの統合、望みのサイズの JPEG ファイル</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>JPEG、PNG、GIF、TIFF、WebP、HEIC、AVIF、JPEG XL、BMP、TGA、PSD、カメラの RAW 写真を、正しい向きと色で開きます</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>マウス、キーボード、スクリーンリーダーで操作できます</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>ルック Mono を適用した写真と、下に並ぶルック</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>線の左右に、ルック 1974 の適用前と適用後の写真</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>写真にルックと切り抜きと枠を与えて保存します</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>写真;画像;ルック;フィルター;効果;枠;切り抜き;インスタント;レトロ;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>Efekty fotograficzne</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>Nadaj zdjęciu efekt i zapisz je</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>Lumora pokazuje duże zdjęcie, a obok to, jak wyglądałoby z każdym z efektów: chłodne i stonowane, ciepłe i wyblakłe, czarno-białe, jak odbitka natychmiastowa lub klatka filmu. Jedno naciśnięcie stosuje efekt; gdy włączono wiele efektów, nakładają się w kolejności, w jakiej je wybrano.</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>Co potrafi:</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>efekty od odbitki natychmiastowej po film podczerwony, z których wiele może się losowo zmieniać</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>kadry i ramki należące do efektu lub wybierane ręcznie</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>obroty o ćwierć, efekty na stałe i pliki JPEG w wybranym rozmiarze</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>otwiera zdjęcia JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD i surowe zdjęcia z aparatów, prosto i we właściwych kolorach</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>działa z myszą, klawiaturą i czytnikiem ekranu</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>Zdjęcie z efektem Mono, nad rzędem efektów</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>Zdjęcie przed efektem 1974 i po nim, po obu stronach linii</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>Nadaj zdjęciu efekt, kadr i ramkę, i zapisz je</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>zdjęcie;obraz;look;filtr;efekt;ramka;kadr;natychmiastowe;retro;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="br_FR" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>Efeitos de foto</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>Dar um efeito a uma foto e salvá-la</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>O Lumora mostra uma foto em tamanho grande e, ao lado, como ela ficaria com cada um de seus efeitos: fria e suave, quente e desbotada, em preto e branco, como uma foto instantânea ou um quadro de filme. Um clique aplica um efeito; com vários efeitos ligados, eles se somam na ordem em que foram escolhidos.</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>O que ele faz:</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>efeitos que vão da foto instantânea ao filme infravermelho, muitos dos quais podem variar ao acaso</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>cortes e bordas que acompanham um efeito ou são escolhidos à mão</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>giros de um quarto de volta, efeitos permanentes e arquivos JPEG no tamanho desejado</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>abre fotos JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD e raw de câmeras, na posição e nas cores certas</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>funciona com o mouse, o teclado e um leitor de tela</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>Uma foto com o efeito Mono, acima da fila de efeitos</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>A foto antes e depois do efeito 1974, dos dois lados de uma linha</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>Dar a uma foto um efeito, um corte e uma borda, e salvá-la</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>foto;imagem;look;filtro;efeito;borda;corte;instantânea;retrô;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>

@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Photo Looks</source>
+        <translation>照片滤镜</translation>
+    </message>
+    <message>
+        <source>Give a photo a look and save it</source>
+        <translation>为照片加上滤镜并保存</translation>
+    </message>
+    <message>
+        <source>Lumora shows one photo large and, beside it, what it would be under each of its looks: cool and muted, warm and faded, black and white, like an instant print or a frame of a film. One press applies a look; with multiple looks switched on, they stack in the order in which they were chosen.</source>
+        <translation>Lumora 以大图显示一张照片，并在旁边显示它套用每种滤镜后的样子：冷调柔和、暖调褪色、黑白、拍立得照片或电影画面。点一下即可应用滤镜；启用叠加滤镜后，它们会按选择的顺序叠加。</translation>
+    </message>
+    <message>
+        <source>What it does:</source>
+        <translation>功能：</translation>
+    </message>
+    <message>
+        <source>looks from instant prints to infrared film, many of which can be varied at random</source>
+        <translation>从拍立得到红外胶片的多种滤镜，其中许多可以随机变化</translation>
+    </message>
+    <message>
+        <source>crops and borders that come with a look or are chosen by hand</source>
+        <translation>随滤镜附带或手动选择的裁剪和边框</translation>
+    </message>
+    <message>
+        <source>quarter turns, looks made permanent, and JPEG files in the size that is wanted</source>
+        <translation>四分之一圈旋转、固定滤镜效果，以及所需尺寸的 JPEG 文件</translation>
+    </message>
+    <message>
+        <source>opens JPEG, PNG, GIF, TIFF, WebP, HEIC, AVIF, JPEG XL, BMP, TGA, PSD and cameras&apos; raw photos, upright and in their right colours</source>
+        <translation>打开 JPEG、PNG、GIF、TIFF、WebP、HEIC、AVIF、JPEG XL、BMP、TGA、PSD 和相机 RAW 照片，方向和颜色都正确</translation>
+    </message>
+    <message>
+        <source>works by mouse, by keyboard and with a screen reader</source>
+        <translation>可使用鼠标、键盘和屏幕阅读器操作</translation>
+    </message>
+    <message>
+        <source>A photo under the look Mono, above the strip of looks</source>
+        <translation>套用 Mono 滤镜的照片，下方是滤镜栏</translation>
+    </message>
+    <message>
+        <source>The photo before and after the look 1974, on either side of a line</source>
+        <translation>分隔线两侧是套用 1974 滤镜前后的照片</translation>
+    </message>
+    <message>
+        <source>Give a photo a look, a crop and a border, and save it</source>
+        <translation>为照片加上滤镜、裁剪和边框并保存</translation>
+    </message>
+    <message>
+        <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
+        <translation>照片;图片;风格;滤镜;效果;边框;裁剪;拍立得;复古;</translation>
+    </message>
+</context>
+<context>
     <name>DragDropImageView</name>
     <message>
         <source>Before: the photo without its looks, in its crop and border.</source>
