@@ -17,8 +17,8 @@ public:
     virtual bool hasRows() const { return false; }
     /// Reads the picture into `rows`; false where it cannot be read.
     virtual bool readRows(PhotoRows&) { return false; }
-    /// After read(): whether the file ended before its picture did, so that a part of it is the reader's.
+    /// After that: whether the file ended before its picture did, so that a part of it is the reader's.
     virtual bool restIsMissing() const { return false; }
-    /// After read(): what the file carries beside the picture, where readMetadata does not know the format.
+    /// After that: what the file carries beside the picture, where readMetadata does not know the format.
     virtual PhotoMetadata metadata() const { return {}; }
 };
