@@ -2,10 +2,15 @@
 // The loader on a file of any bytes: build/asan/fuzz/LoaderFuzz -max_total_time=600 FOLDER
 // build/asan/fuzz/seeds/LoaderFuzz
 
+#include "photo/FreeMemory.h"
+#include "photo/PhotoDecoder.h"
 #include "photo/PhotoLoader.h"
+#include "photo/PhotoRows.h"
 #include "photo/PhotoSaver.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <cstdint>
 #include <cstdlib>
 #include <sys/mman.h>
@@ -31,6 +36,35 @@ private:
     int m_descriptor;
 };
 
+class HashedRows : public PhotoRows {
+public:
+    void begin(QSize) override { m_hash.reset(); }
+    void take(const uchar* rows, qint64 bytes) override
+    {
+        m_hash.addData(QByteArrayView(reinterpret_cast<const char*>(rows), qsizetype(bytes)));
+    }
+    QByteArray result() const { return m_hash.result(); }
+
+private:
+    QCryptographicHash m_hash = QCryptographicHash(QCryptographicHash::Md5);
+};
+
+/// A photo in rows is the same as one in a picture.
+void compareWithRows(QByteArray file, const LoadedPhoto& photo)
+{
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::ReadOnly);
+    HashedRows rows, picture;
+    const LoadedPhoto inRows = decodePhoto(buffer, freeMemory(), &rows);
+    if (inRows.reason != photo.reason || inRows.restIsMissing != photo.restIsMissing)
+        __builtin_trap();
+    if (photo.image.isNull() || !inRows.image.isNull())
+        return;
+    picture.take(photo.image.constBits(), photo.image.sizeInBytes());
+    if (rows.result() != picture.result())
+        __builtin_trap();
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
@@ -53,6 +87,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QImage::Format format = photo.image.format();
     if (!photo.image.isNull() && format != QImage::Format_RGBX8888 && format != QImage::Format_RGB32)
         __builtin_trap();
+    const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
+    if (bytes.startsWith("\xFF\xD8"))
+        compareWithRows(bytes, photo);
     // What the camera wrote is as hostile as the rest.
     if (!photo.metadata.exif.isEmpty())
         encodeJpeg(photo.image.scaled(8, 8), photo.metadata);
