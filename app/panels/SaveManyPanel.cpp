@@ -123,7 +123,7 @@ SaveManyPanel::SaveManyPanel(QWidget* parent, const ManyChoices& choices, const 
     buttons->addWidget(m_close);
     rows->addLayout(buttons, 5, 0, 1, 4);
     rows->setColumnStretch(1, 1);
-    setMinimumWidth(560);
+    setMinimumWidth(660); // the choices in one line, mostly
 
     m_start->setDefault(true);
     connect(m_photosButton, &QPushButton::clicked, this, [this] { choosePhotos(Asked::Photos); });
