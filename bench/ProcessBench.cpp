@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures the way of one photo of 24 megapixels from file to file, in whole processes, against the programs of the
-// JPEG library on pictures of the same sizes: process_bench LUMORA-RENDER FOLDER
+// JPEG library on pictures of the same sizes, and many photos at once: process_bench LUMORA-RENDER FOLDER
 //
-// All on one core, in processor time, of each process and those that it starts. FOLDER takes the pictures. Beside them,
-// where they are installed, two curves by GraphicsMagick and one by libvips on the same photo.
+// The one photo on one core, in processor time, of each process and those that it starts. FOLDER takes the pictures.
+// Beside them, where they are installed, two curves by GraphicsMagick and one by libvips on the same photo.
 
 #include "bench/Measure.h"
 #include "bench/Photo.h"
@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <string>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -24,7 +25,7 @@
 
 namespace {
 
-constexpr int width = 6000, height = 4000, rounds = 5;
+constexpr int rounds = 5;
 
 struct Cost {
     double milliseconds = 1e9;
@@ -107,7 +108,34 @@ void measureOthers(const std::string& folder)
     measureOther("vips", {"vips", "gamma", photo, output + "[Q=75]", "--exponent", "1.1"});
 }
 
-bool writePhoto(const std::string& path)
+/// A hundred photos of 2 megapixels under two looks, on all cores.
+void measureJobs(const std::string& program, const std::string& folder)
+{
+    constexpr int count = 100;
+    namespace fs = std::filesystem;
+    fs::create_directory(folder + "/many");
+    std::vector<std::string> photos;
+    for (int i = 0; i < count; i++) {
+        photos.push_back(folder + "/many/" + std::to_string(i) + ".jpg");
+        fs::copy_file(folder + "/small.jpg", photos.back(), fs::copy_options::overwrite_existing);
+    }
+    double one = 0;
+    for (const std::string jobs : {"1", "2"}) {
+        const std::string output = folder + "/done" + jobs;
+        fs::create_directory(output);
+        std::vector<std::string> command = {
+            program, "--look", "Helga", "--look", "Mono", "--replace", "--output", output, "--jobs", jobs};
+        command.insert(command.end(), photos.begin(), photos.end());
+        Cost cost;
+        const double rate = count / secondsOf([&] { cost = costOf(command); });
+        one = one > 0 ? one : rate;
+        std::printf("--jobs %s   %5.1f photos a second, %.2f times one job, %.0f ms of a core each\n", jobs.c_str(),
+            rate, rate / one, cost.milliseconds / count);
+        std::fflush(stdout);
+    }
+}
+
+bool writePhoto(const std::string& path, int width, int height)
 {
     const Picture photo = benchPhoto(width, height);
     return QImage(photo.pixels.data(), width, height, qsizetype(width) * 4, QImage::Format_RGBX8888)
@@ -123,12 +151,13 @@ int main(int argc, char** argv)
         return 2;
     }
     const std::string folder = argv[2];
-    if (!writePhoto(folder + "/photo.jpg")) {
+    if (!writePhoto(folder + "/photo.jpg", 6000, 4000) || !writePhoto(folder + "/small.jpg", 1732, 1155)) {
         std::fprintf(stderr, "process_bench: cannot write into %s\n", folder.c_str());
         return 1;
     }
-    stayOnOneCore();
     prctl(PR_SET_CHILD_SUBREAPER, 1); // whom a program leaves behind becomes a child of this one
+    measureJobs(argv[1], folder);
+    stayOnOneCore();
     for (const char* look : {"Original", "Mono", "Helga"})
         compare(argv[1], folder, look);
     measureOthers(folder);
