@@ -7,7 +7,7 @@
 #include "photo/metadata/MetadataReader.h"
 #include "photo/reader/Channel.h"
 #include "photo/reader/Confinement.h"
-#include "photo/reader/SharedPhoto.h"
+#include "photo/reader/Sharing.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -5,7 +5,7 @@
 #include "photo/reader/Descriptor.h"
 #include "photo/reader/Message.h"
 
-class QIODevice;
+#include <fcntl.h>
 
 /// A photo on its way to the window.
 struct SharedPhoto {
@@ -13,9 +13,8 @@ struct SharedPhoto {
     Descriptor memory; ///< none beside a refusal
 };
 
-/// Decodes the file's photo as decodePhoto does, which tells of the arguments: the photo or its reason, to be sent. The
-/// memory is sealed: nobody can change it or its size any more. A photo that finds no room is refused.
-SharedPhoto sharedPhoto(QIODevice& file, qint64 memory);
+/// Of its memory, so that nobody can change it or its size any more.
+inline constexpr int photoSeals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
 
 /// The bytes of the memory where it is sealed, so that reading it cannot fail; 0 otherwise.
 qint64 sealedBytes(const Descriptor& memory);
