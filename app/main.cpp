@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/Appearance.h"
 #include "app/desktop/CommandLine.h"
+#include "app/desktop/DesktopContrast.h"
 #include "app/desktop/Language.h"
 #include "app/desktop/SessionEnd.h"
 #include "app/window/MainWindowController.h"
@@ -34,6 +35,8 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(QStringLiteral(LUMORA_ID));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/" LUMORA_ID ".png")));
     useDarkAppearance();
+    const DesktopContrast contrast;
+    QObject::connect(&contrast, &DesktopContrast::changed, &application, useDarkAppearance);
     useLanguage(languageOfDesktop());
 
     MainWindowController controller(std::move(reader));

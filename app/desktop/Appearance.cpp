@@ -1,27 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/Appearance.h"
 
+#include "app/desktop/FramedStyle.h"
+
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 
-void useDarkAppearance()
+void useDarkAppearance(bool highContrast)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
-    const QColor window(51, 51, 51), text(225, 225, 225), faint(140, 140, 140), accent(111, 179, 242);
-    QPalette colours(QColor(72, 72, 72), window);
+    QApplication::setStyle(new FramedStyle(highContrast));
+    const QColor window(51, 51, 51),
+        text = highContrast ? QColor(Qt::white) : QColor(225, 225, 225),
+        faint(highContrast ? 200 : 172, highContrast ? 200 : 172, highContrast ? 200 : 172), accent(126, 190, 250),
+        well = highContrast ? QColor(Qt::black) : QColor(38, 38, 38);
+    QPalette colours(highContrast ? QColor(20, 20, 20) : QColor(72, 72, 72), window);
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         colours.setColor(role, text);
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         colours.setColor(QPalette::Disabled, role, faint);
-    colours.setColor(QPalette::Base, QColor(38, 38, 38));
-    colours.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    colours.setColor(QPalette::ToolTipBase, QColor(38, 38, 38));
-    colours.setColor(QPalette::PlaceholderText, QColor(165, 165, 165));
+    colours.setColor(QPalette::Base, well);
+    colours.setColor(QPalette::AlternateBase, highContrast ? well : QColor(45, 45, 45));
+    colours.setColor(QPalette::ToolTipBase, well);
+    colours.setColor(QPalette::PlaceholderText, faint);
     colours.setColor(QPalette::Highlight, accent);
     colours.setColor(QPalette::HighlightedText, Qt::black);
     colours.setColor(QPalette::Link, accent);
     QApplication::setPalette(colours);
-    colours.setColor(QPalette::Base, QColor(96, 96, 96)); // an empty box must be seen
+    colours.setColor(QPalette::Base, highContrast ? well : QColor(80, 80, 80)); // an empty box must be seen
     QApplication::setPalette(colours, "QCheckBox");
 }

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/desktop/DesktopContrast.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusPendingCallWatcher>
+#include <utility>
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop"),
+              path = QStringLiteral("/org/freedesktop/portal/desktop"),
+              interface = QStringLiteral("org.freedesktop.portal.Settings");
+
+// The portal's own word for it, and that of GNOME's desktops whose portal does not have it yet.
+const QString appearance = QStringLiteral("org.freedesktop.appearance"), contrast = QStringLiteral("contrast"),
+              gnome = QStringLiteral("org.gnome.desktop.a11y.interface"),
+              gnomeContrast = QStringLiteral("high-contrast");
+
+bool isHigh(const QVariantMap& settings, const QString& key)
+{
+    const QVariant value = settings.value(key);
+    return value.metaType().id() == QMetaType::Bool ? value.toBool() : value.toUInt() == 1;
+}
+
+} // namespace
+
+DesktopContrast::DesktopContrast()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return;
+    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+        SLOT(settingChanged(QString, QString, QDBusVariant)));
+    ask();
+}
+
+void DesktopContrast::settingChanged(const QString& space, const QString& key, const QDBusVariant&)
+{
+    if ((space == appearance && key == contrast) || (space == gnome && key == gnomeContrast))
+        ask();
+}
+
+void DesktopContrast::ask()
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
+    question << QStringList({appearance, gnome});
+    auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        const QDBusMessage answer = watcher->reply();
+        if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != QStringLiteral("a{sa{sv}}"))
+            return;
+        const auto settings = qdbus_cast<QMap<QString, QVariantMap>>(answer.arguments().first());
+        const bool high = isHigh(settings.value(appearance), contrast) || isHigh(settings.value(gnome), gnomeContrast);
+        if (std::exchange(m_high, high) != high)
+            emit changed(high);
+    });
+}
