@@ -3,14 +3,6 @@
 
 #include <utility>
 
-namespace {
-
-struct DeleteTransform {
-    void operator()(void* transform) const { cmsDeleteTransform(transform); }
-};
-
-} // namespace
-
 IccProfile openProfile(const QByteArray& icc, cmsColorSpaceSignature model)
 {
     IccProfile profile(cmsOpenProfileFromMem(icc.constData(), cmsUInt32Number(icc.size())));

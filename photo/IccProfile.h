@@ -11,6 +11,10 @@ struct CloseProfile {
 };
 using IccProfile = std::unique_ptr<void, CloseProfile>;
 
+struct DeleteTransform {
+    void operator()(void* transform) const { cmsDeleteTransform(transform); }
+};
+
 /// The profile of those bytes; null where they are broken or of another colour model.
 IccProfile openProfile(const QByteArray& icc, cmsColorSpaceSignature model);
 
