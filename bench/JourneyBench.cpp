@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QBuffer>
+#include <QColorSpace>
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
@@ -96,6 +97,36 @@ void measureSplit(DragDropImageView& view)
     say(QStringLiteral("drag of the split to the painted preview, slowest step"), slowest * 1e3, "ms");
 }
 
+/// What a screen with a profile of its own adds to each new picture, and what the profile takes once.
+void measureScreenColors(DragDropImageView& view)
+{
+    const QByteArray icc = QColorSpace(QColorSpace::DisplayP3).iccProfile();
+    std::shared_ptr<const ScreenColors> colors;
+    say(QStringLiteral("reading the profile of a screen"),
+        1e3 * leastOf(rounds, [&] { return secondsOf([&] { colors = ScreenColors::of(icc); }); }), "ms");
+    const QImage picture = view.image(), other = picture.mirrored();
+    const auto newPicture = [&] {
+        return leastOf(pressRounds, [&] {
+            view.setImage(other);
+            paint();
+            return secondsOf([&] {
+                view.setImage(picture);
+                paint();
+            });
+        });
+    };
+    const double plain = newPicture();
+    view.setScreenColors(colors);
+    const double converted = newPicture();
+    view.setScreenColors(nullptr);
+    const QSize shown = (view.imageRect().size() * view.devicePixelRatioF()).toSize();
+    say(QStringLiteral("the screen's colours of a press, %1 x %2").arg(shown.width()).arg(shown.height()),
+        (converted - plain) * 1e3, "ms");
+    const QImage whole = picture.convertToFormat(QImage::Format_RGB32);
+    say(QStringLiteral("the same of all its pixels, %1 x %2").arg(whole.width()).arg(whole.height()),
+        1e3 * leastOf(pressRounds, [&] { return secondsOf([&] { colors->shown(whole); }); }), "ms");
+}
+
 void measureWindow(const QByteArray& photo)
 {
     MainWindowController window;
@@ -156,6 +187,7 @@ void measureWindow(const QByteArray& photo)
     strength->setSliderDown(false);
     say(QStringLiteral("drag of the strength to the painted preview: Helga"), drag * 1e3, "ms");
     measureSplit(*window.findChild<DragDropImageView*>());
+    measureScreenColors(*window.findChild<DragDropImageView*>());
     say(QStringLiteral("sixteen thumbnails, painted"),
         1e3
             * leastOf(pressRounds,

@@ -9,6 +9,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -84,6 +85,14 @@ void DragDropImageView::setSplit(bool on)
     tellState();
     update(shownArea());
     emit splitAnswered(m_isSplit);
+}
+
+void DragDropImageView::setScreenColors(const std::shared_ptr<const ScreenColors>& colors)
+{
+    m_screenColors = colors;
+    for (Fitted& fit : m_fittedImages)
+        fit = {};
+    update();
 }
 
 void DragDropImageView::placeSplit()
@@ -182,6 +191,7 @@ const QImage& DragDropImageView::fitted(bool before)
         fit.of = shown.cacheKey();
         fit.image = scaledTo(shown, size);
         fit.image.convertTo(QImage::Format_RGB32); // the screen's, so that painting only copies
+        fit.image = onScreen(std::move(fit.image), m_screenColors);
     }
     return fit.image;
 }
@@ -227,7 +237,7 @@ void DragDropImageView::paintCloseup(QPainter& painter, const QRect& exposed)
 {
     const qreal ratio = devicePixelRatioF();
     const Closeup::Part part = m_closeup.part(shownImage(), scaled(exposed, ratio).toAlignedRect(), room());
-    painter.drawImage(scaled(part.area, 1 / ratio), part.pixels);
+    painter.drawImage(scaled(part.area, 1 / ratio), onScreen(part.pixels, m_screenColors));
 }
 
 /// The labels are parts of the two pictures, and are covered with them.

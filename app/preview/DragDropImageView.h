@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/preview/Closeup.h"
+#include "photo/ScreenColors.h"
 
 #include <QBasicTimer>
 #include <QByteArray>
@@ -44,6 +45,8 @@ public:
     void setSplit(bool on);
     bool isSplit() const { return m_isSplit; }
     SplitLine* splitLine() const { return m_splitLine; }
+    /// All pictures are painted in these colours of the screen; null: as they are.
+    void setScreenColors(const std::shared_ptr<const ScreenColors>& colors);
     /// The picture that is shown now.
     const QImage& shownImage() const;
     /// Where the picture stands, in the coordinates of the widget. A magnified one may reach beyond it.
@@ -100,7 +103,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
-    /// A picture scaled to the widget, kept between two paintings.
+    /// A picture scaled to the widget, in the colours of the screen, kept between two paintings.
     struct Fitted {
         qint64 of = 0; ///< cache key of the picture
         QImage image;
@@ -124,6 +127,7 @@ private:
 
     std::function<QImage()> m_before;
     QImage m_rendered, m_compared;
+    std::shared_ptr<const ScreenColors> m_screenColors; ///< null: unknown
     Fitted m_fittedImages[2]; ///< of the render and of the compared picture
     Closeup m_closeup;
     QPointF m_pressed; ///< where the mouse went down

@@ -23,6 +23,7 @@
 #include <optional>
 
 class ChoiceMenu;
+class MonitorColors;
 class QAction;
 class QContextMenuEvent;
 class QFileDialog;
@@ -241,6 +242,7 @@ private:
     qreal thumbDensity() const;
     bool thumbnailsAreOutgrown() const; ///< they stand larger than their copy is
     void resizeSettled();
+    void showScreenColors();
     LoadedPhoto readPhoto(const QByteArray& path);
     bool runPanel(QFileDialog& panel);
     QByteArray askWhereToSave(qint64 bytes);
@@ -249,6 +251,7 @@ private:
     Choices m_choicesAtStart; ///< as the preferences had them
     ChoiceMenu* m_kept = nullptr; ///< in the order of Kept; owned by the menu
     ChoiceMenu* m_quality = nullptr; ///< in the order of JpegQuality; owned by the menu
+    MonitorColors* m_monitorColors; ///< of the screen that the window stands on; owned by the window
     QList<QAction*> m_lookActions; ///< the Looks menu; each carries its filter number
     QList<QAction*> m_strengthActions; ///< of no use without a look
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/Language.h"
+#include "app/desktop/MonitorColors.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
 #include "image/CharImage.h"
@@ -42,6 +43,7 @@ QString helpDocument()
 
 MainWindowController::MainWindowController(std::unique_ptr<PhotoReader> reader)
     : m_ui(std::make_unique<Ui::MainWindow>())
+    , m_monitorColors(new MonitorColors(this))
     , m_reader(reader ? std::move(reader) : std::make_unique<PhotoReader>())
 {
     awakeFromNib();
@@ -92,6 +94,7 @@ void MainWindowController::completeNibLoading()
 
     m_ui->mainImageView->setDelegate(this);
     connect(m_ui->mainImageView, &DragDropImageView::draggedOut, this, &MainWindowController::dragPhotoOut);
+    connect(m_monitorColors, &MonitorColors::changed, this, &MainWindowController::showScreenColors);
     connectComparing();
     qApp->installEventFilter(this);
     buildMenus();
@@ -173,7 +176,17 @@ void MainWindowController::updateThumbnailImages()
     if (m_photo.isNull() || m_photo.thumb().isNull())
         return;
     for (LookButton* button : m_ui->filtersBox->buttons())
-        button->setIcon(QPixmap::fromImage(filterNSImage(m_photo.thumb(), button->filter(), true)));
+        button->setIcon(QPixmap::fromImage(
+            onScreen(filterNSImage(m_photo.thumb(), button->filter(), true), m_monitorColors->colors())));
+}
+
+/// The pictures are the same, and are seen through other colours of the screen.
+void MainWindowController::showScreenColors()
+{
+    if (!m_work.mayBegin())
+        return QTimer::singleShot(settleTime, this, &MainWindowController::showScreenColors);
+    m_ui->mainImageView->setScreenColors(m_monitorColors->colors());
+    updateThumbnailImages();
 }
 
 /// Of the window with its frame, in pixels of the screen.
