@@ -9,6 +9,7 @@ import time
 import pyatspi
 
 deadline = 60.0  # seconds that anything may take on a slow machine
+origin = (0, 0)  # of what programs take for the screen: on Wayland each knows its own window alone
 
 
 def wait_for(what, condition, seconds=deadline):
@@ -90,7 +91,7 @@ def find(root, name=None, role=None):
 def extents(node):
     node.clear_cache()
     box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    return box.x, box.y, box.width, box.height
+    return origin[0] + box.x, origin[1] + box.y, box.width, box.height
 
 
 def middle(node):

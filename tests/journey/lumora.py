@@ -88,6 +88,13 @@ class Lumora:
         with open(picture, "rb") as file:
             return file.read()
 
+    def seen_of(self, name):
+        """What the screen shows of a control."""
+        picture = os.path.join(os.environ["HOME"], "control.png")
+        take_screenshot(self.tools, picture, self.control(name))
+        with open(picture, "rb") as file:
+            return file.read()
+
     def seen_beside_label(self):
         """What the screen shows of the right half of the photo, where no label stands while it is compared."""
         x, y, width, height = extents(self.preview())

@@ -1,0 +1,99 @@
+"""A Wayland desktop in a window of the virtual display, so that the display's pointer and keyboard are its own too."""
+
+import contextlib
+import os
+import re
+import subprocess
+
+from PIL import Image
+
+import desk
+from desk import point_at, take_screenshot_of_box, wait_for, xdotool
+
+WIDTH, HEIGHT = 1440, 1000
+SETTINGS = """[core]
+shell=desktop-shell.so
+idle-time=0
+[shell]
+panel-position=none
+background-color=0xff203040
+animation=none
+startup-animation=none
+close-animation=none
+locking=false
+"""
+
+
+class Weston:
+    """A running compositor. Use it in a `with` block: it never outlives the block."""
+
+    def __init__(self, tools):
+        self.tools = tools
+        self.home = os.environ["HOME"]
+        settings = os.path.join(self.home, "weston.ini")
+        with open(settings, "w") as file:
+            file.write(SETTINGS)
+        self.log = os.path.join(self.home, "weston.log")
+        with open(self.log, "w") as log:
+            self.process = subprocess.Popen(
+                ["weston", "--backend=x11-backend.so", "--use-pixman", "--socket=desk", "--fullscreen", "--debug",
+                 f"--width={WIDTH}", f"--height={HEIGHT}", f"--config={settings}"], stdout=log, stderr=log)
+        # The pointer may stand anywhere, but not in two places.
+        wait_for("the Wayland desktop", lambda: [(0x20, 0x30, 0x40)] * 2 == [
+            self.screen().getpixel(place) for place in ((100, 100), (WIDTH - 100, HEIGHT - 100))])
+        point_at(WIDTH - 1, HEIGHT - 1)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, failure, *ignored):
+        self.process.terminate()
+        self.process.wait()
+        if failure is not None:
+            with open(self.log) as log:
+                desk.say("The compositor's log:", log.read())
+
+    def screen(self):
+        picture = os.path.join(self.home, "screen.png")
+        take_screenshot_of_box(self.tools, picture, 0, 0, WIDTH, HEIGHT)
+        with Image.open(picture) as image:
+            return image.convert("RGB")
+
+    def scene(self):
+        """What the compositor tells of the windows."""
+        return subprocess.run(["weston-debug", "scene-graph"], env={**os.environ, "WAYLAND_DISPLAY": "desk"},
+                              capture_output=True, text=True, timeout=desk.deadline).stdout
+
+    @contextlib.contextmanager
+    def environment(self, frames):
+        """Programs that are started here come up on this desktop, and draw frames round their windows if so wished."""
+        before = dict(os.environ)
+        # On a busy machine the compositor is late with its frames; Qt 6.4 would take the window for unseen.
+        os.environ.update(WAYLAND_DISPLAY="desk", QT_QPA_PLATFORM="wayland", QT_WAYLAND_FRAME_CALLBACK_TIMEOUT="0")
+        if not frames:
+            os.environ["QT_WAYLAND_DISABLE_WINDOWDECORATION"] = "1"
+        try:
+            yield
+        finally:
+            os.environ.clear()
+            os.environ.update(before)
+
+    def box(self, title):
+        """Where the window of that title stands: left, top, right, bottom; None while it does not."""
+        found = re.search(rf"window '{re.escape(title)}' of .*\n\s*position: \((.*), (.*)\) -> \((.*), (.*)\)", self.scene())
+        return found and tuple(map(int, found.groups()))
+
+    def move(self, title, x, y):
+        """Moves a window by its frame, so that its upper left corner stands there. Gives its middle."""
+        def moved():
+            left, top, right, bottom = wait_for(f"the window {title}", lambda: self.box(title))
+            if (left, top) == (x, y):
+                return (left + right) // 2, (top + bottom) // 2
+            start = left + 40, top + 12
+            point_at(*start)
+            xdotool("mousedown", 1)
+            for step in range(1, 9):
+                point_at(start[0] + (x - left) * step // 8, start[1] + (y - top) * step // 8)
+            xdotool("mouseup", 1)
+            return None
+        return wait_for(f"the window {title} in its place", moved)
