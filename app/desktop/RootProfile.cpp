@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/RootProfile.h"
 
 #include "photo/ScreenColors.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The photo in the colours of the screen: a profile that X11 has is followed while the program runs; files stay sRGB."""
 
 import ctypes

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A whole walk on Wayland: open, press, compare, copy, save, drags in and out, on a compositor with a real pointer."""
 
 import glob

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A Wayland desktop in a window of the virtual display, so that the display's pointer and keyboard are its own too."""
 
 import contextlib
