@@ -11,6 +11,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QLoggingCategory>
 #include <array>
 #include <csignal>
 #include <cstdio>
@@ -39,6 +40,13 @@ void loadDecoders()
     damagedFile.open(QIODevice::ReadOnly);
     decodePhoto(unknownFile, 1 << 24);
     readMetadata(damagedFile, {});
+}
+
+/// Has the libraries that every photo needs find their files, too.
+void haveFilesRead()
+{
+    tzset(); // colour profiles are dated
+    const QLoggingCategory rules("photo"); // which say what Qt tells of a broken profile
 }
 
 /// Whether the request is there already, so that somebody waits while the decoders are loaded.
@@ -71,7 +79,7 @@ int runReader(int channel)
     if (isHurried && !isJpeg(request.file.number()))
         loadDecoders();
     qInstallMessageHandler(printMessage);
-    tzset(); // colour profiles are dated
+    haveFilesRead();
     if (!limit(*limits) || !confine())
         return 1;
     QFile file;

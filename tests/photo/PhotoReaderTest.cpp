@@ -84,6 +84,8 @@ private slots:
         QTest::newRow("one pixel") << samples::encoded(samples::noise(1, 1), "png");
         QTest::newRow("jpeg") << samples::encoded(noise, "jpeg");
         QTest::newRow("jpeg, cut off") << samples::encoded(noise, "jpeg").chopped(20000);
+        QTest::newRow("jpeg, a broken profile")
+            << samples::jpeg(samples::JpegKind::Colour, 8, 8, QByteArray(192, '\x55'), "icc");
         QTest::newRow("jpeg, grey") << samples::jpeg(samples::JpegKind::Grey, 64, 32, QByteArray(64 * 32, '\x55'));
         QTest::newRow("tiff") << samples::encoded(noise, "tiff");
         QTest::newRow("webp") << samples::encoded(noise, "webp");
