@@ -36,7 +36,8 @@ def inside(*command, **named):
 
 
 def apt(*command):
-    return inside("apt-get", "-qq", "-o", "Dpkg::Use-Pty=0", *command)
+    # Nobody needs the root after a power cut.
+    return inside("apt-get", "-qq", "-o", "Dpkg::Use-Pty=0", "-o", "Dpkg::Options::=--force-unsafe-io", *command)
 
 
 def make_packages():
