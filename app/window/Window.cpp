@@ -118,6 +118,13 @@ void MainWindowController::windowDidLoad()
     policy.setRetainSizeWhenHidden(true);
     m_ui->btnCancel->setSizePolicy(policy);
     m_ui->btnCancel->hide();
+    // Names of looks are Latin, and would stand where Latin begins.
+    const Qt::AlignmentFlag begin = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft,
+                            end = isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight;
+    m_ui->filtersText->setAlignment(begin | Qt::AlignAbsolute | Qt::AlignVCenter);
+    m_ui->noteText->setAlignment(end | Qt::AlignAbsolute | Qt::AlignVCenter);
+    // What turns to the left stays on the left, whatever way people read.
+    m_ui->turnLayout->setDirection(isRightToLeft() ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
     m_resizeSettles.setSingleShot(true);
     m_resizeSettles.setInterval(settleTime);
 }

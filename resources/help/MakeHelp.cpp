@@ -220,21 +220,59 @@ private:
     const QImage photo;
 };
 
-/// The help in the language that is set.
-void write(const QString& path, const QString& html, const QImage& photo)
+/// The text with letters in a part of their size.
+QString withLetters(const QString& html, double part)
+{
+    static const QRegularExpression size(QStringLiteral("font-size: ([0-9.]+)pt"));
+    QString sized;
+    qsizetype end = 0;
+    for (const QRegularExpressionMatch& match : size.globalMatch(html)) {
+        sized += html.mid(end, match.capturedStart() - end)
+            + QStringLiteral("font-size: %1pt").arg(match.captured(1).toDouble() * part);
+        end = match.capturedEnd();
+    }
+    return sized + html.mid(end);
+}
+
+/// Counts its pages.
+class PageWriter : public QPdfWriter {
+public:
+    using QPdfWriter::QPdfWriter;
+
+    bool newPage() override
+    {
+        pages++;
+        return QPdfWriter::newPage();
+    }
+
+    int pages = 1;
+};
+
+/// Writes the help; gives the number of its pages.
+int print(const QString& path, const QString& html, const QImage& photo)
 {
     CharImage::useRandom = 0;
     std::srand(17); // the light leak falls at the same place in every build
     // Rendered at the size of a preview: some looks depend on it.
     HelpDocument document(photo.scaledToWidth(800, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGBX8888));
-    document.setHtml(translatedText(html)
-                         .replace("<!-- looks -->", lookRows())
-                         .replace("<!-- crops and borders -->", framingRows()));
-    QPdfWriter writer(path);
+    document.setHtml(html);
+    PageWriter writer(path);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setTitle(translated("Lumora Help"));
     writer.setCreator("Lumora");
     document.print(&writer);
+    return writer.pages;
+}
+
+/// The help in the language that is set: two pages of text and one of looks, in smaller letters where it has more
+/// words.
+void write(const QString& path, const QString& text, const QImage& photo)
+{
+    const QString html =
+        translatedText(text).replace("<!-- looks -->", lookRows()).replace("<!-- crops and borders -->", framingRows());
+    for (const double part : {1.0, 0.97, 0.94, 0.91, 0.88, 0.85})
+        if (print(path, withLetters(html, part), photo) <= 3)
+            return;
 }
 
 } // namespace

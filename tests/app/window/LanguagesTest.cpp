@@ -256,6 +256,14 @@ private slots:
         Desk desk(makePhoto(300, 200));
         QVERIFY(middleOf(desk, "btnLoad") > middleOf(desk, "btnSave"));
         QVERIFY(middleOf(desk, "btnOriginal") > middleOf(desk, "btnHelga"));
+        QVERIFY(middleOf(desk, "btnLeft") < middleOf(desk, "btnRight")); // as they turn
+        const QImage words = desk.find<QLabel>("filtersText")->grab().toImage();
+        int lastInk = 0;
+        for (int x = 0; x < words.width(); x++)
+            for (int y = 0; y < words.height(); y++)
+                if (words.pixel(x, y) != words.pixel(0, 0))
+                    lastInk = x;
+        QVERIFY(lastInk > words.width() - 10);
         QCOMPARE(whatIsClipped(desk), QString());
         desk.window.resize(900, 480);
         QTRY_COMPARE(whatIsClipped(desk), QString());
