@@ -265,10 +265,6 @@
         <translation>Wie es gespeichert wird</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>Drücke &lt;b&gt;Z&lt;/b&gt; oder klicke zweimal auf das Foto, um es in Originalgröße zu sehen: Pixel für Pixel, was &lt;b&gt;Speichern&lt;/b&gt; schreibt, in der gewählten Größe. Weiche und körnige Looks sehen anders aus als im kleinen Bild. Ziehe das Foto oder drücke die Pfeiltasten, um andere Teile zu sehen; halte es still oder die Leertaste gedrückt, um es &lt;i&gt;vorher&lt;/i&gt; zu sehen. Das Rad mit Strg und die Tasten &lt;b&gt;+&lt;/b&gt; und &lt;b&gt;-&lt;/b&gt; gehen durch 50, 100 und 200 %; &lt;b&gt;Esc&lt;/b&gt; zeigt wieder das ganze Foto. &lt;b&gt;F11&lt;/b&gt; zeigt das Foto allein auf dem ganzen Bildschirm, wo die Tasten weiter gelten, bis &lt;b&gt;F11&lt;/b&gt; oder &lt;b&gt;Esc&lt;/b&gt;. Die rechte Maustaste und die Menütaste öffnen ein Menü auf dem Foto.</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>Tasten</translation>
     </message>
@@ -548,6 +544,10 @@
         <source>DejaVu Sans</source>
         <comment>a font that has the letters of the language</comment>
         <translation>DejaVu Sans</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>Drücke &lt;b&gt;Z&lt;/b&gt; oder klicke zweimal auf das Foto, um es in Originalgröße zu sehen: Pixel für Pixel, was &lt;b&gt;Speichern&lt;/b&gt; schreibt, in der gewählten Größe. Weiche und körnige Looks sehen anders aus als im kleinen Bild. Ziehe das Foto oder drücke die Pfeiltasten, um andere Teile zu sehen; halte es still oder die Leertaste gedrückt, um es &lt;i&gt;vorher&lt;/i&gt; zu sehen. Das Rad mit Strg und die Tasten &lt;b&gt;+&lt;/b&gt; und &lt;b&gt;-&lt;/b&gt; gehen durch 50, 100 und 200 %; &lt;b&gt;Esc&lt;/b&gt; zeigt wieder das ganze Foto. &lt;b&gt;F11&lt;/b&gt; zeigt das Foto allein auf dem ganzen Bildschirm, wo die Tasten weiter gelten, bis &lt;b&gt;F11&lt;/b&gt; oder &lt;b&gt;Esc&lt;/b&gt;. Die rechte Maustaste und die Menütaste öffnen ein Menü auf dem Foto. Wo der Desktop das Farbprofil des Bildschirms kennt, werden Fotos in dessen Farben gezeigt; was gespeichert wird, bleibt dasselbe.</translation>
     </message>
 </context>
 <context>

@@ -265,10 +265,6 @@
         <translation>Tal como se guardará</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>Pulsa &lt;b&gt;Z&lt;/b&gt;, o haz clic dos veces en la foto, para verla a tamaño real: píxel a píxel lo que escribe &lt;b&gt;Guardar&lt;/b&gt;, en el tamaño elegido. Los efectos suaves y granulados se ven distintos que en la imagen pequeña. Arrastra la foto, o pulsa las flechas, para ver otras partes; mantenla quieta, o la barra espaciadora, para verla &lt;i&gt;antes&lt;/i&gt;. La rueda con Ctrl y las teclas &lt;b&gt;+&lt;/b&gt; y &lt;b&gt;-&lt;/b&gt; pasan por 50, 100 y 200 %; &lt;b&gt;Esc&lt;/b&gt; la muestra otra vez entera. &lt;b&gt;F11&lt;/b&gt; deja la foto sola en toda la pantalla, donde las teclas siguen funcionando, hasta &lt;b&gt;F11&lt;/b&gt; o &lt;b&gt;Esc&lt;/b&gt;. El botón derecho del ratón y la tecla de menú abren un menú sobre la foto.</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>Teclas</translation>
     </message>
@@ -548,6 +544,10 @@
         <source>DejaVu Sans</source>
         <comment>a font that has the letters of the language</comment>
         <translation>DejaVu Sans</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>Pulsa &lt;b&gt;Z&lt;/b&gt;, o haz clic dos veces en la foto, para verla a tamaño real: píxel a píxel lo que escribe &lt;b&gt;Guardar&lt;/b&gt;, en el tamaño elegido. Los efectos suaves y granulados se ven distintos que en la imagen pequeña. Arrastra la foto, o pulsa las flechas, para ver otras partes; mantenla quieta, o la barra espaciadora, para verla &lt;i&gt;antes&lt;/i&gt;. La rueda con Ctrl y las teclas &lt;b&gt;+&lt;/b&gt; y &lt;b&gt;-&lt;/b&gt; pasan por 50, 100 y 200 %; &lt;b&gt;Esc&lt;/b&gt; la muestra otra vez entera. &lt;b&gt;F11&lt;/b&gt; deja la foto sola en toda la pantalla, donde las teclas siguen funcionando, hasta &lt;b&gt;F11&lt;/b&gt; o &lt;b&gt;Esc&lt;/b&gt;. El botón derecho del ratón y la tecla de menú abren un menú sobre la foto. Donde tu escritorio conoce el perfil de color de tu pantalla, las fotos se muestran en sus colores; lo que se guarda no cambia.</translation>
     </message>
 </context>
 <context>

@@ -265,10 +265,6 @@
         <translation>Telle qu’elle sera enregistrée</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>Appuyez sur &lt;b&gt;Z&lt;/b&gt;, ou cliquez deux fois sur la photo, pour la voir en taille réelle&#xa0;: pixel par pixel ce qu’écrit &lt;b&gt;Enregistrer&lt;/b&gt;, dans la taille choisie. Les effets doux et granuleux diffèrent de la petite image. Glissez la photo, ou utilisez les flèches, pour en voir d’autres parties&#xa0;; maintenez-la immobile, ou la barre d’espace, pour la voir &lt;i&gt;avant&lt;/i&gt;. La molette avec Ctrl et les touches &lt;b&gt;+&lt;/b&gt; et &lt;b&gt;-&lt;/b&gt; passent par 50, 100 et 200&#xa0;%&#xa0;; &lt;b&gt;Échap&lt;/b&gt; la montre de nouveau entière. &lt;b&gt;F11&lt;/b&gt; laisse la photo seule en plein écran, où les touches restent actives, jusqu’à &lt;b&gt;F11&lt;/b&gt; ou &lt;b&gt;Échap&lt;/b&gt;. Le bouton droit de la souris et la touche de menu ouvrent un menu sur la photo.</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>Touches</translation>
     </message>
@@ -548,6 +544,10 @@
         <source>DejaVu Sans</source>
         <comment>a font that has the letters of the language</comment>
         <translation>DejaVu Sans</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>Appuyez sur &lt;b&gt;Z&lt;/b&gt;, ou cliquez deux fois sur la photo, pour la voir en taille réelle&#xa0;: pixel par pixel ce qu’écrit &lt;b&gt;Enregistrer&lt;/b&gt;, dans la taille choisie. Les effets doux et granuleux diffèrent de la petite image. Glissez la photo, ou utilisez les flèches, pour en voir d’autres parties&#xa0;; maintenez-la immobile, ou la barre d’espace, pour la voir &lt;i&gt;avant&lt;/i&gt;. La molette avec Ctrl et les touches &lt;b&gt;+&lt;/b&gt; et &lt;b&gt;-&lt;/b&gt; passent par 50, 100 et 200&#xa0;%&#xa0;; &lt;b&gt;Échap&lt;/b&gt; la montre de nouveau entière. &lt;b&gt;F11&lt;/b&gt; laisse la photo seule en plein écran, où les touches restent actives, jusqu’à &lt;b&gt;F11&lt;/b&gt; ou &lt;b&gt;Échap&lt;/b&gt;. Le bouton droit de la souris et la touche de menu ouvrent un menu sur la photo. Là où votre bureau connaît le profil de couleurs de votre écran, les photos sont montrées dans ses couleurs&#xa0;; ce qui est enregistré reste le même.</translation>
     </message>
 </context>
 <context>

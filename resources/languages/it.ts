@@ -270,10 +270,6 @@
         <translation>Come verrà salvata</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>Premi &lt;b&gt;Z&lt;/b&gt;, o fai doppio clic sulla foto, per vederla a dimensioni reali: pixel per pixel ciò che &lt;b&gt;Salva&lt;/b&gt; scrive, nella misura scelta. Gli effetti morbidi e quelli sgranati appaiono diversi dall&apos;immagine piccola. Trascina la foto, o premi i tasti freccia, per vedere altre parti; tienila premuta senza muovere, o tieni premuta la barra spaziatrice, per vederla &lt;i&gt;prima&lt;/i&gt;. La rotella con Ctrl e i tasti &lt;b&gt;+&lt;/b&gt; e &lt;b&gt;-&lt;/b&gt; passano per 50, 100 e 200%; &lt;b&gt;Esc&lt;/b&gt; la mostra di nuovo intera. &lt;b&gt;F11&lt;/b&gt; lascia la foto da sola a schermo intero, dove i tasti restano attivi, fino a &lt;b&gt;F11&lt;/b&gt; o &lt;b&gt;Esc&lt;/b&gt;. Il pulsante destro del mouse e il tasto menu aprono un menu sulla foto.</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>Tasti</translation>
     </message>
@@ -548,6 +544,10 @@
     <message>
         <source>Over-exposed: light parts are pushed towards white.</source>
         <translation>Sovraesposto: le parti chiare vengono spinte verso il bianco.</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>Premi &lt;b&gt;Z&lt;/b&gt;, o fai doppio clic sulla foto, per vederla a dimensioni reali: pixel per pixel ciò che &lt;b&gt;Salva&lt;/b&gt; scrive, nella misura scelta. Gli effetti morbidi e quelli sgranati appaiono diversi dall&apos;immagine piccola. Trascina la foto, o premi i tasti freccia, per vedere altre parti; tienila premuta senza muovere, o tieni premuta la barra spaziatrice, per vederla &lt;i&gt;prima&lt;/i&gt;. La rotella con Ctrl e i tasti &lt;b&gt;+&lt;/b&gt; e &lt;b&gt;-&lt;/b&gt; passano per 50, 100 e 200%; &lt;b&gt;Esc&lt;/b&gt; la mostra di nuovo intera. &lt;b&gt;F11&lt;/b&gt; lascia la foto da sola a schermo intero, dove i tasti restano attivi, fino a &lt;b&gt;F11&lt;/b&gt; o &lt;b&gt;Esc&lt;/b&gt;. Il pulsante destro del mouse e il tasto menu aprono un menu sulla foto. Dove il desktop conosce il profilo di colore dello schermo, le foto sono mostrate nei suoi colori; ciò che viene salvato resta lo stesso.</translation>
     </message>
 </context>
 <context>

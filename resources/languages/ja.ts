@@ -265,10 +265,6 @@
         <translation>保存されるとおりに見る</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>&lt;b&gt;Z&lt;/b&gt; を押すか、写真をダブルクリックすると、実寸で表示します。&lt;b&gt;保存&lt;/b&gt; が選んだサイズで書くものが、ピクセル単位でそのまま見えます。柔らかいルックや粒子の粗いルックは、小さい画像とは違って見えます。写真をドラッグするか矢印キーを押すと、ほかの部分が見えます。写真を動かさずに押し続けるか、スペースキーを押している間、&lt;i&gt;適用前&lt;/i&gt; が見えます。Ctrl を押しながらのホイールと &lt;b&gt;+&lt;/b&gt;、&lt;b&gt;-&lt;/b&gt; キーで 50、100、200 % を切り替えます。&lt;b&gt;Esc&lt;/b&gt; で全体に戻ります。&lt;b&gt;F11&lt;/b&gt; は写真だけを全画面に表示します。&lt;b&gt;F11&lt;/b&gt; か &lt;b&gt;Esc&lt;/b&gt; を押すまで、キーはそのまま使えます。マウスの右ボタンとメニューキーは、写真の上にメニューを開きます。</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>キー</translation>
     </message>
@@ -548,6 +544,10 @@
         <source>DejaVu Sans</source>
         <comment>a font that has the letters of the language</comment>
         <translation>Noto Sans CJK JP</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>&lt;b&gt;Z&lt;/b&gt; を押すか、写真をダブルクリックすると、実寸で表示します。&lt;b&gt;保存&lt;/b&gt; が選んだサイズで書くものが、ピクセル単位でそのまま見えます。柔らかいルックや粒子の粗いルックは、小さい画像とは違って見えます。写真をドラッグするか矢印キーを押すと、ほかの部分が見えます。写真を動かさずに押し続けるか、スペースキーを押している間、&lt;i&gt;適用前&lt;/i&gt; が見えます。Ctrl を押しながらのホイールと &lt;b&gt;+&lt;/b&gt;、&lt;b&gt;-&lt;/b&gt; キーで 50、100、200 % を切り替えます。&lt;b&gt;Esc&lt;/b&gt; で全体に戻ります。&lt;b&gt;F11&lt;/b&gt; は写真だけを全画面に表示します。&lt;b&gt;F11&lt;/b&gt; か &lt;b&gt;Esc&lt;/b&gt; を押すまで、キーはそのまま使えます。マウスの右ボタンとメニューキーは、写真の上にメニューを開きます。デスクトップが画面のカラープロファイルを知っている場合、写真は画面の色に合わせて表示されます。保存されるものは変わりません。</translation>
     </message>
 </context>
 <context>

@@ -270,10 +270,6 @@
         <translation>Tak, jak zostanie zapisane</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>Naciśnij &lt;b&gt;Z&lt;/b&gt; lub kliknij zdjęcie dwukrotnie, aby zobaczyć je w rzeczywistym rozmiarze: piksel po pikselu to, co utworzy &lt;b&gt;Zapisz&lt;/b&gt;, w wybranym rozmiarze. Efekty miękkie i ziarniste wyglądają inaczej niż na małym obrazie. Przeciągnij zdjęcie lub naciśnij klawisze strzałek, aby zobaczyć inne fragmenty; przytrzymaj je bez ruchu albo przytrzymaj spację, aby zobaczyć je &lt;i&gt;przed&lt;/i&gt;. Kółko myszy z klawiszem Ctrl oraz klawisze &lt;b&gt;+&lt;/b&gt; i &lt;b&gt;-&lt;/b&gt; przechodzą przez 50, 100 i 200%; &lt;b&gt;Esc&lt;/b&gt; pokazuje znów całość. &lt;b&gt;F11&lt;/b&gt; pozostawia na pełnym ekranie samo zdjęcie, a klawisze działają nadal, aż do &lt;b&gt;F11&lt;/b&gt; lub &lt;b&gt;Esc&lt;/b&gt;. Prawy przycisk myszy i klawisz menu otwierają menu na zdjęciu.</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>Klawisze</translation>
     </message>
@@ -548,6 +544,10 @@
     <message>
         <source>Over-exposed: light parts are pushed towards white.</source>
         <translation>Prześwietlony: jasne partie przesunięte ku bieli.</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>Naciśnij &lt;b&gt;Z&lt;/b&gt; lub kliknij zdjęcie dwukrotnie, aby zobaczyć je w rzeczywistym rozmiarze: piksel po pikselu to, co utworzy &lt;b&gt;Zapisz&lt;/b&gt;, w wybranym rozmiarze. Efekty miękkie i ziarniste wyglądają inaczej niż na małym obrazie. Przeciągnij zdjęcie lub naciśnij klawisze strzałek, aby zobaczyć inne fragmenty; przytrzymaj je bez ruchu albo przytrzymaj spację, aby zobaczyć je &lt;i&gt;przed&lt;/i&gt;. Kółko myszy z klawiszem Ctrl oraz klawisze &lt;b&gt;+&lt;/b&gt; i &lt;b&gt;-&lt;/b&gt; przechodzą przez 50, 100 i 200%; &lt;b&gt;Esc&lt;/b&gt; pokazuje znów całość. &lt;b&gt;F11&lt;/b&gt; pozostawia na pełnym ekranie samo zdjęcie, a klawisze działają nadal, aż do &lt;b&gt;F11&lt;/b&gt; lub &lt;b&gt;Esc&lt;/b&gt;. Prawy przycisk myszy i klawisz menu otwierają menu na zdjęciu. Tam, gdzie pulpit zna profil kolorów ekranu, zdjęcia są pokazywane w jego kolorach; to, co jest zapisywane, pozostaje takie samo.</translation>
     </message>
 </context>
 <context>

@@ -270,10 +270,6 @@
         <translation>Como será salva</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>Pressione &lt;b&gt;Z&lt;/b&gt;, ou clique duas vezes na foto, para vê-la em tamanho real: pixel por pixel o que &lt;b&gt;Salvar&lt;/b&gt; grava, no tamanho escolhido. Efeitos suaves e granulados ficam diferentes da imagem pequena. Arraste a foto, ou pressione as setas do teclado, para ver outras partes; mantenha-a pressionada sem mover, ou a barra de espaço, para vê-la &lt;i&gt;antes&lt;/i&gt;. A roda do mouse com Ctrl e as teclas &lt;b&gt;+&lt;/b&gt; e &lt;b&gt;-&lt;/b&gt; passam por 50, 100 e 200%; &lt;b&gt;Esc&lt;/b&gt; a mostra inteira de novo. &lt;b&gt;F11&lt;/b&gt; deixa só a foto em tela cheia, onde as teclas continuam funcionando, até &lt;b&gt;F11&lt;/b&gt; ou &lt;b&gt;Esc&lt;/b&gt;. O botão direito do mouse e a tecla de menu abrem um menu sobre a foto.</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>Teclas</translation>
     </message>
@@ -548,6 +544,10 @@
     <message>
         <source>Over-exposed: light parts are pushed towards white.</source>
         <translation>Superexposto: as partes claras são levadas para o branco.</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>Pressione &lt;b&gt;Z&lt;/b&gt;, ou clique duas vezes na foto, para vê-la em tamanho real: pixel por pixel o que &lt;b&gt;Salvar&lt;/b&gt; grava, no tamanho escolhido. Efeitos suaves e granulados ficam diferentes da imagem pequena. Arraste a foto, ou pressione as setas do teclado, para ver outras partes; mantenha-a pressionada sem mover, ou a barra de espaço, para vê-la &lt;i&gt;antes&lt;/i&gt;. A roda do mouse com Ctrl e as teclas &lt;b&gt;+&lt;/b&gt; e &lt;b&gt;-&lt;/b&gt; passam por 50, 100 e 200%; &lt;b&gt;Esc&lt;/b&gt; a mostra inteira de novo. &lt;b&gt;F11&lt;/b&gt; deixa só a foto em tela cheia, onde as teclas continuam funcionando, até &lt;b&gt;F11&lt;/b&gt; ou &lt;b&gt;Esc&lt;/b&gt;. O botão direito do mouse e a tecla de menu abrem um menu sobre a foto. Onde seu ambiente conhece o perfil de cores da sua tela, as fotos são mostradas nas cores dela; o que é salvo continua igual.</translation>
     </message>
 </context>
 <context>

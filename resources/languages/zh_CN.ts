@@ -270,10 +270,6 @@
         <translation>保存后的样子</translation>
     </message>
     <message>
-        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo.</source>
-        <translation>按 &lt;b&gt;Z&lt;/b&gt; 键或双击照片，可查看实际大小：逐像素显示&lt;b&gt;保存&lt;/b&gt;将写入的内容，使用所选的尺寸。柔焦和颗粒类滤镜与小图上看到的会有所不同。拖动照片或按方向键可查看其他部分；按住照片不动，或按住空格键，可查看&lt;i&gt;处理前&lt;/i&gt;的样子。按住 Ctrl 转动滚轮，或按 &lt;b&gt;+&lt;/b&gt; 和 &lt;b&gt;-&lt;/b&gt; 键，可在 50%、100% 和 200% 之间切换；&lt;b&gt;Esc&lt;/b&gt; 重新显示整张照片。&lt;b&gt;F11&lt;/b&gt; 在全屏上只显示照片，各按键仍然有效，直到按 &lt;b&gt;F11&lt;/b&gt; 或 &lt;b&gt;Esc&lt;/b&gt;。鼠标右键和菜单键可在照片上打开菜单。</translation>
-    </message>
-    <message>
         <source>Keys</source>
         <translation>按键</translation>
     </message>
@@ -548,6 +544,10 @@
     <message>
         <source>Over-exposed: light parts are pushed towards white.</source>
         <translation>曝光过度：亮部向白色推移。</translation>
+    </message>
+    <message>
+        <source>Press &lt;b&gt;Z&lt;/b&gt;, or click the photo twice, to see it at actual size: pixel by pixel what &lt;b&gt;Save&lt;/b&gt; writes, in the chosen size. Soft and grainy looks differ from the small picture. Drag the photo, or press the arrow keys, to see other parts; hold it still, or the space bar, to see it &lt;i&gt;before&lt;/i&gt;. The wheel with Ctrl and the keys &lt;b&gt;+&lt;/b&gt; and &lt;b&gt;-&lt;/b&gt; go through 50, 100 and 200 %; &lt;b&gt;Esc&lt;/b&gt; shows all of it again. &lt;b&gt;F11&lt;/b&gt; leaves the photo alone on the whole screen, where the keys stay at work, until &lt;b&gt;F11&lt;/b&gt; or &lt;b&gt;Esc&lt;/b&gt;. The right mouse button and the menu key open a menu on the photo. Where your desktop knows the colour profile of your screen, photos are shown in its colours; what is saved stays the same.</source>
+        <translation>按 &lt;b&gt;Z&lt;/b&gt; 键或双击照片，可查看实际大小：逐像素显示&lt;b&gt;保存&lt;/b&gt;将写入的内容，使用所选的尺寸。柔焦和颗粒类滤镜与小图上看到的会有所不同。拖动照片或按方向键可查看其他部分；按住照片不动，或按住空格键，可查看&lt;i&gt;处理前&lt;/i&gt;的样子。按住 Ctrl 转动滚轮，或按 &lt;b&gt;+&lt;/b&gt; 和 &lt;b&gt;-&lt;/b&gt; 键，可在 50%、100% 和 200% 之间切换；&lt;b&gt;Esc&lt;/b&gt; 重新显示整张照片。&lt;b&gt;F11&lt;/b&gt; 在全屏上只显示照片，各按键仍然有效，直到按 &lt;b&gt;F11&lt;/b&gt; 或 &lt;b&gt;Esc&lt;/b&gt;。鼠标右键和菜单键可在照片上打开菜单。如果桌面知道屏幕的颜色配置文件，照片会按屏幕的颜色显示；保存的内容不变。</translation>
     </message>
 </context>
 <context>
