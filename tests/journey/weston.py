@@ -12,6 +12,7 @@ import desk
 from desk import point_at, take_screenshot_of_box, wait_for, xdotool
 
 WIDTH, HEIGHT = 1440, 1000
+GROUND = 0x20, 0x30, 0x40  # as the settings have it
 SETTINGS = """[core]
 shell=desktop-shell.so
 idle-time=0
@@ -35,21 +36,40 @@ class Weston:
         with open(settings, "w") as file:
             file.write(SETTINGS)
         self.log = os.path.join(self.home, "weston.log")
+        self.settings = settings
+        self._start()
+        while not self._has_pointer():  # one that comes up while the display is busy may never hear of it
+            self._stop()
+            self._start()
+
+    def _start(self):
         with open(self.log, "w") as log:
             self.process = subprocess.Popen(
                 ["weston", "--backend=x11-backend.so", "--use-pixman", "--socket=desk", "--fullscreen", "--debug",
-                 f"--width={WIDTH}", f"--height={HEIGHT}", f"--config={settings}"], stdout=log, stderr=log)
+                 f"--width={WIDTH}", f"--height={HEIGHT}", f"--config={self.settings}"], stdout=log, stderr=log)
         # The pointer may stand anywhere, but not in two places.
-        wait_for("the Wayland desktop", lambda: [(0x20, 0x30, 0x40)] * 2 == [
+        wait_for("the Wayland desktop", lambda: [GROUND] * 2 == [
             self.screen().getpixel(place) for place in ((100, 100), (WIDTH - 100, HEIGHT - 100))])
+
+    def _stop(self):
+        self.process.terminate()
+        self.process.wait()
+
+    def _has_pointer(self):
+        point_at(300, 300)
+        try:
+            wait_for("the pointer", lambda: self.screen().crop((298, 298, 330, 330)).getcolors() !=
+                     [(32 * 32, GROUND)], 5)
+        except AssertionError:
+            return False
         point_at(WIDTH - 1, HEIGHT - 1)
+        return True
 
     def __enter__(self):
         return self
 
     def __exit__(self, failure, *ignored):
-        self.process.terminate()
-        self.process.wait()
+        self._stop()
         if failure is not None:
             with open(self.log) as log:
                 desk.say("The compositor's log:", log.read())
