@@ -20,7 +20,14 @@ const QString appearance = QStringLiteral("org.freedesktop.appearance"), contras
 bool isHigh(const QVariantMap& settings, const QString& key)
 {
     const QVariant value = settings.value(key);
-    return value.metaType().id() == QMetaType::Bool ? value.toBool() : value.toUInt() == 1;
+    switch (value.metaType().id()) {
+    case QMetaType::UInt:
+        return value.toUInt() == 1;
+    case QMetaType::Bool:
+        return value.toBool();
+    default:
+        return false;
+    }
 }
 
 } // namespace
