@@ -9,15 +9,16 @@
 void useDarkAppearance(bool highContrast)
 {
     QApplication::setStyle(new FramedStyle(highContrast));
-    const QColor window(51, 51, 51),
-        text = highContrast ? QColor(Qt::white) : QColor(225, 225, 225),
-        faint(highContrast ? 200 : 172, highContrast ? 200 : 172, highContrast ? 200 : 172), accent(126, 190, 250),
-        well = highContrast ? QColor(Qt::black) : QColor(38, 38, 38);
+    const QColor window(51, 51, 51), text = highContrast ? QColor(Qt::white) : QColor(225, 225, 225),
+                                     faint = highContrast ? QColor(205, 205, 205) : QColor(180, 180, 180),
+                                     accent(126, 190, 250),
+                                     well = highContrast ? QColor(Qt::black) : QColor(38, 38, 38);
     QPalette colours(highContrast ? QColor(20, 20, 20) : QColor(72, 72, 72), window);
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         colours.setColor(role, text);
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         colours.setColor(QPalette::Disabled, role, faint);
+    colours.setColor(QPalette::Disabled, QPalette::Button, highContrast ? QColor(20, 20, 20) : QColor(48, 48, 48));
     colours.setColor(QPalette::Base, well);
     colours.setColor(QPalette::AlternateBase, highContrast ? well : QColor(45, 45, 45));
     colours.setColor(QPalette::ToolTipBase, well);
@@ -27,5 +28,6 @@ void useDarkAppearance(bool highContrast)
     colours.setColor(QPalette::Link, accent);
     QApplication::setPalette(colours);
     colours.setColor(QPalette::Base, highContrast ? well : QColor(80, 80, 80)); // an empty box must be seen
+    colours.setColor(QPalette::Text, Qt::white); // the tick, which the style darkens
     QApplication::setPalette(colours, "QCheckBox");
 }

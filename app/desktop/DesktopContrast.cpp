@@ -3,6 +3,7 @@
 
 #include <QDBusArgument>
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <utility>
 
@@ -37,15 +38,8 @@ DesktopContrast::DesktopContrast()
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
+    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this, SLOT(ask())); // whichever
     ask();
-}
-
-void DesktopContrast::settingChanged(const QString& space, const QString& key, const QDBusVariant&)
-{
-    if ((space == appearance && key == contrast) || (space == gnome && key == gnomeContrast))
-        ask();
 }
 
 void DesktopContrast::ask()

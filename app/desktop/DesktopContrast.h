@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QObject>
 
 /// Whether the desktop asks for high contrast, by its settings portal. It is asked over D-Bus; nobody waits for it.
@@ -17,7 +15,6 @@ signals:
 
 private slots:
     void ask();
-    void settingChanged(const QString& space, const QString& key, const QDBusVariant& value);
 
 private:
     bool m_high = false;
