@@ -2,6 +2,7 @@
 #include "app/desktop/DesktopContrast.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QProcess>
 #include <QSignalSpy>
