@@ -109,10 +109,15 @@ void freeBlock(void* pixels)
     delete[] static_cast<unsigned char*>(pixels);
 }
 
+/// The rows of an output that its block takes.
+struct RowsOf {
+    int first, count;
+};
+
 void draw(const QImage& image, unsigned char* block, int outWidth, int outHeight, int orientation,
-    const Margins& margins, bool fast)
+    const Margins& margins, bool fast, const RowsOf& taken)
 {
-    const std::size_t size = blockSize(outWidth, outHeight);
+    const std::size_t size = blockSize(outWidth, taken.count);
     if (image.isNull()) {
         std::memset(block, 255, size);
         return;
@@ -130,7 +135,7 @@ void draw(const QImage& image, unsigned char* block, int outWidth, int outHeight
     if (!covers(rect, outWidth, outHeight))
         std::memset(block, 255, size);
     const PixelRows rows{source.constBits(), std::size_t(source.bytesPerLine()), source.width(), source.height()};
-    drawScaled(rows, rect, fast, block, outWidth, outHeight);
+    drawScaledRows(rows, rect, fast, block, outWidth, outHeight, taken.first, taken.count);
     if (source.format() == QImage::Format_RGB32)
         orderChannels(block, size);
 }
@@ -175,7 +180,7 @@ unsigned char* getRGBACharImageArray(const QImage& image, int outWidth, int outH
     int right, int top, int bottom, bool fast)
 {
     auto block = newExchangeBlock(outWidth, outHeight);
-    draw(image, block.get(), outWidth, outHeight, orientation, {left, right, top, bottom}, fast);
+    draw(image, block.get(), outWidth, outHeight, orientation, {left, right, top, bottom}, fast, {0, outHeight});
     return block.release();
 }
 
@@ -189,7 +194,13 @@ std::unique_ptr<unsigned char[]> newExchangeBlock(int width, int height)
 
 void drawIntoBlock(const QImage& image, unsigned char* block, int outWidth, int outHeight)
 {
-    draw(image, block, outWidth, outHeight, upright, {0, 0, 0, 0}, false);
+    drawRowsIntoBlock(image, block, outWidth, outHeight, 0, outHeight);
+}
+
+void drawRowsIntoBlock(
+    const QImage& image, unsigned char* block, int outWidth, int outHeight, int firstRow, int rowCount)
+{
+    draw(image, block, outWidth, outHeight, upright, {0, 0, 0, 0}, false, {firstRow, rowCount});
 }
 
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height)

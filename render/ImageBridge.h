@@ -34,6 +34,10 @@ std::unique_ptr<unsigned char[]> newExchangeBlock(int width, int height);
 /// What getRGBACharImageArray draws, upright and without margins, into a block that is there.
 void drawIntoBlock(const QImage& image, unsigned char* block, int outWidth, int outHeight);
 
+/// The same, of which `block` takes `rowCount` rows from `firstRow` on.
+void drawRowsIntoBlock(
+    const QImage& image, unsigned char* block, int outWidth, int outHeight, int firstRow, int rowCount);
+
 /// A picture over an exchange block without a copy. The picture takes the block over and frees it; the spare bytes are
 /// set to 255, as the format asks.
 QImage getImageRefFromRGBACharArray(unsigned char* pixels, int width, int height);

@@ -3,11 +3,13 @@
 
 #include "image/CharImage.h"
 #include "photo/FreeMemory.h"
+#include "photo/OnWhite.h"
 #include "photo/PhotoDecoder.h"
 #include "render/ImageBridge.h"
 
 #include <QColorSpace>
 #include <QCoreApplication>
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <new>
@@ -122,6 +124,25 @@ void applyLooks(CharImage& image, const RenderSettings& settings, const RenderPr
             applyStep(image, settings.filterIDs->theArray[i], progress);
 }
 
+constexpr std::size_t stripBytes = 1 << 20; ///< about; of the photo before its looks
+
+/// Mixes a fitted photo under its looks with the photo before them, which is fitted once more strip by strip: a second
+/// picture may be as large as the photo.
+void mixWithSource(CharImage& image, const QImage& source, int strength)
+{
+    const QImage photo = onWhiteInEitherOrder(source);
+    const std::size_t row = std::size_t(image.width) * 4;
+    const int height = int(std::clamp(stripBytes / row, std::size_t(1), std::size_t(image.height)));
+    CharImage before(newExchangeBlock(image.width, height).release(), image.width, height);
+    for (int y = 0; y < image.height; y += height) {
+        before.height = std::min(height, image.height - y);
+        drawRowsIntoBlock(photo, before.data, image.width, image.height, y, before.height);
+        CharImage after(image.data + std::size_t(y) * row, image.width, before.height);
+        after.mixIn(before, strength);
+        after.data = nullptr; // it is the picture's
+    }
+}
+
 /// Makes the picture larger by the margins, which are opaque white, within its block. A new one would be fresh memory,
 /// which costs more than to move the rows.
 void addMargins(CharImage& image, const Frame& frame)
@@ -164,13 +185,9 @@ QImage render(const QImage& source, const RenderSettings& settings, const Frame&
         return source;
     }
     const std::unique_ptr<CharImage> image = fitted(source, frame);
-    if (isMixed(settings)) {
-        const auto before = copyOf(*image, frame);
-        applyLooks(*image, settings, progress);
-        image->mixIn(*before, settings.strength);
-    } else {
-        applyLooks(*image, settings, progress);
-    }
+    applyLooks(*image, settings, progress);
+    if (isMixed(settings))
+        mixWithSource(*image, source, settings.strength);
     if (!settings.asThumbnail) {
         report(progress, QT_TRANSLATE_NOOP("RenderStep", "Border"));
         addFrame(*image, frame, settings.borderFilter);
@@ -193,7 +210,7 @@ QImage renderPhoto(
     const Frame frame = frameOf(source, settings);
     const QSize size = sizeOf(source, frame, settings.asThumbnail);
     try {
-        if (hasRoomFor(size, blocksOfRender + (isMixed(settings) ? 1 : 0)))
+        if (hasRoomFor(size, blocksOfRender))
             return render(source, settings, frame, progress);
     } catch (const std::bad_alloc&) {
         // Something else took the room in the meantime.

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <numeric>
 #include <type_traits>
 #include <vector>
 
@@ -37,6 +38,23 @@ struct Side {
         for (int pixel = first; pixel < last; pixel++)
             weights.push_back((std::min(to, pixel + 1.0) - std::max(from, double(pixel))) / (to - from));
         addTaps(first, last - first);
+    }
+
+    /// Leaves the output pixels `from` .. `to` - 1, and counts them from `from`.
+    void keepOnly(int from, int to)
+    {
+        const int size = int(taps.size()), skipped = std::clamp(from - begin, 0, size);
+        const int end = std::clamp(to - begin, skipped, size);
+        const auto weightsOf = [&](int first, int last) {
+            return std::accumulate(taps.begin() + first, taps.begin() + last, std::ptrdiff_t(0),
+                [](std::ptrdiff_t sum, const Taps& pixel) { return sum + pixel.count; });
+        };
+        const std::ptrdiff_t firstWeight = weightsOf(0, skipped), weightCount = weightsOf(skipped, end);
+        weights.erase(weights.begin() + firstWeight + weightCount, weights.end());
+        weights.erase(weights.begin(), weights.begin() + firstWeight);
+        taps.erase(taps.begin() + end, taps.end());
+        taps.erase(taps.begin(), taps.begin() + skipped);
+        begin = std::max(begin - from, 0);
     }
 
 private:
@@ -294,23 +312,30 @@ void draw(const PixelRows& source, const Side& columns, const Side& rows, unsign
 #if defined(__x86_64__) && defined(__linux__) && !defined(__clang__)
 __attribute__((target_clones("avx2", "default"), flatten))
 #endif
-void drawScaled(
-    const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth, int outHeight)
+void drawScaledRows(const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth,
+    int outHeight, int firstRow, int rowCount)
 {
     const bool outside = rect.x >= outWidth || rect.y >= outHeight || rect.x + rect.width <= 0.0
         || rect.y + rect.height <= 0.0 || rect.width <= 0.0 || rect.height <= 0.0;
     if (outside)
         return;
     if (rect.width == source.width && rect.height == source.height && isWhole(rect.x) && isWhole(rect.y)) {
-        copyRows(source, int(rect.x), int(rect.y), out, outWidth, outHeight);
+        copyRows(source, int(rect.x), int(rect.y) - firstRow, out, outWidth, rowCount);
         return;
     }
     const Side columns = planSide(source.width, rect.x, rect.width, outWidth, nearest);
-    const Side rows = planSide(source.height, rect.y, rect.height, outHeight, nearest);
+    Side rows = planSide(source.height, rect.y, rect.height, outHeight, nearest);
+    rows.keepOnly(firstRow, firstRow + rowCount);
     // The sums of so many taps are good to an eighth of a step in 16 bits.
     constexpr int manyTaps = 17;
     if (columns.mostTaps < manyTaps && rows.mostTaps < manyTaps)
         draw<std::uint16_t>(source, columns, rows, out, outWidth);
     else
         draw<std::uint32_t>(source, columns, rows, out, outWidth);
+}
+
+void drawScaled(
+    const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth, int outHeight)
+{
+    drawScaledRows(source, rect, nearest, out, outWidth, outHeight, 0, outHeight);
 }

@@ -27,3 +27,7 @@ struct PlacedRect {
 /// alone.
 LUMORA_API void drawScaled(
     const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out, int outWidth, int outHeight);
+
+/// The same, of which `out` takes `rowCount` rows from `firstRow` on.
+LUMORA_API void drawScaledRows(const PixelRows& source, const PlacedRect& rect, bool nearest, unsigned char* out,
+    int outWidth, int outHeight, int firstRow, int rowCount);

@@ -242,6 +242,17 @@ private slots:
         QCOMPARE(RenderedLooks::of(source, settings)->withStrength(strength), picture);
     }
 
+    void strengthOfALargePhotoIsMixedAllOver()
+    {
+        for (const QImage::Format format :
+            {QImage::Format_RGB32, QImage::Format_RGBX8888, QImage::Format_ARGB32_Premultiplied})
+            for (const int border : {none, thick}) { // fitted as it is, and scaled
+                const QImage source = samples::noise(701, 900).convertToFormat(format);
+                const RenderSettings settings = {.filter = mono, .borderFilter = border, .strength = 40};
+                QCOMPARE(renderPhoto(source, settings), RenderedLooks::of(source, settings)->withStrength(40));
+            }
+    }
+
     void strengthIsOfAllLooksTogether()
     {
         const QImage source = samples::noise(64, 48);

@@ -87,6 +87,26 @@ TEST(Resample, LeavesTheRestAlone)
     }
 }
 
+TEST(Resample, RowsByThemselvesAreThoseOfTheWhole)
+{
+    constexpr int width = 12, height = 20;
+    const PlacedRect rects[] = {{0, 0, 12, 20}, {-5, -3, 30, 41}, {0, 3.5, 12, 9.5}, {-0.5, -0.3, 13, 21},
+        {1, 2, 10, 14}, {0, 0, 12, 4}, {0, 30, 12, 4}};
+    for (const auto& [sourceWidth, sourceHeight] : {std::pair(10, 14), std::pair(3, 900), std::pair(7, 5)}) {
+        const Picture source = randomPicture(sourceWidth, sourceHeight, 7);
+        const PixelRows rows{source.pixels.data(), std::size_t(source.width) * 4, source.width, source.height};
+        for (const PlacedRect& rect : rects)
+            for (const bool nearest : {false, true}) {
+                const Picture whole = drawn(source, rect, nearest, width, height);
+                Picture strips = flatPicture(width, height, 1, 2, 3);
+                for (int y = 0; y < height; y += 3)
+                    drawScaledRows(rows, rect, nearest, strips.pixels.data() + std::size_t(y) * width * 4, width,
+                        height, y, std::min(3, height - y));
+                EXPECT_EQ(strips.pixels, whole.pixels) << rect.y << ", " << rect.height << ", " << sourceHeight;
+            }
+    }
+}
+
 TEST(Resample, OneColourStaysThatColour)
 {
     for (const int width : {3, 5, 40, 60000}) {
