@@ -143,6 +143,11 @@ void MainWindowController::flattenImage()
     addStep(tr("Flatten"), {0, former});
 }
 
+QByteArray MainWindowController::encoded(const QImage& picture) const
+{
+    return encodeJpeg(picture, m_photo.metadata, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen()));
+}
+
 void MainWindowController::saveFilteredImage()
 {
     const Work work(m_work, stepsOfRender() + 1, takesLong(m_photo.original()));
@@ -155,8 +160,7 @@ void MainWindowController::saveFilteredImage()
     std::printf("downsizing image to %i, ended with %s %s\n", imgOutputSize,
         lumora::sixPlaces(saved.size.width()).c_str(), lumora::sixPlaces(saved.size.height()).c_str());
     m_work.beginStep(tr("Encode"));
-    const QByteArray jpeg =
-        encodeJpeg(saved.picture, m_photo.metadata, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen()));
+    const QByteArray jpeg = encoded(saved.picture);
     if (jpeg.isEmpty())
         return openModalSheetWithText(tr("The photo cannot be saved."), jpegRefusal(saved.picture.size()));
     const QByteArray path = askWhereToSave(jpeg.size());

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/controls/ChoiceMenu.h"
 #include "app/desktop/DraggedPhoto.h"
 #include "app/state/RenderSeed.h"
 #include "app/state/Rules.h"
 #include "app/window/MainWindowController.h"
-#include "photo/PhotoSaver.h"
 #include "render/Scaled.h"
 #include "ui_MainWindow.h"
 
 #include <QDrag>
+#include <memory>
 
 // The photo is dragged to other programs: as the file that would be saved, and as its picture.
 
@@ -28,13 +27,11 @@ QImage MainWindowController::renderForDrag()
     return inOutputSize(renderPhoto(m_photo.original(), renderSettings()), &reason).picture;
 }
 
-QString MainWindowController::fileForDrag()
+QString MainWindowController::fileForDrag(const QImage& picture)
 {
-    const QImage picture = renderForDrag();
     if (picture.isNull())
         return {};
-    const QByteArray jpeg =
-        encodeJpeg(picture, m_photo.metadata, Kept(m_kept->chosen()), JpegQuality(m_quality->chosen()));
+    const QByteArray jpeg = encoded(picture);
     return jpeg.isEmpty() ? QString() : m_draggedFiles.write(withJpegEnding(proposedName()), jpeg);
 }
 
@@ -44,8 +41,14 @@ void MainWindowController::dragPhotoOut()
     if (!work || m_photo.isNull())
         return;
     const WorkWaits waits(m_work); // nothing else begins until it is dropped
+    // The target asks for the file, the picture or both, which are the same.
+    const auto picture = [this, kept = std::make_shared<QImage>()] {
+        if (kept->isNull())
+            *kept = renderForDrag();
+        return *kept;
+    };
     auto* drag = new QDrag(m_ui->mainImageView); // which the platform deletes when the target has what it wants
-    drag->setMimeData(new DraggedPhoto([this] { return fileForDrag(); }, [this] { return renderForDrag(); }));
+    drag->setMimeData(new DraggedPhoto([this, picture] { return fileForDrag(picture()); }, picture));
     const QImage shown = m_ui->mainImageView->image();
     const QSize sign = shown.size().scaled(longestSign, longestSign, Qt::KeepAspectRatio).expandedTo({1, 1});
     drag->setPixmap(QPixmap::fromImage(scaledTo(shown, sign)));

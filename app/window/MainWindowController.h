@@ -191,6 +191,7 @@ private:
     QImage renderFullSize(QString* reason);
     SavedPicture inOutputSize(QImage render, QString* reason);
     SavedPicture savedPicture(QString* reason); ///< null with a reason where there is no memory for it
+    QByteArray encoded(const QImage& picture) const; ///< as a JPEG with all that it keeps; empty where none holds it
     void letSavedPictureGo();
     bool showSavedPicture(const SavedPicture& saved, const QString& reason);
     bool renderActualSize();
@@ -231,7 +232,7 @@ private:
     void showWhatCanBePasted();
     void takePastedPicture(QImage picture);
     QImage renderForDrag();
-    QString fileForDrag(); ///< its path; empty where there is none
+    QString fileForDrag(const QImage& picture); ///< its path; empty where there is none
     void dragPhotoOut();
     void buildRecentMenu(QMenu& file);
     void buildWalkEntries(QMenu& photo);

@@ -98,6 +98,7 @@ private slots:
         QVERIFY(file.size() > 100);
         QCOMPARE(file, contentsOf(QFile::encodeName(saved)));
         QCOMPARE(encodeJpeg(picture, {}), file);
+        QCOMPARE(qvariant_cast<QImage>(carried->imageData()).cacheKey(), picture.cacheKey()); // rendered once
         QCOMPARE(desk.looks(), std::vector<int>{1});
     }
 
