@@ -22,12 +22,12 @@ void MainWindowController::connectComparing()
 void MainWindowController::buildSplitEntry(QMenu& photo)
 {
     DragDropImageView* view = m_ui->mainImageView;
-    QAction* entry = photo.addAction(tr("&Before and after"), Qt::Key_B, this, [this, view](bool on) {
+    m_splitAction = photo.addAction(tr("&Before and after"), Qt::Key_B, this, [this, view](bool on) {
         if (on && view->closeup().isOn())
             showFitted(); // the split is of the whole photo
         view->setSplit(on);
     });
-    entry->setCheckable(true);
-    connect(view, &DragDropImageView::splitAnswered, entry, &QAction::setChecked);
-    m_photoActions << entry;
+    m_splitAction->setCheckable(true);
+    connect(view, &DragDropImageView::splitAnswered, m_splitAction, &QAction::setChecked);
+    m_photoActions << m_splitAction;
 }

@@ -51,15 +51,20 @@ void MainWindowController::buildPhotoMenu(const QList<QAction*>& entries)
 /// By the right mouse button on the photo, or by its key wherever the focus is.
 bool MainWindowController::takesContextMenu(const QWidget* widget, const QContextMenuEvent& event)
 {
-    DragDropImageView* view = m_ui->mainImageView;
     const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
-    if (widget != view && !byKey)
+    if (widget != m_ui->mainImageView && !byKey)
         return false;
-    if (!m_work.mayBegin())
-        return true;
-    view->setComparing(false);
-    if (!byKey)
-        m_menuAt = view->mapFromGlobal(QPointF(event.globalPos()));
-    m_photoMenu->popup(byKey ? view->mapToGlobal(view->rect().center()) : event.globalPos());
+    openPhotoMenu(byKey ? std::nullopt : std::optional(event.globalPos()));
     return true;
+}
+
+void MainWindowController::openPhotoMenu(const std::optional<QPoint>& at)
+{
+    if (!m_work.mayBegin())
+        return;
+    DragDropImageView* view = m_ui->mainImageView;
+    view->setComparing(false);
+    if (at)
+        m_menuAt = view->mapFromGlobal(QPointF(*at));
+    m_photoMenu->popup(at.value_or(view->mapToGlobal(view->rect().center())));
 }

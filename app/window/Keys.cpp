@@ -114,6 +114,10 @@ bool MainWindowController::takesKeyPress(QWidget* widget, const QKeyEvent& press
             m_ui->mainImageView->setComparing(true); // its release, just before, was part of the repeat
         return !walks(press.key());
     }
+    if (press.key() == Qt::Key_F10 && press.modifiers() == Qt::ShiftModifier) { // where there is no menu key
+        openPhotoMenu({});
+        return true;
+    }
     if (press.modifiers() & ~Qt::KeypadModifier)
         return false;
     switch (press.key()) {

@@ -206,6 +206,7 @@ private:
     void buildFullScreenEntry(QMenu& menu);
     void showWhetherAlone();
     void buildPhotoMenu(const QList<QAction*>& entries); ///< null: a line between two groups
+    void openPhotoMenu(const std::optional<QPoint>& at); ///< of the screen; none: in the middle of the photo
     void showWhatCanBeDone();
     void showSheet(const QString& text, const QString& auxText, Qt::WindowModality modality);
     void openWaitingFile();
@@ -257,7 +258,8 @@ private:
     QList<QAction*> m_strengthActions; ///< of no use without a look
     QList<QAction*> m_photoActions; ///< the entries that are of no use without a photo
     QPointer<QWidget> m_sheet; ///< the one that is shown
-    QAction *m_actualSizeAction = nullptr, *m_fullScreenAction = nullptr; ///< owned by the menu
+    QAction *m_splitAction = nullptr, *m_actualSizeAction = nullptr,
+            *m_fullScreenAction = nullptr; ///< owned by the menu
     QMenu* m_photoMenu = nullptr; ///< opens on the photo
     std::optional<QPointF> m_menuAt; ///< where it was opened by the mouse, in the preview; none while it is closed
     QMargins m_marginsOfPhoto; ///< of the window, when it is not on the whole screen

@@ -44,8 +44,8 @@ void MainWindowController::buildMenus()
     buildZoomEntries(*photo);
     buildFullScreenEntry(*photo);
     buildWalkEntries(*photo);
-    buildPhotoMenu({m_undoAction, m_copyAction, nullptr, m_actualSizeAction, m_fullScreenAction, nullptr, left, right,
-        flatten, nullptr, save});
+    buildPhotoMenu({m_undoAction, m_copyAction, nullptr, m_splitAction, m_actualSizeAction, m_fullScreenAction, nullptr,
+        left, right, flatten, nullptr, save});
 
     // In the order of the strip; the first ten have digits.
     QMenu* looks = m_ui->menubar->addMenu(tr("&Looks"));

@@ -146,7 +146,7 @@ private slots:
                 QVERIFY(known.contains(entry));
                 keys << entry->shortcut().toString();
             }
-        for (const char* key : {"Ctrl+Z", "Ctrl+C", "Z", "F11", "Ctrl+L", "Ctrl+R", "Ctrl+Shift+F", "Ctrl+S"})
+        for (const char* key : {"Ctrl+Z", "Ctrl+C", "B", "Z", "F11", "Ctrl+L", "Ctrl+R", "Ctrl+Shift+F", "Ctrl+S"})
             QVERIFY2(keys.contains(key), key);
         // Actual size: where the menu was opened.
         const double share = (at.x() - view->imageRect().x()) / view->imageRect().width();
@@ -170,6 +170,11 @@ private slots:
             QVERIFY(openedMenu());
             QTest::keyClick(openedMenu(), Qt::Key_Escape);
             QVERIFY(!openedMenu());
+            QTest::keyClick(widget, Qt::Key_F10);
+            QVERIFY(!openedMenu());
+            QTest::keyClick(widget, Qt::Key_F10, Qt::ShiftModifier);
+            QVERIFY(openedMenu());
+            openedMenu()->close();
             askForMenu(widget, QContextMenuEvent::Mouse, {1, 1});
             QCOMPARE(bool(openedMenu()), name == QByteArray("mainImageView"));
             if (openedMenu())
