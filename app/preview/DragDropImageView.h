@@ -69,8 +69,10 @@ public:
     bool isEditable() const { return false; }
     bool allowsCutCopyPaste() const { return false; }
 
-    /// What a drag of that content may do here: copy, or nothing.
-    Qt::DropAction draggingEntered(const QMimeData* content, Qt::DropActions allowed) const;
+    /// What a drag of that content may do here: copy, or nothing. `source` is that of a drag that began in this program,
+    /// which carries this photo: its file would be made now, only to be opened.
+    Qt::DropAction draggingEntered(
+        const QMimeData* content, Qt::DropActions allowed, const QObject* source = nullptr) const;
     /// Hands the first file of a drop to the delegate; true when it was taken.
     bool performDragOperation(const QMimeData* content);
     /// Answers a drag that comes over the window, and shows a sign while one that may be dropped stays.

@@ -8,10 +8,11 @@
 
 // What is dropped on the preview.
 
-Qt::DropAction DragDropImageView::draggingEntered(const QMimeData* content, Qt::DropActions allowed) const
+Qt::DropAction DragDropImageView::draggingEntered(
+    const QMimeData* content, Qt::DropActions allowed, const QObject* source) const
 {
     const bool mayCopy = allowed & (Qt::LinkAction | Qt::CopyAction);
-    return mayCopy && !localFiles(*content).isEmpty() ? Qt::CopyAction : Qt::IgnoreAction;
+    return mayCopy && !source && !localFiles(*content).isEmpty() ? Qt::CopyAction : Qt::IgnoreAction;
 }
 
 bool DragDropImageView::performDragOperation(const QMimeData* content)
@@ -38,8 +39,7 @@ void DragDropImageView::showDropSign(bool on)
 
 void DragDropImageView::takeDragEnter(QDragEnterEvent& event)
 {
-    // A drag of this program's own carries this photo, whose file would be made now.
-    if (event.source() || draggingEntered(event.mimeData(), event.possibleActions()) == Qt::IgnoreAction) {
+    if (draggingEntered(event.mimeData(), event.possibleActions(), event.source()) == Qt::IgnoreAction) {
         event.ignore();
         return;
     }

@@ -80,6 +80,7 @@ private slots:
         setFiles(files, {"/a.jpg"});
         QCOMPARE(view.draggingEntered(&files, all), Qt::CopyAction);
         QCOMPARE(view.draggingEntered(&files, Qt::LinkAction), Qt::CopyAction);
+        QCOMPARE(view.draggingEntered(&files, all, &view), Qt::IgnoreAction); // the photo itself
         QCOMPARE(enter(view, files, all), Qt::CopyAction);
         QCOMPARE(enter(view, files, Qt::CopyAction), Qt::CopyAction);
         QCOMPARE(enter(view, files, Qt::LinkAction), Qt::LinkAction); // the answer that such a source understands
