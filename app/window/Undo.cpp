@@ -67,7 +67,7 @@ Shown MainWindowController::shownNow() const
 void MainWindowController::setShown(const Shown& shown)
 {
     const Choices& choices = shown.choices;
-    removeAllFilters();
+    filterIDs.clear();
     for (const int look : choices.looks)
         filterIDs.add(look);
     showStrength(choices.strength);
