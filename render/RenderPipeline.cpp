@@ -220,6 +220,20 @@ QImage renderPhoto(
     return {};
 }
 
+QImage mixedPart(const QImage& before, const QImage& after, int strength, const QRect& part)
+{
+    const auto partOf = [&part](const QImage& picture) {
+        auto block = newExchangeBlock(part.width(), part.height());
+        drawIntoBlock(picture.copy(part), block.get(), part.width(), part.height());
+        return std::make_unique<CharImage>(block.release(), part.width(), part.height());
+    };
+    if (part.isEmpty())
+        return {};
+    const auto mix = partOf(after);
+    mix->mixIn(*partOf(before), strength);
+    return opaqueImage(std::exchange(mix->data, nullptr), part.width(), part.height());
+}
+
 struct RenderedLooks::Parts {
     Frame frame;
     int borderFilter;

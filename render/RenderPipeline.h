@@ -33,6 +33,11 @@ QString shownStep(const char* step);
 QImage renderPhoto(const QImage& source, const RenderSettings& settings, const RenderProgress& progress = {},
     QString* reason = nullptr);
 
+/// A part of the mix of two pictures of the same size, of which `after` has `strength` per cent: as renderPhoto mixes,
+/// but from finished pictures, borders and all. Where a border is painted over the photo itself, as round corners are,
+/// a byte may be one off. Nothing but the part is copied of either; it lies in both. Format_RGBX8888.
+QImage mixedPart(const QImage& before, const QImage& after, int strength, const QRect& part);
+
 /// A render whose strength is still open: the photo before and after its looks, which takes twice the memory of a
 /// render. The looks are not applied again for another strength.
 class RenderedLooks {

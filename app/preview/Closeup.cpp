@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/Closeup.h"
 
+#include "render/RenderPipeline.h"
+
 #include <cstdlib>
 
 void Closeup::setPicture(const QImage& picture)
 {
+    setMix({}, picture, 0);
+}
+
+void Closeup::setMix(const QImage& before, const QImage& picture, int strength)
+{
+    m_mixedWith = before;
     m_picture = picture;
+    m_strength = strength;
     m_size = picture.size();
     m_seen = {};
 }
@@ -14,9 +23,10 @@ void Closeup::letPictureGo(const QSize& room)
 {
     if (m_picture.isNull())
         return;
-    m_seen = part(m_picture, QRect(QPoint(), room), room);
+    m_seen = part(QRect(QPoint(), room), room);
     m_seen.pixels.detach(); // from the picture
     m_picture = {};
+    m_mixedWith = {};
 }
 
 QRectF Closeup::before(const QRectF& fitted, const QSize& room) const
@@ -40,11 +50,26 @@ void Closeup::zoom(int steps, const QPointF& point, const QRectF& fitted, const 
     }
 }
 
+QRect Closeup::seen(const QSize& picture, const QRect& area, const QSize& room) const
+{
+    return area & placed(picture, room) & QRect(QPoint(), room);
+}
+
+Closeup::Part Closeup::part(const QRect& area, const QSize& room) const
+{
+    if (m_picture.isNull())
+        return m_seen;
+    if (m_mixedWith.isNull())
+        return part(m_picture, area, room);
+    const QRect seen = this->seen(m_size, area, room), magnified = seen.translated(-placed(room).topLeft());
+    const QRect pixels = Magnification::pixelsOf(magnified, percent(), m_size);
+    const QPoint first = pixels.topLeft() * percent() / 100;
+    const QImage mix = mixedPart(m_mixedWith, m_picture, m_strength, pixels);
+    return {seen, magnifiedPart(mix, percent(), magnified.translated(-first))};
+}
+
 Closeup::Part Closeup::part(const QImage& picture, const QRect& area, const QSize& room) const
 {
-    if (picture.isNull())
-        return m_seen;
-    const QRect whole = placed(picture.size(), room);
-    const QRect seen = area & whole & QRect(QPoint(), room);
-    return {seen, magnifiedPart(picture, percent(), seen.translated(-whole.topLeft()))};
+    const QRect seen = this->seen(picture.size(), area, room);
+    return {seen, magnifiedPart(picture, percent(), seen.translated(-placed(picture.size(), room).topLeft()))};
 }

@@ -13,6 +13,9 @@ public:
 
     /// Takes another picture of the photo, which is looked at in the same place.
     void setPicture(const QImage& picture);
+    /// The same with a picture of which the photo has so many per cent; the rest is another one of the same size. Only
+    /// what is seen is mixed.
+    void setMix(const QImage& before, const QImage& picture, int strength);
     /// Frees the picture. What is seen of it can be painted on until the next one comes.
     void letPictureGo(const QSize& room);
     /// The fitted picture is looked at again.
@@ -34,15 +37,21 @@ public:
         QRect area;
         QImage pixels;
     };
-    /// What an area of the room shows of a picture of the photo; of one that was let go as much as was seen. Nothing
-    /// but that part is copied, and nothing where the pixels stand as they are.
+    /// What an area of the room shows of the photo; of a picture that was let go as much as was seen. Nothing but that
+    /// part is copied, and nothing where the pixels stand as they are.
+    Part part(const QRect& area, const QSize& room) const;
+    /// The same of another picture of the photo.
     Part part(const QImage& picture, const QRect& area, const QSize& room) const;
 
 private:
+    /// Where the photo stands until now.
     QRectF before(const QRectF& fitted, const QSize& room) const;
+    QRect seen(const QSize& picture, const QRect& area, const QSize& room) const;
 
     Magnification m_magnification;
     QImage m_picture;
+    QImage m_mixedWith; ///< null where there is nothing to mix
+    int m_strength = 0; ///< of the picture in the mix
     QSize m_size; ///< of the picture, also of one that was let go
     Part m_seen; ///< of the one that was let go
 };

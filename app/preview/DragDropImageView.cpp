@@ -50,14 +50,16 @@ void DragDropImageView::setImage(const QImage& image, const QString& reason)
     setComparing(false);
     m_rendered = image;
     m_reason = reason;
-    m_compared = {};
-    if (m_isSplit)
+    if (!m_isSplit)
+        m_compared = {};
+    else if (image.isNull() || !m_closeup.isOn()) // else its picture is still to come
         setSplit(!image.isNull());
     update(before | shownArea());
 }
 
 void DragDropImageView::askForBefore()
 {
+    m_compared = {}; // may be as large as the next one
     m_compared = m_before ? m_before() : QImage();
 }
 
@@ -75,7 +77,7 @@ void DragDropImageView::setComparing(bool on)
 
 void DragDropImageView::setSplit(bool on)
 {
-    m_isSplit = on && !m_rendered.isNull() && !m_closeup.isOn();
+    m_isSplit = on && !m_rendered.isNull();
     if (m_isSplit)
         askForBefore();
     placeSplit();
@@ -97,7 +99,7 @@ void DragDropImageView::setScreenColors(const std::shared_ptr<const ScreenColors
 
 void DragDropImageView::placeSplit()
 {
-    m_splitLine->setRoom(imageRect());
+    m_splitLine->setRoom(seenRect());
 }
 
 const QImage& DragDropImageView::shownImage() const
@@ -139,9 +141,32 @@ QRect DragDropImageView::shownArea() const
     return shownImage().isNull() || m_closeup.isOn() ? rect() : imageRect().toAlignedRect();
 }
 
+QRectF DragDropImageView::seenRect() const
+{
+    return imageRect() & QRectF(rect());
+}
+
 void DragDropImageView::setFullImage(const QImage& image)
 {
     m_closeup.setPicture(image);
+    takeFullImage();
+}
+
+bool DragDropImageView::setFullMix(const QImage& before, const QImage& image, int strength)
+{
+    if (before.size() != image.size())
+        return false;
+    m_closeup.setMix(before, image, strength);
+    takeFullImage();
+    return true;
+}
+
+void DragDropImageView::takeFullImage()
+{
+    if (m_isSplit && m_closeup.isOn()) {
+        askForBefore();
+        placeSplit();
+    }
     update();
 }
 
@@ -175,8 +200,8 @@ void DragDropImageView::showCloseup()
     m_heldStill.stop();
     m_panning = false;
     setComparing(false);
-    if (m_isSplit && m_closeup.isOn())
-        setSplit(false);
+    if (m_isSplit)
+        setSplit(true); // of the other picture
     setCursor(m_closeup.isOn() ? Qt::OpenHandCursor : Qt::ArrowCursor);
     tellState();
     update();
@@ -209,18 +234,16 @@ QSize DragDropImageView::minimumSizeHint() const
 void DragDropImageView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    if (m_closeup.isOn()) {
-        paintCloseup(painter, event->rect());
-    } else if (shownImage().isNull()) {
+    if (shownImage().isNull() && !m_closeup.isOn()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
         const QString invitation = tr("Drop a photo here, or open one.");
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_reason.isEmpty() ? invitation : m_reason);
     } else if (m_isSplit && !m_comparing) {
-        paintSplit(painter);
+        paintSplit(painter, event->rect());
     } else {
-        painter.drawImage(imageRect(), fitted(m_comparing));
+        paintPhoto(painter, event->rect(), m_comparing);
     }
-    const QRectF seen = imageRect() & QRectF(rect());
+    const QRectF seen = seenRect();
     if (m_comparing)
         paintCornerLabel(painter, seen, tr("Before"));
     if (m_closeup.isOn())
@@ -233,21 +256,31 @@ void DragDropImageView::paintEvent(QPaintEvent* event)
     }
 }
 
-void DragDropImageView::paintCloseup(QPainter& painter, const QRect& exposed)
+void DragDropImageView::paintPhoto(QPainter& painter, const QRect& exposed, bool before)
+{
+    if (m_closeup.isOn())
+        paintCloseup(painter, exposed, before);
+    else
+        painter.drawImage(imageRect(), fitted(before));
+}
+
+void DragDropImageView::paintCloseup(QPainter& painter, const QRect& exposed, bool before)
 {
     const qreal ratio = devicePixelRatioF();
-    const Closeup::Part part = m_closeup.part(shownImage(), scaled(exposed, ratio).toAlignedRect(), room());
+    const QRect area = scaled(exposed, ratio).toAlignedRect();
+    const Closeup::Part part =
+        before && !m_compared.isNull() ? m_closeup.part(m_compared, area, room()) : m_closeup.part(area, room());
     painter.drawImage(scaled(part.area, 1 / ratio), onScreen(part.pixels, m_screenColors));
 }
 
 /// The labels are parts of the two pictures, and are covered with them.
-void DragDropImageView::paintSplit(QPainter& painter)
+void DragDropImageView::paintSplit(QPainter& painter, const QRect& exposed)
 {
     painter.setClipRect(m_splitLine->before());
-    painter.drawImage(imageRect(), fitted(true));
-    paintCornerLabel(painter, imageRect(), tr("Before"));
+    paintPhoto(painter, exposed, true);
+    paintCornerLabel(painter, seenRect(), tr("Before"));
     painter.setClipRect(m_splitLine->after());
-    painter.drawImage(imageRect(), fitted(false));
-    paintCornerLabel(painter, imageRect(), tr("After"), true);
+    paintPhoto(painter, exposed, false);
+    paintCornerLabel(painter, seenRect(), tr("After"), true);
     painter.setClipping(false);
 }

@@ -35,13 +35,12 @@ public:
     /// Also ends comparing: what is new must be seen. `reason`: why there is no picture, shown in its place; without
     /// one a null picture invites to drop a photo.
     void setImage(const QImage& image, const QString& reason = {});
-    /// Gives the picture that is shown while comparing. It is asked each time that comparing begins, not while it goes
-    /// on.
+    /// Gives the picture that is shown while comparing, which has the size of the one that is shown otherwise. It is
+    /// asked each time that comparing begins and, while it is split, for each new picture, not while comparing goes on.
     void setBefore(std::function<QImage()> before) { m_before = std::move(before); }
     void setComparing(bool on);
     /// Shows before on the left and after on the right of a line that is dragged across; comparing goes before it. It
-    /// stays for new pictures, and ends where there is none
-    /// and with a close look.
+    /// stays for new pictures and for a close look, and ends where there is no picture.
     void setSplit(bool on);
     bool isSplit() const { return m_isSplit; }
     SplitLine* splitLine() const { return m_splitLine; }
@@ -57,6 +56,9 @@ public:
     const Closeup& closeup() const { return m_closeup; }
     /// The full-size picture of the photo, which a close look begins with, or goes on with.
     void setFullImage(const QImage& image);
+    /// The same with a picture of which so many per cent are seen; the rest is what it is compared with. Where that has
+    /// another size nothing changes, and the answer is false.
+    bool setFullMix(const QImage& before, const QImage& image, int strength);
     /// Frees it. What is seen of it stays on the screen until the next one comes.
     void letFullImageGo();
     void magnify(const QPointF& at, int percent); ///< that point comes into the middle
@@ -69,8 +71,8 @@ public:
     bool isEditable() const { return false; }
     bool allowsCutCopyPaste() const { return false; }
 
-    /// What a drag of that content may do here: copy, or nothing. `source` is that of a drag that began in this program,
-    /// which carries this photo: its file would be made now, only to be opened.
+    /// What a drag of that content may do here: copy, or nothing. `source` is that of a drag that began in this
+    /// program, which carries this photo: its file would be made now, only to be opened.
     Qt::DropAction draggingEntered(
         const QMimeData* content, Qt::DropActions allowed, const QObject* source = nullptr) const;
     /// Hands the first file of a drop to the delegate; true when it was taken.
@@ -115,13 +117,16 @@ private:
     QRectF fittedRect(const QSize& picture) const;
     /// What the picture takes of the widget; all of it without one, for the words that stand there instead.
     QRect shownArea() const;
+    QRectF seenRect() const; ///< of the picture
     const QImage& fitted(bool before);
     void askForBefore();
+    void takeFullImage();
     void placeSplit();
-    void paintSplit(QPainter& painter);
+    void paintSplit(QPainter& painter, const QRect& exposed);
+    void paintPhoto(QPainter& painter, const QRect& exposed, bool before);
     void paintDropSign(QPainter& painter);
     void tellState();
-    void paintCloseup(QPainter& painter, const QRect& exposed);
+    void paintCloseup(QPainter& painter, const QRect& exposed, bool before);
     void showCloseup();
     void beginPan(const QPointF& position);
     void panTo(const QPointF& position);

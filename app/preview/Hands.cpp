@@ -109,9 +109,10 @@ void DragDropImageView::keyPressEvent(QKeyEvent* event)
         m_closeup.panBy({x, y}, room());
         update();
     };
-    if (m_isSplit && event->key() == Qt::Key_Left)
+    const bool movesLine = m_isSplit && !m_closeup.isOn();
+    if (movesLine && event->key() == Qt::Key_Left)
         m_splitLine->triggerAction(QAbstractSlider::SliderSingleStepSub);
-    else if (m_isSplit && event->key() == Qt::Key_Right)
+    else if (movesLine && event->key() == Qt::Key_Right)
         m_splitLine->triggerAction(QAbstractSlider::SliderSingleStepAdd);
     else if (!m_closeup.isOn())
         QWidget::keyPressEvent(event);

@@ -28,8 +28,9 @@ QImage shared(const QImage& picture, const QRect& part)
 
 QImage doubled(const QImage& picture, const QRect& part)
 {
-    const QPoint first(part.left() / 2, part.top() / 2), last(part.right() / 2, part.bottom() / 2);
-    const QImage source = shared(picture, QRect(first, last)).convertToFormat(QImage::Format_RGB32);
+    const QRect pixels = Magnification::pixelsOf(part, 200, picture.size());
+    const QPoint first = pixels.topLeft();
+    const QImage source = shared(picture, pixels).convertToFormat(QImage::Format_RGB32);
     QImage large(part.size(), QImage::Format_RGB32);
     for (int y = 0; y < large.height(); y++) {
         const auto* from = reinterpret_cast<const QRgb*>(source.constScanLine((part.y() + y) / 2 - first.y()));
@@ -95,6 +96,15 @@ QSize Magnification::sizeOf(const QSize& picture, int percent)
     return QSize(picture.width() * percent / 100, picture.height() * percent / 100).expandedTo({1, 1});
 }
 
+QRect Magnification::pixelsOf(const QRect& part, int percent, const QSize& picture)
+{
+    if (percent == 200)
+        return {QPoint(part.left() / 2, part.top() / 2), QPoint(part.right() / 2, part.bottom() / 2)};
+    if (percent == 100)
+        return part;
+    return QRect(part.topLeft() * 2, part.size() * 2) & QRect(QPoint(), picture);
+}
+
 QPointF shareOf(const QPointF& point, const QRectF& rect)
 {
     return {std::clamp((point.x() - rect.x()) / rect.width(), 0.0, 1.0),
@@ -107,10 +117,10 @@ QImage magnifiedPart(const QImage& picture, int percent, const QRect& part)
         return {};
     if (percent == 200)
         return doubled(picture, part);
+    const QImage pixels = shared(picture, Magnification::pixelsOf(part, percent, picture.size()));
     if (percent == 100)
-        return shared(picture, part).convertToFormat(QImage::Format_RGB32);
-    const QRect source = QRect(part.topLeft() * 2, part.size() * 2) & picture.rect();
-    QImage small = scaledTo(shared(picture, source), part.size());
+        return pixels.convertToFormat(QImage::Format_RGB32);
+    QImage small = scaledTo(pixels, part.size());
     small.convertTo(QImage::Format_RGB32);
     return small;
 }

@@ -33,6 +33,8 @@ public:
 
     /// The size of a magnified picture. At 50 per cent an odd side loses its last pixel, but no side all of them.
     static QSize sizeOf(const QSize& picture, int percent);
+    /// The pixels of a picture that make a part of it, which is in magnified pixels.
+    static QRect pixelsOf(const QRect& part, int percent, const QSize& picture);
 
 private:
     int m_percent = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/RenderSeed.h"
 #include "app/window/MainWindowController.h"
+#include "image/CharImage.h"
 #include "photo/FreeMemory.h"
 #include "render/Export.h"
 #include "ui_MainWindow.h"
@@ -8,6 +9,8 @@
 #include <QAction>
 #include <QCursor>
 #include <QMenu>
+
+using namespace lumora;
 
 // The photo as it will be saved: what a close look shows is the very picture that is encoded, and no other is made for
 // the file.
@@ -52,7 +55,7 @@ QImage MainWindowController::renderFullSize(QString* reason)
 
 MainWindowController::SavedPicture MainWindowController::inOutputSize(QImage render, QString* reason)
 {
-    SavedPicture saved{render, render.size()};
+    SavedPicture saved{render, render.size(), strength};
     if (!render.isNull() && imgOutputSize > -1) {
         saved.size = downsizeNSImage(saved.picture, imgOutputSize);
         if (saved.picture.isNull())
@@ -93,41 +96,57 @@ bool MainWindowController::renderActualSize()
     if (!work || m_photo.isNull())
         return false;
     letSavedPictureGo();
-    m_fullSizeLooks.reset();
+    m_wholeLooks = {};
     QString reason;
     return showSavedPicture(savedPicture(&reason), reason);
 }
 
-/// The same where nothing but the strength has changed.
+/// False where there is no memory for them.
+bool MainWindowController::takeWholeLooks()
+{
+    if (!m_wholeLooks.isNull())
+        return true;
+    const bool isShown = m_shownSaved.strength == CharImage::wholeStrength;
+    if (isShown)
+        m_wholeLooks = m_shownSaved.picture;
+    letSavedPictureGo();
+    if (m_wholeLooks.isNull()) {
+        const RenderSeed seed(m_renderSeed);
+        RenderSettings whole = renderSettings();
+        whole.strength = CharImage::wholeStrength;
+        QString reason;
+        m_wholeLooks = inOutputSize(renderPhoto(m_photo.original(), whole, shownProgress(), &reason), &reason).picture;
+    }
+    return !m_wholeLooks.isNull();
+}
+
+/// While the slider is held only what is seen is mixed, of finished pictures: another whole one would take as much
+/// memory as the photo.
 void MainWindowController::mixActualSize()
 {
-    letSavedPictureGo();
-    if (!m_fullSizeLooks) {
-        const RenderSeed seed(m_renderSeed);
-        m_fullSizeLooks = RenderedLooks::of(m_photo.original(), renderSettings(), shownProgress());
-    }
-    const QImage picture = m_fullSizeLooks ? m_fullSizeLooks->withStrength(strength) : QImage();
-    QString reason;
-    if (picture.isNull())
+    if (!m_ui->sldStrength->isSliderDown() || !takeWholeLooks()
+        || !m_ui->mainImageView->setFullMix(fullSizeBefore(), m_wholeLooks, strength))
         renderActualSize();
-    else
-        showSavedPicture(inOutputSize(picture, &reason), reason);
+}
+
+/// The slider was let go: now it is what is saved.
+void MainWindowController::endMixing()
+{
+    if (!m_wholeLooks.isNull())
+        renderActualSize();
 }
 
 /// What a close look is compared with: it has the size of what is saved.
-QImage MainWindowController::fullSizeBefore()
+const QImage& MainWindowController::fullSizeBefore()
 {
-    QImage before = m_framedFullSize.of(m_photo.original(), cropFilter, borderFilter);
-    if (imgOutputSize > -1)
-        downsizeNSImage(before, imgOutputSize);
-    return before;
+    return m_framedFullSize.of(m_photo.original(), cropFilter, borderFilter, imgOutputSize);
 }
 
 void MainWindowController::showFitted()
 {
     m_ui->mainImageView->fit();
     m_framedFullSize = {};
-    m_fullSizeLooks.reset();
+    m_wholeLooks = {};
     letSavedPictureGo();
     showZoom();
 }

@@ -13,21 +13,18 @@ void MainWindowController::connectComparing()
     DragDropImageView* view = m_ui->mainImageView;
     // Crop and border are those of the latest render: each one reads them from the options.
     view->setBefore([this, view] {
-        return view->closeup().isOn() ? fullSizeBefore()
-                                      : m_framedOriginal.of(m_photo.display(), cropFilter, borderFilter);
+        if (view->closeup().isOn())
+            return fullSizeBefore();
+        return m_framedOriginal.of(m_photo.display(), cropFilter, borderFilter);
     });
     setTabOrder(view, view->splitLine());
 }
 
 void MainWindowController::buildSplitEntry(QMenu& photo)
 {
-    DragDropImageView* view = m_ui->mainImageView;
-    m_splitAction = photo.addAction(tr("&Before and after"), Qt::Key_B, this, [this, view](bool on) {
-        if (on && view->closeup().isOn())
-            showFitted(); // the split is of the whole photo
-        view->setSplit(on);
-    });
+    m_splitAction = photo.addAction(
+        tr("&Before and after"), Qt::Key_B, this, [this](bool on) { m_ui->mainImageView->setSplit(on); });
     m_splitAction->setCheckable(true);
-    connect(view, &DragDropImageView::splitAnswered, m_splitAction, &QAction::setChecked);
+    connect(m_ui->mainImageView, &DragDropImageView::splitAnswered, m_splitAction, &QAction::setChecked);
     m_photoActions << m_splitAction;
 }

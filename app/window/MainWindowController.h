@@ -187,6 +187,7 @@ private:
     struct SavedPicture {
         QImage picture;
         QSizeF size; ///< before it was rounded to pixels
+        int strength = lumora::CharImage::wholeStrength; ///< of its looks
     };
     QImage renderFullSize(QString* reason);
     SavedPicture inOutputSize(QImage render, QString* reason);
@@ -195,8 +196,10 @@ private:
     void letSavedPictureGo();
     bool showSavedPicture(const SavedPicture& saved, const QString& reason);
     bool renderActualSize();
-    QImage fullSizeBefore();
+    const QImage& fullSizeBefore();
+    bool takeWholeLooks();
     void mixActualSize();
+    void endMixing();
     void showFitted();
     void showZoom();
     void toggleActualSize(const QPointF& at); ///< in the coordinates of the preview
@@ -282,7 +285,7 @@ private:
     QImage m_filtersAppliedImage; ///< the latest render
     std::unique_ptr<RenderedLooks> m_renderedLooks; ///< of the preview, once its strength was changed; else null
     SavedPicture m_shownSaved; ///< that of the close look; null without one
-    std::unique_ptr<RenderedLooks> m_fullSizeLooks; ///< of that, once its strength was changed; else null
+    QImage m_wholeLooks; ///< the same in whole strength, while the slider is dragged; else null
     QByteArray m_waitingFile; ///< to be opened when there is room for it; empty for none
     bool m_wasPainted = false;
     QString m_panelFolder; ///< of the photo, or where a panel was left since; also of a former run

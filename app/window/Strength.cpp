@@ -30,7 +30,10 @@ void MainWindowController::buildStrengthEntries(QMenu& looks)
 void MainWindowController::connectStrength()
 {
     connect(m_ui->sldStrength, &QSlider::valueChanged, this, &MainWindowController::strengthChanged);
-    connect(m_ui->sldStrength, &QSlider::sliderReleased, this, [this] { addStep(tr("Strength")); });
+    connect(m_ui->sldStrength, &QSlider::sliderReleased, this, [this] {
+        endMixing();
+        addStep(tr("Strength"));
+    });
 }
 
 void MainWindowController::strengthChanged()

@@ -240,6 +240,10 @@ private slots:
             }
         // Chosen later, it gives the same.
         QCOMPARE(RenderedLooks::of(source, settings)->withStrength(strength), picture);
+        // So does a part of the two finished pictures, in either order of bytes.
+        const QRect part(3, 10, 40, 21);
+        for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_RGBX8888})
+            QCOMPARE(mixedPart(before.convertToFormat(format), after, strength, part), picture.copy(part));
     }
 
     void strengthOfALargePhotoIsMixedAllOver()

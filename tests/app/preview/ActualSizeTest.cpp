@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QSlider>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -312,6 +313,10 @@ private slots:
         desk.choose("btnImgSize", "1000");
         QTest::keyPress(desk.view, Qt::Key_Space);
         QCOMPARE(desk.view->shownImage().size(), desk.picture().size());
+        const qint64 kept = desk.view->shownImage().cacheKey();
+        QTest::keyRelease(desk.view, Qt::Key_Space);
+        QTest::keyPress(desk.view, Qt::Key_Space);
+        QCOMPARE(desk.view->shownImage().cacheKey(), kept); // it is not scaled once more
         QTest::keyRelease(desk.view, Qt::Key_Space);
         desk.type(Qt::Key_Escape);
         desk.press(desk.middle()); // fitted, it does at once
@@ -391,23 +396,80 @@ private slots:
     void aDragOfTheStrengthIsSeenAtOnce()
     {
         CloseDesk desk;
+        auto* slider = desk.find<QSlider>("sldStrength");
         desk.type(Qt::Key_Z);
-        const auto* slider = desk.find<QSlider>("sldStrength");
         for (const int look : {Filter::lightleak, Filter::helga}) {
             desk.window.pressFilterButton(look);
             const QImage whole = desk.picture();
-            desk.find<QSlider>("sldStrength")->setSliderDown(true);
+            const auto shows = [&](int strength) {
+                return desk.paints(mixedPart(desk.window.getoriginalImage(), whole, strength, whole.rect()));
+            };
+            slider->setSliderDown(true);
             for (const int value : {60, 20, 100}) {
-                desk.find<QSlider>("sldStrength")->setSliderPosition(value);
-                QVERIFY(desk.paints(desk.picture()));
+                slider->setSliderPosition(value);
+                QVERIFY(shows(value));
+                QCOMPARE(desk.picture().cacheKey(), whole.cacheKey()); // no other one was made
             }
-            QCOMPARE(desk.picture(), whole);
-            desk.find<QSlider>("sldStrength")->setSliderPosition(30);
-            desk.find<QSlider>("sldStrength")->setSliderDown(false);
+            slider->setSliderPosition(30);
+            desk.type(Qt::Key_Plus); // 200 per cent
+            QVERIFY(shows(30));
+            desk.type(Qt::Key_Minus);
+            desk.type(Qt::Key_Minus);
+            QCOMPARE(desk.percent(), 50);
+            QVERIFY(shows(30));
+            desk.type(Qt::Key_Z);
+            slider->setSliderDown(false);
             QVERIFY(desk.picture() != whole);
+            QVERIFY(shows(30) && desk.paints(desk.picture()));
             QCOMPARE(encodeJpeg(desk.picture(), {}), desk.saved());
-            QCOMPARE(slider->value(), 30);
+            // From there the looks are rendered once.
+            slider->setSliderDown(true);
+            slider->setSliderPosition(50);
+            const qint64 rendered = desk.picture().cacheKey();
+            slider->setSliderPosition(70);
+            QVERIFY(shows(70));
+            QCOMPARE(desk.picture().cacheKey(), rendered);
+            desk.window.undo(); // in the middle of it
+            QVERIFY(desk.paints(desk.picture()));
+            slider->setSliderDown(false);
+            QCOMPARE(encodeJpeg(desk.picture(), {}), desk.saved());
         }
+    }
+
+    void aDragInAnotherFrameOrSizeIsNear_data()
+    {
+        QTest::addColumn<QString>("border");
+        QTest::addColumn<QString>("size");
+        QTest::newRow("another size") << "Thin"
+                                      << "1600";
+        QTest::newRow("round corners") << "Rounded"
+                                       << "Original";
+    }
+    void aDragInAnotherFrameOrSizeIsNear()
+    {
+        QFETCH(QString, border);
+        QFETCH(QString, size);
+        CloseDesk desk;
+        auto* slider = desk.find<QSlider>("sldStrength");
+        desk.choose("btnBorders", qPrintable(border));
+        desk.choose("btnImgSize", qPrintable(size));
+        desk.window.pressFilterButton(Filter::helga);
+        desk.type(Qt::Key_Z);
+        slider->setSliderDown(true);
+        slider->setSliderPosition(40);
+        const QImage whole = desk.picture(), dragged = desk.painted();
+        slider->setSliderDown(false);
+        const QImage saved = desk.painted();
+        QVERIFY(desk.picture() != whole && desk.paints(desk.picture()));
+        QCOMPARE(encodeJpeg(desk.picture(), {}), desk.saved());
+        QCOMPARE(dragged.size(), saved.size());
+        int most = 0;
+        for (int y = 0; y < saved.height(); y++)
+            for (int x = 0; x < saved.width(); x++) {
+                const QRgb a = dragged.pixel(x, y), b = saved.pixel(x, y);
+                most = std::max({most, abs(qRed(a) - qRed(b)), abs(qGreen(a) - qGreen(b)), abs(qBlue(a) - qBlue(b))});
+            }
+        QVERIFY2(most <= 1, qPrintable(QString::number(most)));
     }
 };
 

@@ -166,6 +166,18 @@ private slots:
         }
     }
 
+    void eachSizeHasItsOwn()
+    {
+        FramedOriginal framed;
+        const QImage source = makePhoto(60, 40);
+        for (const int size : {90, 30, 90}) {
+            const QImage picture = framed.of(source, Filter::original, Filter::original, size);
+            QCOMPARE(picture.width(), size);
+            QCOMPARE(framed.of(source, Filter::original, Filter::original, size).cacheKey(), picture.cacheKey());
+        }
+        QCOMPARE(framed.of(source, Filter::original, Filter::original).cacheKey(), source.cacheKey());
+    }
+
     void whereTheFrameDoesNotFitIntoTheMemoryThePhotoIsShown()
     {
         const QImage strip = makePhoto(200'000, 2);

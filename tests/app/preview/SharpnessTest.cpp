@@ -1,26 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/Desk.h"
+#include "tests/app/PaintWatch.h"
 
-#include <QPaintEvent>
+#include <QApplication>
+#include <functional>
 
 // Run at several densities of the screen.
 
 class SharpnessTest : public QObject {
     Q_OBJECT
-
-private:
-    /// Collects what a widget is told to paint.
-    struct PaintWatch : QObject {
-        QRegion region;
-
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            if (event->type() == QEvent::Paint)
-                region += static_cast<QPaintEvent*>(event)->region();
-            return false;
-        }
-        bool covers(const QRect& area) const { return QRegion(area).subtracted(region).isEmpty(); }
-    };
 
 private slots:
     void aNewPicturePaintsItsOwnPlaceAndThatOfTheFormerOne()
@@ -44,6 +32,34 @@ private slots:
         watch.region = {};
         view.setImage({});
         QTRY_VERIFY(watch.covers(view.rect()));
+    }
+
+    void whatIsShownAnewIsPaintedAnew()
+    {
+        DragDropImageView view;
+        view.resize(301, 203);
+        view.setImage(makePhoto(150, 40));
+        view.setBefore([] { return makePhoto(150, 40).mirrored(); });
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        PaintWatch watch;
+        view.installEventFilter(&watch);
+        const auto isPaintedBy = [&](const std::function<void()>& change) {
+            QApplication::processEvents();
+            watch.region = {};
+            change();
+            return QTest::qWaitFor([&] { return watch.covers(view.imageRect().toAlignedRect() & view.rect()); });
+        };
+        QVERIFY(isPaintedBy([&] { view.setImage(makePhoto(150, 40).mirrored(true, false)); })); // as large as before
+        QVERIFY(isPaintedBy([&] { view.setComparing(true); }));
+        QVERIFY(isPaintedBy([&] { view.setComparing(false); }));
+        const QImage large = makePhoto(600, 400);
+        view.setFullImage(large);
+        QVERIFY(isPaintedBy([&] { view.magnify({150, 100}, 100); }));
+        QVERIFY(isPaintedBy([&] { view.setFullImage(large.mirrored()); }));
+        QVERIFY(isPaintedBy([&] { view.setFullMix(large, large.mirrored(), 50); }));
+        QVERIFY(isPaintedBy([&] { QTest::keyClick(&view, Qt::Key_Left); }));
+        QVERIFY(isPaintedBy([&] { view.fit(); }));
     }
 
     void aPixelOfThePictureIsAPixelOfTheScreen()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/preview/SplitLine.h"
 #include "tests/app/Desk.h"
+#include "tests/app/PaintWatch.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -8,8 +9,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPaintEvent>
 #include <QSlider>
+#include <QtMath>
 
 /// Before and after on either side of a line, by pixels. Run at several densities of the screen.
 class SplitTest : public QObject {
@@ -102,14 +103,33 @@ private:
         QPoint awayFromLine() const { return {view->width() / 2 + 60, view->height() / 2}; }
     };
 
-    /// Collects what a widget is told to paint.
-    struct PaintWatch : QObject {
-        QRegion region;
-        bool eventFilter(QObject*, QEvent* event) override
+    /// A window with a photo that is larger than it, under a look alone.
+    struct Close : Try {
+        Close()
+            : Try(makePhoto(2400, 1600))
         {
-            if (event->type() == QEvent::Paint)
-                region += static_cast<QPaintEvent*>(event)->region();
-            return false;
+            choose("btnBorders", "None");
+            choose("btnCropping", "None");
+            QTest::mouseMove(&window, {2, 2});
+        }
+        /// Whether the screen shows a picture of the close look between two places of the view.
+        bool shows(const QImage& picture, int from, int to)
+        {
+            const qreal ratio = view->devicePixelRatioF();
+            const QRect part =
+                QRectF(QPointF(from, labelHeight) * ratio, QPointF(to, view->height() - labelHeight) * ratio).toRect();
+            const QPoint corner = (view->imageRect().topLeft() * ratio).toPoint();
+            return part.isEmpty()
+                || pixelsOf(view->grab().toImage()).copy(part)
+                == magnifiedPart(picture, view->closeup().percent(), part.translated(-corner));
+        }
+        /// The photo without its look on the left of the line, the one that is saved on its right.
+        bool showsBoth()
+        {
+            const int x = line->geometry().center().x();
+            return window.getoriginalImage().size() == view->closeup().picture().size()
+                && shows(window.getoriginalImage(), 0, x - lineBreadth)
+                && shows(view->closeup().picture(), x + lineBreadth, view->width());
         }
     };
 
@@ -342,21 +362,56 @@ private slots:
         QCOMPARE(pixelsOf(desk.view->grab().toImage()), split);
     }
 
-    void eitherTheSplitOrACloseLook()
+    void aCloseLookIsSplitToo()
     {
-        Try desk;
-        const auto isClose = [&] { return desk.view->closeup().isOn(); };
+        Close desk;
         desk.key(Qt::Key_B);
         desk.key(Qt::Key_Z);
-        QVERIFY(isClose());
-        QVERIFY(desk.isWhole());
-        desk.key(Qt::Key_B);
-        QVERIFY(!isClose());
-        QVERIFY(desk.isSplit());
-        desk.key(Qt::Key_Z);
+        QVERIFY(desk.isSplit() && desk.showsBoth());
+        for (const int x : {desk.view->width() / 4, desk.view->width() * 3 / 4}) {
+            desk.line->setValue(SplitLine::whole * x / desk.view->width());
+            QVERIFY(desk.showsBoth());
+        }
+        for (const Qt::Key pan : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up}) {
+            const int place = desk.line->value();
+            const QPointF corner = desk.view->imageRect().topLeft();
+            desk.key(pan);
+            QCOMPARE(desk.line->value(), place);
+            QVERIFY(desk.view->imageRect().topLeft() != corner);
+            QVERIFY(desk.showsBoth());
+        }
+        desk.key(Qt::Key_Plus);
+        QVERIFY(desk.isSplit() && desk.showsBoth());
+        desk.click("btnMono");
+        QVERIFY(desk.isSplit() && desk.showsBoth());
+        desk.click("btnRight");
+        QVERIFY(desk.isSplit() && desk.showsBoth());
+        QTest::keyPress(desk.view, Qt::Key_Space);
+        QCOMPARE(pixelsOf(desk.view->shownImage()), pixelsOf(desk.window.getoriginalImage()));
+        QTest::keyRelease(desk.view, Qt::Key_Space);
+        // The split ends first.
         desk.key(Qt::Key_Escape);
-        QVERIFY(!isClose());
-        QVERIFY(desk.isWhole());
+        QVERIFY(desk.isWhole() && desk.view->closeup().isOn());
+        desk.key(Qt::Key_B);
+        QVERIFY(desk.isSplit() && desk.showsBoth());
+        desk.key(Qt::Key_Z);
+        desk.key(Qt::Key_Z); // once to 100 per cent
+        QVERIFY(!desk.view->closeup().isOn());
+        QVERIFY(desk.isSplit());
+        QCOMPARE(desk.line->geometry().height(), qCeil(desk.view->imageRect().height()));
+    }
+
+    void nothingIsRenderedWhileASplitCloseLookMoves()
+    {
+        Split split;
+        split.setFullImage(split.render);
+        split.magnify({200, 100}, 100);
+        const int asked = split.asked;
+        split.drag(split.lineX(), 120);
+        QTest::keyClick(&split, Qt::Key_Right);
+        split.onScreen();
+        QCOMPARE(split.asked, asked);
+        QVERIFY(split.accessibleDescription().contains("other parts"));
     }
 
     void withoutAPhotoThereIsNoSplit()
