@@ -16,6 +16,13 @@ using namespace lumora;
 
 namespace {
 
+/// A photo as many times as large as the window, whatever the screen's density.
+QImage photoForScreen()
+{
+    const qreal ratio = qApp->devicePixelRatio();
+    return makePhoto(int(2400 * ratio), int(1600 * ratio));
+}
+
 /// A window with a photo that is larger than it.
 class CloseDesk : public Desk {
 public:
@@ -172,7 +179,7 @@ private slots:
 
     void aClickedPointComesIntoTheMiddle()
     {
-        CloseDesk desk;
+        CloseDesk desk(photoForScreen());
         const QPoint at = desk.middle() + QPoint(40, -30);
         const QRectF fitted = desk.view->imageRect();
         const QPointF share((at.x() - fitted.x()) / fitted.width(), (at.y() - fitted.y()) / fitted.height());
@@ -192,20 +199,21 @@ private slots:
 
     void byKeyTheMiddleOrThePointer()
     {
-        CloseDesk desk;
+        CloseDesk desk(photoForScreen());
         const auto centre = [&] {
             return QPointF(
                 desk.room().width() / 2.0 - desk.placed().x(), desk.room().height() / 2.0 - desk.placed().y());
         };
         desk.type(Qt::Key_Z);
-        QVERIFY(qAbs(centre().x() - 1200) <= 1 && qAbs(centre().y() - 800) <= 1);
+        const QSize photo = desk.picture().size();
+        QVERIFY(qAbs(centre().x() - photo.width() / 2) <= 1 && qAbs(centre().y() - photo.height() / 2) <= 1);
         desk.type(Qt::Key_Escape);
         QCOMPARE(desk.percent(), 0);
         const QRectF fitted = desk.view->imageRect();
         QTest::mouseMove(
-            desk.view, fitted.topLeft().toPoint() + QPoint(int(fitted.width() * 0.75), int(fitted.height() / 2)));
+            desk.view, fitted.topLeft().toPoint() + QPoint(int(fitted.width() * 0.3), int(fitted.height() / 2)));
         desk.type(Qt::Key_Z);
-        QVERIFY(qAbs(centre().x() - 1800) < 6);
+        QVERIFY(qAbs(centre().x() - photo.width() * 0.3) <= 2 * photo.width() / fitted.width()); // two points
         desk.actualSize().trigger();
         QCOMPARE(desk.percent(), 0);
     }
@@ -224,13 +232,16 @@ private slots:
 
     void stepsByKeysAndWheelKeepWhatIsUnderThePointer()
     {
-        CloseDesk desk;
+        CloseDesk desk(photoForScreen());
         const QPointF at = QPointF(desk.middle()) + QPointF(37, 21);
-        const QPoint pixel(int((at.x() - desk.view->imageRect().x()) / desk.view->imageRect().width() * 2400),
-            int((at.y() - desk.view->imageRect().y()) / desk.view->imageRect().height() * 1600));
+        const QSize photo = desk.window.getoriginalImage().size();
+        const QRectF fitted = desk.view->imageRect();
+        const int most = int(photo.width() / fitted.width()); // a point of the fitted photo
+        const QPoint pixel(int((at.x() - fitted.x()) / fitted.width() * photo.width()),
+            int((at.y() - fitted.y()) / fitted.height() * photo.height()));
         const auto stays = [&] {
             const QPoint way = desk.pixelAt(at) - pixel;
-            return qAbs(way.x()) <= 2 && qAbs(way.y()) <= 2;
+            return qAbs(way.x()) <= most && qAbs(way.y()) <= most;
         };
         desk.wheel(60, at);
         QCOMPARE(desk.percent(), 0); // half a step
