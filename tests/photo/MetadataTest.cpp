@@ -363,6 +363,7 @@ private slots:
         list.setXmpArrayType(Exiv2::XmpValue::xaAlt);
         image->xmpData().erase(image->xmpData().findKey(Exiv2::XmpKey("Xmp.xmp.Thumbnails")));
         image->xmpData().add(Exiv2::XmpKey("Xmp.xmp.Thumbnails"), &list);
+        image->xmpData()["Xmp.xmp.Thumbnails[1]/xmpGImg:width"] = "64";
         image->xmpData()["Xmp.xmp.Thumbnails[1]/xmpGImg:image"] = base64;
         image->xmpData()["Xmp.dc.source"] = base64;
         file = written(image);
@@ -375,6 +376,7 @@ private slots:
         const QByteArray after = saved(file);
         QCOMPARE(picturesIn(after), 1);
         QVERIFY(!after.contains("/9j/"));
+        QVERIFY(!after.contains("Thumbnails"));
         QVERIFY(!after.contains("8BIM\x04\x0C"));
         const Image result = opened(after);
         QCOMPARE(value(result, "Exif.Photo.MakerNote"), std::string("none"));
