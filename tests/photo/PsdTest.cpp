@@ -28,13 +28,15 @@ QByteArray sized(const QByteArray& block, bool wide = false)
     return (wide ? bigEndian(quint64(block.size())) : bigEndian(quint32(block.size()))) + block;
 }
 
-/// One run of literals and one of repeats, and a byte that means nothing.
+/// One run of literals, a byte that means nothing, and one run of the equal bytes at the end.
 QByteArray packed(const QByteArray& row)
 {
-    if (row.size() < 3)
-        return QByteArray(1, char(row.size() - 1)) + row;
-    return QByteArray(1, char(row.size() - 3)) + row.chopped(2) + char(-128) + char(0) + row.at(row.size() - 2)
-        + char(0) + row.back();
+    qsizetype equal = 1;
+    while (equal < row.size() && row.at(row.size() - 1 - equal) == row.back())
+        equal++;
+    const QByteArray literals = row.chopped(equal);
+    return (literals.isEmpty() ? QByteArray() : char(literals.size() - 1) + literals) + char(-128) + char(1 - equal)
+        + row.back();
 }
 
 /// `sample(channel, x, y)` on 0 .. 1.
@@ -178,6 +180,21 @@ private slots:
             [](int x, int) {
                 return x == 8 ? 0xff000000 : x % 3 == 0 ? 0xff00ffff : x % 3 == 1 ? 0xffff00ff : 0xffffff00;
             });
+    }
+
+    void inksAreRounded()
+    {
+        const auto sample = [](int c, int, int) { return c == 0 ? 100 / 255.0f : c == 3 ? 101 / 255.0f : 1.0f; };
+        compare(open(psd({cmyk, 8, 4}, sample)), [](int, int) { return qRgb(40, 101, 101); });
+    }
+
+    void onlyTheBigKindHasLongSides()
+    {
+        for (const bool big : {false, true}) {
+            QByteArray file = psd({grey, 8, 1, big}, ramps);
+            file.replace(14, 8, bigEndian(quint32(1)) + bigEndian(quint32(30001)));
+            QCOMPARE(open(file + QByteArray(30001, '\x55')).image.isNull(), !big);
+        }
     }
 
     void labIsConverted()

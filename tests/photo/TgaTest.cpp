@@ -154,7 +154,8 @@ private slots:
             return open(stated < 0 ? file : file + footer(file.size(), stated)).image.pixel(0, 0);
         };
         Kind kind = {.type = 2, .bits = 32, .fromTop = true, .alphaBits = 8, .alpha = 0};
-        QCOMPARE(topLeft(kind, 3), 0xffffffff); // on white
+        QCOMPARE(topLeft(kind, 2), 0xffffffff); // on white: kept, though it means nothing to the writer
+        QCOMPARE(topLeft(kind, 3), 0xffffffff);
         QCOMPARE(topLeft(kind, 0), 0xffff0000);
         QCOMPARE(topLeft(kind, 1), 0xffff0000);
         QCOMPARE(topLeft(kind, -1), 0xffff0000); // a whole picture of nothing is not meant
