@@ -11,6 +11,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QDesktopServices>
+#include <QDir>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
@@ -19,6 +21,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSlider>
+#include <QUrl>
 #include <cstdio>
 #include <cstring>
 
@@ -27,6 +30,8 @@ class LanguagesTest : public QObject {
     Q_OBJECT
 
 private:
+    QUrl m_opened; ///< last, by the desktop
+
     static void allLanguages()
     {
         QTest::addColumn<QString>("language");
@@ -84,6 +89,9 @@ private:
         auto* widget = desk.find<QWidget>(name);
         return widget->mapTo(&desk.window, widget->rect().center()).x();
     }
+
+public slots:
+    void noteOpened(const QUrl& url) { m_opened = url; }
 
 private slots:
     void init() { setPreferences({}); }
@@ -196,6 +204,19 @@ private slots:
         useFetched();
         const QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Cancel);
         QCOMPARE(box.button(QMessageBox::Cancel)->text().remove('&') == "Cancel", usedLanguage().isEmpty());
+    }
+
+    void helpIsInTheLanguageOfTheWindow()
+    {
+        QFile german(QCoreApplication::applicationDirPath() + "/../share/lumora/help_de.pdf");
+        QVERIFY(QDir().mkpath(QFileInfo(german).path()) && german.open(QIODevice::WriteOnly));
+        useLanguage("de");
+        Desk desk;
+        QDesktopServices::setUrlHandler("file", this, "noteOpened");
+        desk.window.openHelp();
+        QDesktopServices::unsetUrlHandler("file");
+        QCOMPARE(m_opened.fileName(), QString("help_de.pdf"));
+        german.remove();
     }
 
     /// What is chosen, stored and rendered does not depend on how it is called.
