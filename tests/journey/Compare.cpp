@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Holds a saved file to the pipeline's own render of its photo, pixel by pixel:
 //
-//     journey_compare SAVED PHOTO LOOKS CROP BORDER
+//     journey_compare SAVED PHOTO LOOKS CROP BORDER [STRENGTH]
 //
-// LOOKS are filter numbers with commas between them, or "none"; CROP and BORDER are filter numbers. With SAVED alone it
-// tells the file's width and height.
+// LOOKS are filter numbers with commas between them, or "none"; CROP and BORDER are filter numbers, STRENGTH is in per
+// cent. With SAVED alone it tells the file's width and height.
 //
 //     journey_compare --shown SCREENSHOT SAVED
 //
@@ -82,7 +82,7 @@ int main(int argc, char** argv)
     QGuiApplication application(argc, argv);
     if (argc == 4 && std::strcmp(argv[1], "--shown") == 0)
         return compareShown(argv[2], argv[3]);
-    if (argc != 2 && argc != 6) {
+    if (argc != 2 && argc != 6 && argc != 7) {
         std::fprintf(stderr, "journey_compare: give the saved file, the photo, the looks, the crop and the border\n");
         return 2;
     }
@@ -101,8 +101,11 @@ int main(int argc, char** argv)
     for (const QString& look : QString(argv[3]).split(',', Qt::SkipEmptyParts))
         if (look != "none")
             looks.add(look.toInt());
-    const QImage render = renderPhoto(
-        photo.image, {.filterIDs = &looks, .cropFilter = std::atoi(argv[4]), .borderFilter = std::atoi(argv[5])});
+    RenderSettings settings = {
+        .filterIDs = &looks, .cropFilter = std::atoi(argv[4]), .borderFilter = std::atoi(argv[5])};
+    if (argc == 7)
+        settings.strength = std::atoi(argv[6]);
+    const QImage render = renderPhoto(photo.image, settings);
 
     const QImage expected = decoded(encodeJpeg(render, photo.metadata));
     if (saved.isNull() || saved != expected) {

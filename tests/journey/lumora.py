@@ -103,6 +103,13 @@ class Lumora:
         with open(picture, "rb") as file:
             return file.read()
 
+    def shows_middle_of(self, saved):
+        """Whether the middle of the preview shows the middle of a saved file, pixel by pixel."""
+        self.seen()
+        compare = [os.path.join(self.tools, "journey_compare"), "--shown",
+                   os.path.join(os.environ["HOME"], "seen.png"), saved]
+        return subprocess.run(compare, check=False).returncode == 0
+
     def is_enabled(self, name):
         return has_state(self.control(name), pyatspi.STATE_ENABLED)
 
