@@ -748,7 +748,7 @@
     </message>
     <message>
         <source>&amp;Before and after</source>
-        <translation>&amp;Avant et après</translation>
+        <translation>A&amp;vant et après</translation>
     </message>
     <message>
         <source>“%1” cannot be opened.</source>
