@@ -48,8 +48,6 @@ void FramedStyle::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox)
-        drawFrame(*painter, option->rect, *option);
     if (control == CC_Slider)
         drawFrame(*painter, subControlRect(control, option, SC_SliderHandle, widget), *option);
 }

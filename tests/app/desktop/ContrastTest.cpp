@@ -135,6 +135,13 @@ private slots:
             CLEAR(contrastOfSigns(painted(*popUp).copy(5, 5, popUp->width() - 30, popUp->height() - 10)),
                 popUp->objectName());
 
+        // With high contrast a control is told from the window by its frame.
+        for (const char* name : {"btnLoad", "btnFlatten", "btnBorders", "btnImgSize"}) {
+            const QImage framed = painted(*desk.find<QWidget>(name));
+            if (high)
+                CLEAR(contrast(framed.pixel(0, framed.height() / 2), qRgb(51, 51, 51)), QString("frame of ") + name);
+        }
+
         // Marks: a tick, and the sign of an applied look.
         auto* box = desk.find<QCheckBox>("chkRandomness");
         const QImage off = painted(*box);

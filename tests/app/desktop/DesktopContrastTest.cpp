@@ -17,10 +17,12 @@ class Portal : public QObject {
 
 public:
     Settings settings;
+    int answers = 0;
 
 public slots:
     Settings ReadAll(const QStringList& spaces)
     {
+        answers++;
         Settings asked;
         for (const QString& space : spaces)
             if (settings.contains(space))
@@ -83,8 +85,11 @@ private slots:
     {
         const DesktopContrast contrast;
         QSignalSpy changes(&contrast, &DesktopContrast::changed);
-        for (const QVariant& other : {QVariant(2u), QVariant(QStringLiteral("1")), QVariant(-1)})
+        for (const QVariant& other : {QVariant(2u), QVariant(QStringLiteral("1")), QVariant(-1)}) {
+            const int before = m_portal.answers;
             set(m_appearance, m_contrast, other);
+            QTRY_VERIFY(m_portal.answers > before);
+        }
         set(m_gnome, m_gnomeContrast, false);
         set(m_appearance, QStringLiteral("color-scheme"), 0u);
         set(m_gnome, m_gnomeContrast, true); // is heard, after all that
