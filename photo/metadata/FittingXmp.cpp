@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/metadata/FittingXmp.h"
 
+#include "photo/metadata/Exiv2Bytes.h"
+
 #include <QLatin1String>
 #include <QString>
 #include <algorithm>
@@ -98,8 +100,7 @@ QByteArray fittingIptc(const QByteArray& records, bool withPlace)
         if (withPlace)
             return records;
         removeIf(iptc, [](const Exiv2::Iptcdatum& entry) { return beginsWithOne(entry.key(), iptcPlaces); });
-        const Exiv2::DataBuf encoded = Exiv2::IptcParser::encode(iptc);
-        return QByteArray(reinterpret_cast<const char*>(encoded.pData_), qsizetype(encoded.size_));
+        return copied(Exiv2::IptcParser::encode(iptc));
     } catch (const std::exception&) {
         return {};
     }

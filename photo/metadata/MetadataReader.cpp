@@ -3,6 +3,7 @@
 
 #include "photo/JpegMarkers.h"
 #include "photo/metadata/ExifBlock.h"
+#include "photo/metadata/Exiv2Bytes.h"
 #include "photo/metadata/FittingExif.h"
 
 #include <QBuffer>
@@ -21,16 +22,6 @@ const Exiv2::byte* bytesOf(const QByteArray& data)
     return reinterpret_cast<const Exiv2::byte*>(data.constData());
 }
 
-/// The IPTC records among Photoshop's image resources.
-QByteArray iptcOf(const QByteArray& resources)
-{
-    const Exiv2::byte* record = nullptr;
-    std::uint32_t heading = 0, size = 0;
-    if (Exiv2::Photoshop::locateIptcIrb(bytesOf(resources), long(resources.size()), &record, &heading, &size) != 0)
-        return {};
-    return QByteArray(reinterpret_cast<const char*>(record) + heading, qsizetype(size));
-}
-
 /// An EXIF block with or without its heading.
 QByteArray exifBlock(QByteArray block)
 {
@@ -43,7 +34,7 @@ QByteArray exifBlock(QByteArray block)
 
 PhotoMetadata ofJpeg(const JpegMarkers& markers)
 {
-    return {markers.exif, markers.xmp, iptcOf(markers.resources), markers.comment};
+    return {markers.exif, markers.xmp, iptcAmong(markers.resources), markers.comment};
 }
 
 PhotoMetadata ofWebP(QIODevice& device)
@@ -114,8 +105,7 @@ PhotoMetadata ofPng(QIODevice& device)
     metadata.xmp = QByteArray::fromStdString(image->xmpPacket());
     if (metadata.comment.isEmpty())
         metadata.comment = QByteArray::fromStdString(image->comment());
-    const Exiv2::DataBuf iptc = Exiv2::IptcParser::encode(image->iptcData());
-    metadata.iptc = QByteArray(reinterpret_cast<const char*>(iptc.pData_), qsizetype(iptc.size_));
+    metadata.iptc = copied(Exiv2::IptcParser::encode(image->iptcData()));
     if (metadata.exif.isEmpty())
         metadata.exif = writtenAnew(image->exifData());
     return metadata;
@@ -139,7 +129,7 @@ PhotoMetadata ofTiff(QIODevice& device)
     metadata.xmp = blockOfTiff(device, 0x02BC, longestBlock);
     metadata.iptc = blockOfTiff(device, 0x83BB, longestBlock);
     if (metadata.iptc.isEmpty())
-        metadata.iptc = iptcOf(blockOfTiff(device, 0x8649, longestBlock));
+        metadata.iptc = iptcAmong(blockOfTiff(device, 0x8649, longestBlock));
     return metadata;
 }
 

@@ -48,15 +48,22 @@ std::optional<JxlBasicInfo> infoOf(const QByteArray& file)
     return info;
 }
 
-QColorSpace coloursOf(const JxlDecoder* decoder, const JxlPixelFormat& format)
+QColorSpace coloursOf(const JxlDecoder* decoder, [[maybe_unused]] const JxlPixelFormat& format)
 {
+    constexpr JxlColorProfileTarget data = JXL_COLOR_PROFILE_TARGET_DATA;
     std::size_t size = 0;
-    if (JxlDecoderGetICCProfileSize(decoder, &format, JXL_COLOR_PROFILE_TARGET_DATA, &size) != JXL_DEC_SUCCESS)
+    // From 0.9 on the library does not ask for the format.
+#if JPEGXL_NUMERIC_VERSION < JPEGXL_COMPUTE_NUMERIC_VERSION(0, 9, 0)
+    const auto getSize = [&] { return JxlDecoderGetICCProfileSize(decoder, &format, data, &size); };
+    const auto get = [&](std::uint8_t* to) { return JxlDecoderGetColorAsICCProfile(decoder, &format, data, to, size); };
+#else
+    const auto getSize = [&] { return JxlDecoderGetICCProfileSize(decoder, data, &size); };
+    const auto get = [&](std::uint8_t* to) { return JxlDecoderGetColorAsICCProfile(decoder, data, to, size); };
+#endif
+    if (getSize() != JXL_DEC_SUCCESS)
         return {};
     QByteArray profile(qsizetype(size), '\0');
-    const bool told = JxlDecoderGetColorAsICCProfile(decoder, &format, JXL_COLOR_PROFILE_TARGET_DATA,
-                          reinterpret_cast<std::uint8_t*>(profile.data()), size)
-        == JXL_DEC_SUCCESS;
+    const bool told = get(reinterpret_cast<std::uint8_t*>(profile.data())) == JXL_DEC_SUCCESS;
     return told ? QColorSpace::fromIccProfile(profile) : QColorSpace();
 }
 
