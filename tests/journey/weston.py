@@ -27,7 +27,7 @@ locking=false
 
 
 class Weston:
-    """A running compositor. Use it in a `with` block: it never outlives the block."""
+    """A running compositor. Use it in a `with` block. It outlives neither that nor this program, however that ends."""
 
     def __init__(self, tools):
         self.tools = tools
@@ -45,7 +45,8 @@ class Weston:
     def _start(self):
         with open(self.log, "w") as log:
             self.process = subprocess.Popen(
-                ["weston", "--backend=x11-backend.so", "--use-pixman", "--socket=desk", "--fullscreen", "--debug",
+                ["setpriv", "--pdeathsig", "TERM", "weston", "--backend=x11-backend.so", "--use-pixman",
+                 "--socket=desk", "--fullscreen", "--debug",
                  f"--width={WIDTH}", f"--height={HEIGHT}", f"--config={self.settings}"], stdout=log, stderr=log)
         # The pointer may stand anywhere, but not in two places.
         wait_for("the Wayland desktop", lambda: [GROUND] * 2 == [
