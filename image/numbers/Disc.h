@@ -14,8 +14,8 @@ inline float distance(float across, float down)
 }
 
 /// How far `count` pixels stand from a centre, so many columns and rows, 0 or more: found in double and rounded to
-/// single precision. Where the squares are at most 2^24, single precision holds them exactly and gives the same root in
-/// half the time.
+/// single precision. Where the sum of the squares is at most 2^24, single precision holds it exactly and gives the same
+/// root, sooner.
 inline void exactDistances(float* distances, const int* across, const int* down, int count)
 {
     const double mostAcross = *std::max_element(across, across + count),
