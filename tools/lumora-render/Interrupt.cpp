@@ -15,17 +15,22 @@ void note(int signal)
         noted = signal;
 }
 
+/// As under nohup, and for what a script starts in the background.
+bool isIgnored(int signal)
+{
+    struct sigaction action = {};
+    sigaction(signal, nullptr, &action);
+    return action.sa_handler == SIG_IGN;
+}
+
 void handleBy(void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
     sigemptyset(&action.sa_mask);
-    for (const int signal : signals) {
-        struct sigaction before = {};
-        sigaction(signal, nullptr, &before);
-        if (before.sa_handler != SIG_IGN) // as it is under nohup, and for what a script starts in the background
+    for (const int signal : signals)
+        if (!isIgnored(signal))
             sigaction(signal, &action, nullptr);
-    }
 }
 
 sigset_t block()
@@ -33,7 +38,8 @@ sigset_t block()
     sigset_t set, before;
     sigemptyset(&set);
     for (const int signal : signals)
-        sigaddset(&set, signal);
+        if (!isIgnored(signal)) // blocked, it would wait all the same
+            sigaddset(&set, signal);
     sigprocmask(SIG_BLOCK, &set, &before);
     return before;
 }

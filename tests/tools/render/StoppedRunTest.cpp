@@ -78,7 +78,7 @@ private slots:
         const int part = count() / 5;
 
         // Interrupted, it has told of each output that is there, and of no other.
-        for (const int signal : {SIGINT, SIGTERM}) {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
             QCOMPARE(stoppedRun(folder, signal, part, &told).status, 128 + signal);
             Names outputs;
             for (const QJsonObject& line : told)
@@ -110,6 +110,21 @@ private slots:
                 wanted.insert((name(photo) + " Mono.jpg").toStdString());
         }
         QCOMPARE(folder.names("out"), wanted);
+    }
+
+    void whatItIsToIgnoreDoesNotStopIt()
+    {
+        const ByteFolder folder;
+        prepare(folder);
+        const auto before = std::signal(SIGHUP, SIG_IGN); // as under nohup
+        RenderRun run(folder.path(), arguments());
+        std::signal(SIGHUP, before);
+        int told = 0;
+        for (; !run.readLine().isEmpty(); told++)
+            run.send(SIGHUP);
+        QCOMPARE(told, count());
+        QCOMPARE(run.wait().status, 1);
+        verifyWhole(folder);
     }
 
     void noProcessOutlivesTheRun()
