@@ -54,6 +54,16 @@ private slots:
             }
     }
 
+    void nothingIsLeftOfALargerPicture()
+    {
+        Preview preview;
+        for (const QSize size : {QSize(300, 100), QSize(100, 200), QSize(60, 40)}) {
+            const QImage picture = makePhoto(size.width(), size.height());
+            preview.setImage(picture);
+            QTRY_COMPARE(preview.onScreen(), Preview::ofNewOne(preview.size(), picture));
+        }
+    }
+
     void aPictureFollowsTheSizeOfThePreview()
     {
         Preview preview;

@@ -222,6 +222,20 @@ private slots:
         QCOMPARE(desk.looks(), Looks{});
     }
 
+    void aHeldDigitChoosesNoItem()
+    {
+        Try desk;
+        const QList<int> chosen = desk.chosen();
+        for (const char* popUp : popUps) {
+            QWidget* box = desk.focused(popUp);
+            QTest::keyPress(box, Qt::Key_2);
+            holdOn(box, Qt::Key_2, {}, "2");
+            QTest::keyRelease(box, Qt::Key_2);
+        }
+        QCOMPARE(desk.chosen(), chosen);
+        QCOMPARE(desk.looks(), Looks{helga}); // pressed three times
+    }
+
     void aHeldArrowWalksOn()
     {
         Try desk;
