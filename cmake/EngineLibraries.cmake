@@ -3,8 +3,8 @@
 # loader looks into glibc-hwcaps/ first and takes the highest level that the processor can run.
 set(engine_levels x86-64 x86-64-v3 x86-64-v4)
 set(flags_x86-64-v3 -march=x86-64-v3 -mtune=generic) # AVX2
-# AVX-512: its masks and its 32 registers help, and 512 bits at a time bring no more than 256.
-set(flags_x86-64-v4 -march=x86-64-v4 -mtune=generic -mprefer-vector-width=256)
+# AVX-512, all 512 bits at a time: GCC would take 256, with which the looks take a fifth longer.
+set(flags_x86-64-v4 -march=x86-64-v4 -mtune=generic -mprefer-vector-width=512)
 
 set(engine_libraries ${CMAKE_BINARY_DIR}/lib)
 set(engine_exports ${CMAKE_SOURCE_DIR}/cmake/engine-exports.map)
