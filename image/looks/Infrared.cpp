@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "image/passes/PixelPass.h"
+#include "image/toolkit/Blur.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,8 +42,9 @@ void CharImage::applyInfraredFilter()
         const float sky = closeness(c, {150.0f, 150.0f, 255.0f});
         return float(foliage * 0.5 + skin + sky * -0.4) * 255.0f;
     };
-    forEachPixel(*this, film, Stretch{0.01f, 0.01f, 0.0f, 255.0f, true, true});
-    makeBlurry(int(std::max(width, height) * 0.01), 3.0f);
+    const int blurSize = int(std::max(width, height) * 0.01);
+    withRowsOf(*this, film, Stretch{0.01f, 0.01f, 0.0f, 255.0f, true, true},
+        [&](auto makeRow) { blurNeutralRows(*this, blurSize, 3.0f, makeRow); });
 }
 
 } // namespace lumora

@@ -24,18 +24,25 @@ template <class Source, class Recipe> void passOver(CharImage& image, Source& so
     passOver(image, source, recipe, errorOfTrial(recipe, source.inputs()));
 }
 
-/// A pass and fillHistogram after it, in one walk over the picture. The levels depend on every tenth pixel only: these
-/// are worked first, in a copy, to find the levels.
+/// The levels of what a pass will make of the picture. They depend on every tenth pixel only: these are worked, in a
+/// copy.
 template <class Source, class Recipe>
-void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stretch& stretch)
+Levels levelsAfter(const CharImage& image, Source& source, const Recipe& recipe, double error, const Stretch& stretch)
 {
-    const double error = errorOfTrial(recipe, source.inputs());
     CharImage samples = sampledPixels(image);
     passOver(samples, source, recipe, error);
     GrowArray<int> histogram;
     int minLum;
     getHistogramOfSamples(samples, &histogram, &minLum);
-    withByteOf(levelsOf(histogram, minLum, stretch),
+    return levelsOf(histogram, minLum, stretch);
+}
+
+/// A pass and fillHistogram after it, in one walk over the picture.
+template <class Source, class Recipe>
+void passOver(CharImage& image, Source& source, const Recipe& recipe, const Stretch& stretch)
+{
+    const double error = errorOfTrial(recipe, source.inputs());
+    withByteOf(levelsAfter(image, source, recipe, error, stretch),
         [&](auto byteOf) { passOver(image, source, recipe, error, LevelsOnBytes<decltype(byteOf)>{byteOf}); });
 }
 
@@ -45,6 +52,23 @@ template <class Function, class... Finish> void forEachPixel(CharImage& image, F
 {
     Colours source;
     passOver(image, source, stepsOf(function), finish...);
+}
+
+/// The same for a function that gives a neutral colour, row by row: calls `use(makeRow)`, where `makeRow(y)` makes row
+/// y of the image.
+template <class Function, class Use>
+void withRowsOf(CharImage& image, Function function, const Stretch& stretch, Use use)
+{
+    const auto recipe = stepsOf(function);
+    static_assert(isNeutral<std::remove_const_t<decltype(recipe)>>);
+    Colours source;
+    const double error = errorOfTrial(recipe, source.inputs());
+    withByteOf(levelsAfter(image, source, recipe, error, stretch), [&](auto byteOf) {
+        use([&, toByte = LevelsOnBytes<decltype(byteOf)>{byteOf}](int y) {
+            forEachBlockOfRow(
+                image, y, [&](Block& block, int) { workBlock(block, recipe, source.fill(block), toByte); });
+        });
+    });
 }
 
 /// Each pixel becomes `function(colour)`, the colour taken through the levels first.

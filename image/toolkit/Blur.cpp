@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "image/toolkit/Blur.h"
+
 #include "image/CharImage.h"
 #include "image/numbers/Arithmetic.h"
 #include "image/toolkit/BlurKernel.h"
@@ -130,8 +132,9 @@ private:
 };
 
 /// Both passes in one walk down the image: a row is blurred across as soon as a row above needs it, and overwritten in
-/// place once all that it goes into is at hand.
-template <class Blur> void blurRows(CharImage& image, const BlurKernel& kernel, int channels)
+/// place once all that it goes into is at hand. `makeRow(y)` is called before a row is read.
+template <class Blur>
+void blurRows(CharImage& image, const BlurKernel& kernel, int channels, const std::function<void(int)>& makeRow)
 {
     const int width = image.width, height = image.height, radius = kernel.radius;
     WaitingRows waiting(image, channels, radius);
@@ -140,40 +143,46 @@ template <class Blur> void blurRows(CharImage& image, const BlurKernel& kernel, 
     const auto pixels = [&](int y) { return image.data + std::size_t(y) * width * 4; };
     int ready = 0;
     for (int y = 0; y < height; y++) {
-        for (; ready < std::min(y + radius + 1, height); ready++)
+        for (; ready < std::min(y + radius + 1, height); ready++) {
+            makeRow(ready);
             for (int channel = 0; channel < channels; channel++) {
                 takeChannel(pixels(ready), channel, width, radius, padded.data());
                 blur.across(padded.data(), width, waiting[ready] + std::size_t(channel) * width);
             }
+        }
         const unsigned char* red = blur.down(waiting, y);
         const std::size_t toNext = channels == 1 ? 0 : std::size_t(width);
         storeChannels(red, red + toNext, red + 2 * toNext, width, pixels(y));
     }
 }
 
-/// A neutral picture is blurred once for all its channels.
-void blurInWholeNumbers(CharImage& image, const BlurKernel& kernel)
+/// `makeRow(y)` is called for each row, from the top, before it is read.
+void blurChannels(CharImage& image, int channels, int size, float exponent, const std::function<void(int)>& makeRow)
 {
-    const int channels = isNeutral(image) ? 1 : 3;
-    if (kernel.box)
-        blurRows<BoxBlur>(image, kernel, channels);
-    else
-        blurRows<WeightedBlur>(image, kernel, channels);
+    GrowArray<float> weights;
+    fillKernel(weights, size, exponent, true);
+    const BlurKernel kernel(weights);
+    if (kernel.whole)
+        return kernel.box ? blurRows<BoxBlur>(image, kernel, channels, makeRow)
+                          : blurRows<WeightedBlur>(image, kernel, channels, makeRow);
+    for (int y = 0; y < image.height; y++)
+        makeRow(y);
+    blurInFloats(image, weights);
 }
 
 } // namespace
 
 void CharImage::makeBlurry(int size, float exponent)
 {
-    if (pixelCount() == 0)
-        return;
-    GrowArray<float> weights;
-    fillKernel(weights, size, exponent, true);
-    const BlurKernel kernel(weights);
-    if (kernel.whole)
-        blurInWholeNumbers(*this, kernel);
-    else
-        blurInFloats(*this, weights);
+    // A neutral picture is blurred once for all its channels.
+    if (pixelCount() > 0)
+        blurChannels(*this, isNeutral(*this) ? 1 : 3, size, exponent, [](int) {});
+}
+
+void blurNeutralRows(CharImage& image, int size, float exponent, const std::function<void(int y)>& makeRow)
+{
+    if (image.pixelCount() > 0)
+        blurChannels(image, 1, size, exponent, makeRow);
 }
 
 } // namespace lumora

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "image/toolkit/Blur.h"
 #include "image/CharImage.h"
 #include "image/numbers/Arithmetic.h"
 #include "image/toolkit/BlurKernel.h"
@@ -189,6 +190,41 @@ TEST(Blur, MatchesItsTwinInGreyAndInColour)
             expectBlurMatchesTwin(randomPicture(45, 8, unsigned(size)), size, exponent);
             expectBlurMatchesTwin(greyPicture(7, 50, unsigned(size)), size, exponent);
         }
+}
+
+/// Blurs a grey picture that is black at first and whose rows are made on the way.
+void expectMadeRowsToBlurAlike(const Picture& picture, int size, float exponent)
+{
+    Picture expected = picture;
+    reference::makeBlurry(expected, size, exponent);
+    Picture black = picture;
+    std::fill(black.pixels.begin(), black.pixels.end(), static_cast<unsigned char>(0));
+    const auto image = imageOf(black);
+    int next = 0;
+    blurNeutralRows(*image, size, exponent, [&](int y) {
+        EXPECT_EQ(y, next++);
+        const std::size_t row = std::size_t(picture.width) * 4;
+        std::copy_n(picture.pixels.data() + y * row, row, image->data + y * row);
+    });
+    EXPECT_EQ(next, picture.height);
+    expectSame(*image, expected, "size " + std::to_string(size) + ", exponent " + std::to_string(exponent));
+}
+
+TEST(Blur, MakesNeutralRowsOnTheWay)
+{
+    bool box = false;
+    ASSERT_TRUE(isWhole(7, 0.0f, &box));
+    ASSERT_TRUE(box);
+    ASSERT_TRUE(isWhole(30, 3.0f, &box));
+    ASSERT_FALSE(box);
+    ASSERT_FALSE(isWhole(7, 200.0f));
+    for (const Picture& picture : {greyPicture(61, 40, 5), greyPicture(300, 3, 6), greyPicture(1, 90, 7)}) {
+        expectMadeRowsToBlurAlike(picture, 7, 0.0f);
+        expectMadeRowsToBlurAlike(picture, 30, 3.0f);
+        expectMadeRowsToBlurAlike(picture, 7, 200.0f);
+    }
+    CharImage none;
+    blurNeutralRows(none, 7, 0.0f, [](int) { ADD_FAILURE() << "there is no row"; });
 }
 
 TEST(Blur, MatchesItsTwinInAwkwardShapes)
