@@ -19,7 +19,7 @@ inline float steepTone(Rgb c)
     // Of all colours this one alone falls short of its whole tone, 250, by what floats round.
     const bool fallsShort = (c.r == 211.0f) & (c.g == 246.0f) & (c.b == 246.0f);
     const float missing = fallsShort ? 1.0f : 0.0f;
-    return float(int((sum - missing) / 25500.0f));
+    return float(int((sum - missing + 0.5f) * (1.0f / 25500.0f)));
 }
 
 /// Softly quantises a brightness (0 .. 255) into one of seven bands: near a band's centre it snaps to it, near a border
