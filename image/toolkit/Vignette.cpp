@@ -47,11 +47,27 @@ struct Shade {
         placeAt(t, across, downs, count);
     }
 
-    /// How far pixels at these places are darkened, 0 .. 1: `t` becomes it. Within the inner radius it is 0.
+    /// How far pixels at these places, at most a block of them, are darkened, 0 .. 1: `t` becomes it. Within the inner
+    /// radius it is 0.
     void becomeDarkness(float* t, int count) const
     {
-        for (int first = 0; first < count; first += partPixels)
-            becomeDarknessOfPart(t + first, std::min(partPixels, count - first));
+        int reached = 0;
+        for (int i = 0; i < count; i++)
+            reached |= !(t[i] < 0.0f);
+        if (!reached) {
+            std::fill_n(t, count, 0.0f);
+            return;
+        }
+        float a[blockPixels], e[blockPixels];
+        for (int i = 0; i < count; i++)
+            a[i] = e[i] = t[i] < 0.0f ? 1.0f : t[i];
+        raise(a, count, 1.5f);
+        raise(e, count, exponent);
+        for (int i = 0; i < count; i++) {
+            const float dark = ((1.0f - a[i]) * e[i] + t[i] * a[i]) * strength;
+            const float held = dark < 0.0f ? 0.0f : dark < 1.0f ? dark : 1.0f; // what is no number is black, too
+            t[i] = t[i] < 0.0f ? 0.0f : held;
+        }
     }
 
     template <class Channel> Colour<Channel> darkened(Colour<Channel> c, Channel level, Channel dark) const
@@ -79,11 +95,12 @@ struct Shade {
         for (int y = 0; y < image.height; y++) {
             const int dy = y - cy, last = columnsWithin(end, dy) - 1;
             unsigned char* centre = image.data + (std::size_t(y) * image.width + cx) * 4;
-            for (int dx = columnsWithin(innerRadius, dy); dx <= last; dx += partPixels) {
-                float dark[partPixels];
-                placeRowAt(dark, dx, dy, partPixels);
-                becomeDarknessOfPart(dark, partPixels);
-                for (int i = 0; i < partPixels && dx + i <= last; i++) {
+            constexpr int part = 32; // a ring is a few pixels wide
+            for (int dx = columnsWithin(innerRadius, dy); dx <= last; dx += part) {
+                float dark[part];
+                placeRowAt(dark, dx, dy, part);
+                becomeDarkness(dark, part);
+                for (int i = 0; i < part && dx + i <= last; i++) {
                     if (cx + dx + i < image.width)
                         darkenPixel(centre + (dx + i) * 4, dark[i]);
                     if (dx + i > 0 && cx - dx - i >= 0)
@@ -100,30 +117,6 @@ private:
         pixel[0] = static_cast<unsigned char>(truncateAndClamp(shaded.r));
         pixel[1] = static_cast<unsigned char>(truncateAndClamp(shaded.g));
         pixel[2] = static_cast<unsigned char>(truncateAndClamp(shaded.b));
-    }
-
-    /// Pixels whose darkness is evaluated only when one of them has any: a ring is a few pixels wide.
-    static constexpr int partPixels = 32;
-
-    void becomeDarknessOfPart(float* t, int count) const
-    {
-        int reached = 0;
-        for (int i = 0; i < count; i++)
-            reached |= !(t[i] < 0.0f);
-        if (!reached) {
-            std::fill_n(t, count, 0.0f);
-            return;
-        }
-        float a[partPixels], e[partPixels];
-        for (int i = 0; i < count; i++)
-            a[i] = e[i] = t[i] < 0.0f ? 1.0f : t[i];
-        raise(a, count, 1.5f);
-        raise(e, count, exponent);
-        for (int i = 0; i < count; i++) {
-            const float dark = ((1.0f - a[i]) * e[i] + t[i] * a[i]) * strength;
-            const float held = dark < 0.0f ? 0.0f : dark < 1.0f ? dark : 1.0f; // what is no number is black, too
-            t[i] = t[i] < 0.0f ? 0.0f : held;
-        }
     }
 };
 
