@@ -3,14 +3,11 @@
 
 #include <QByteArray>
 #include <QImage>
-#include <array>
-#include <cstdint>
+#include <functional>
 #include <memory>
-#include <vector>
+#include <utility>
 
-/// What the colours of pictures become on one screen, so that they look there as they were meant: a table for all of
-/// sRGB, between whose points colours are interpolated. Nearly all are within a level of what the profile says; those
-/// at the edge of what the screen can show may be further off.
+/// What the colours of pictures become on one screen, so that they look there as they were meant.
 class ScreenColors {
 public:
     static constexpr int largestProfile = 8 << 20; ///< in bytes; those of measured screens have at most two million
@@ -23,18 +20,13 @@ public:
     QImage shown(QImage picture) const;
 
 private:
-    static constexpr int side = 33; ///< points of the table along each channel
-    using Table = std::vector<std::uint64_t>;
+    explicit ScreenColors(std::function<void(QRgb* pixels, int count)> convert)
+        : m_convert(std::move(convert))
+    {
+    }
+    bool changeAnything() const;
 
-    explicit ScreenColors(Table table);
-
-    /// The part of the way through the table that a channel's value makes.
-    struct Step {
-        std::uint32_t cell; ///< which point lies below it
-        std::uint32_t key; ///< how far it is beyond, of 256, in the upper half; the way to the next point in the lower
-    };
-    Table m_table; ///< of red, then green, then blue; an entry holds three lanes of 21 bits
-    std::array<std::array<Step, 256>, 3> m_steps; ///< of red, green and blue
+    std::function<void(QRgb* pixels, int count)> m_convert; ///< opaque ones, in place
 };
 
 /// The picture as it is, where nothing is known of the screen.
