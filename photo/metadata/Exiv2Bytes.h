@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <exiv2/exiv2.hpp>
 
-// What the metadata's library gives as bytes, in the words of its versions up to 0.27 and from 0.28 on.
+// What the metadata's library is asked, in the words of its versions up to 0.27 and from 0.28 on.
 
 inline QByteArray copied(const Exiv2::DataBuf& data)
 {
@@ -27,4 +27,12 @@ inline QByteArray iptcAmong(const QByteArray& resources)
     const int status = Exiv2::Photoshop::locateIptcIrb(bytes, long(resources.size()), &record, &heading, &size);
 #endif
     return status == 0 ? QByteArray(reinterpret_cast<const char*>(record) + heading, qsizetype(size)) : QByteArray();
+}
+
+/// From now on also of CR3 files, which older versions leave alone unless they are told.
+inline void readBmff()
+{
+#if !EXIV2_TEST_VERSION(0, 28, 0)
+    Exiv2::enableBMFF();
+#endif
 }

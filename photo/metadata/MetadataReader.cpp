@@ -42,11 +42,11 @@ PhotoMetadata ofWebP(QIODevice& device)
     PhotoMetadata metadata;
     qint64 at = 12;
     for (int chunk = 0; chunk < mostChunks && device.seek(at); chunk++) {
-        const QByteArray heading = device.read(8);
-        if (heading.size() < 8)
+        char heading[8];
+        if (device.read(heading, 8) < 8)
             break;
-        const qint64 size = qFromLittleEndian<quint32>(heading.constData() + 4);
-        const QByteArray name = heading.left(4);
+        const qint64 size = qFromLittleEndian<quint32>(heading + 4);
+        const QByteArrayView name(heading, 4);
         if (name == "EXIF" && size <= longestBlock)
             metadata.exif = exifBlock(device.read(size));
         else if (name == "XMP " && size <= longestBlock)
@@ -157,7 +157,7 @@ PhotoMetadata metadataByLibrary(const QByteArray& file)
 {
     try {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
-        Exiv2::enableBMFF(); // otherwise it leaves CR3 alone
+        readBmff();
         const auto image = Exiv2::ImageFactory::open(bytesOf(file), long(file.size()));
         image->readMetadata();
         QByteArray block = writtenAnew(image->exifData());
