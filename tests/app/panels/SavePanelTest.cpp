@@ -217,6 +217,34 @@ private slots:
         QVERIFY(isJpeg(fileOf(desk, "other.webp.jpg")));
     }
 
+    void theQuestionShowsNamesAsTheyAre_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("the open photo") << "<b>bold.png";
+        QTest::newRow("another file") << "<b>other.jpg";
+    }
+    void theQuestionShowsNamesAsTheyAre()
+    {
+        QFETCH(QString, name);
+        Desk desk;
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "<b>bold.png", makePhoto(60, 40))));
+        writePhoto(desk.folder, "<b>other.jpg", makePhoto(30, 20));
+        const Answers answers([](QMessageBox& question) {
+            for (const QLabel* label : question.findChildren<QLabel*>())
+                QCOMPARE(label->textFormat(), Qt::PlainText);
+            pressDefault(question);
+        });
+        printedBy([&] {
+            desk.withPanel(
+                [&](QFileDialog& panel) {
+                    typeName(panel, desk.folder.filePath(name));
+                    panel.reject();
+                },
+                [&] { desk.click("btnSave"); });
+        });
+        QCOMPARE(answers.asked.size(), 1);
+    }
+
     void thePanelStaysOpenWhereNothingCanBeWritten()
     {
         Desk desk(makePhoto(60, 40));

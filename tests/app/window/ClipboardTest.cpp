@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QColorSpace>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -115,6 +116,29 @@ private slots:
                 panel.reject();
             },
             [&] { desk.click("btnSave"); });
+    }
+
+    void aPastedPictureIsShownInItsColours()
+    {
+        Desk desk;
+        QImage picture = makePhoto(50, 70);
+        picture.setColorSpace(QColorSpace::DisplayP3);
+        QApplication::clipboard()->setImage(picture);
+        press(desk, Qt::Key_V);
+        const QImage expected = pixelsOf(picture.convertedToColorSpace(QColorSpace::SRgb));
+        QVERIFY(expected != pixelsOf(picture));
+        QCOMPARE(pixelsOf(desk.window.getoriginalImage()), expected);
+    }
+
+    void aPictureOfTooManyPixelsIsRefused()
+    {
+        Desk desk(makePhoto(60, 40));
+        QApplication::clipboard()->setImage(QImage(16385, 16384, QImage::Format_Mono));
+        press(desk, Qt::Key_V);
+        QCOMPARE(
+            desk.sheet(), QStringList({"The picture cannot be pasted.", "It has more pixels than a photo may have."}));
+        QCOMPARE(desk.window.windowTitle(), QString("Lumora - photo.png"));
+        QCOMPARE(pixelsOf(desk.window.getoriginalImage()), makePhoto(60, 40));
     }
 
     void nothingOfThePhotoBeforeIsSavedWithIt()

@@ -130,6 +130,28 @@ private slots:
         }
     }
 
+    void theAppliedLooksAreChecked()
+    {
+        Desk desk(makePhoto(60, 40));
+        const auto checked = [&] {
+            QStringList names;
+            for (const QAction* action : desk.window.findChildren<QAction*>())
+                if (action->isChecked() && action->data().isValid())
+                    names << action->text();
+            return names;
+        };
+        QCOMPARE(checked(), QStringList("Original"));
+        desk.click("btnMono");
+        QCOMPARE(checked(), QStringList("Mono"));
+        desk.click("btnHelga");
+        QCOMPARE(checked(), QStringList("Helga"));
+        desk.click("chkMultiFilter");
+        desk.click("btnMono");
+        QCOMPARE(checked(), QStringList({"Helga", "Mono"}));
+        desk.click("btnOriginal");
+        QCOMPARE(checked(), QStringList("Original"));
+    }
+
     void helpEntries_data() { photoEntries_data(); }
     void helpEntries()
     {

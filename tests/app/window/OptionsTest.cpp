@@ -459,6 +459,18 @@ private slots:
         QVERIFY(sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_DFL);
     }
 
+    void aSignalThatIsIgnoredStaysIgnored()
+    {
+        const auto before = std::signal(SIGHUP, SIG_IGN); // as under nohup
+        const auto back = qScopeGuard([&] { std::signal(SIGHUP, before); });
+        struct sigaction action = {};
+        {
+            const SessionEnd sessionEnd;
+            QVERIFY(sigaction(SIGHUP, nullptr, &action) == 0 && action.sa_handler == SIG_IGN);
+        }
+        QVERIFY(sigaction(SIGHUP, nullptr, &action) == 0 && action.sa_handler == SIG_IGN);
+    }
+
     void foreignKeysAreKept()
     {
         setPreferences("[General]\nSomebodysKey=theirs\n\n[Other]\nToo=1\n");

@@ -2,6 +2,8 @@
 #include "tests/app/Desk.h"
 #include "tests/photo/ScarceMemory.h"
 
+#include <QMenuBar>
+
 class OutOfMemoryTest : public QObject {
     Q_OBJECT
 
@@ -16,6 +18,19 @@ private slots:
         QCOMPARE(desk.sheet(),
             QStringList({"The photo cannot be saved.",
                 "There is not enough free memory for a picture of 1600 x 1600 pixels."}));
+    }
+
+    void formerPhotosTakeAQuarterOfTheFreeMemory()
+    {
+        Desk desk(makePhoto(2000, 1500)); // 12 million bytes
+        const ScarceMemory memory(100 << 20);
+        for (int i = 0; i < 4; i++)
+            desk.click("btnFlatten");
+        QCOMPARE(desk.sheet(), QStringList());
+        int taken = 0;
+        for (; desk.window.menuBar()->actions().at(1)->menu()->actions().at(0)->isEnabled(); taken++)
+            desk.window.undo();
+        QVERIFY2(taken == 1 || taken == 2, qPrintable(QString::number(taken)));
     }
 
     void aPhotoThatCannotBeTurnedStays()
