@@ -56,18 +56,24 @@ void say(const QString& what, double value, const char* unit)
     std::fflush(stdout);
 }
 
+void add(Start& best, const Start& start)
+{
+    best.firstPaint = std::min(best.firstPaint, start.firstPaint);
+    best.photo = std::min(best.photo, start.photo);
+    best.peakMemory = std::max(best.peakMemory, start.peakMemory);
+}
+
 void measureStart(const QString& program, const QString& photo)
 {
-    Start best = watchStart(program, photo);
-    for (int i = 1; i < rounds; i++) {
-        const Start start = watchStart(program, photo);
-        best.firstPaint = std::min(best.firstPaint, start.firstPaint);
-        best.photo = std::min(best.photo, start.photo);
-        best.peakMemory = std::max(best.peakMemory, start.peakMemory);
-    }
-    say("start to the window's first paint", best.firstPaint * 1e3, "ms");
-    say("start to the photo on the screen", best.photo * 1e3, "ms");
-    say("peak memory of the program with the photo open", best.peakMemory, "MiB");
+    constexpr double patience = 60; // seconds
+    Start first{patience, patience, 0}, second = first;
+    for (int i = 0; i < rounds; i++)
+        add(first, watchStart(program, photo, [&] { add(second, watchStart(program, photo)); }));
+    say("start to the window's first paint", first.firstPaint * 1e3, "ms");
+    say("start to the photo on the screen", first.photo * 1e3, "ms");
+    say("peak memory of the program with the photo open", first.peakMemory, "MiB");
+    say("a second window's first paint", second.firstPaint * 1e3, "ms");
+    say("its photo on the screen", second.photo * 1e3, "ms");
 }
 
 /// Paints what has changed, as the event loop would, and waits until the display has it.

@@ -10,7 +10,6 @@
 #include <QScreen>
 #include <QThread>
 #include <algorithm>
-#include <functional>
 
 namespace {
 
@@ -49,7 +48,7 @@ double secondsUntil(const QElapsedTimer& clock, const char* what, const std::fun
 
 } // namespace
 
-Start watchStart(const QString& program, const QString& photo)
+Start watchStart(const QString& program, const QString& photo, const std::function<void()>& meanwhile)
 {
     const QImage before = middleOfScreen();
     QProcess process;
@@ -62,6 +61,8 @@ Start watchStart(const QString& program, const QString& photo)
     start.firstPaint = secondsUntil(clock, "the window", [&](const QImage& now) { return now != before; });
     start.photo = secondsUntil(clock, "the photo", isColourful);
     start.peakMemory = peakMemory(process.processId());
+    if (meanwhile)
+        meanwhile();
     process.terminate();
     process.waitForFinished();
     secondsUntil(clock, "the window to go", [&](const QImage& now) { return now == before; });

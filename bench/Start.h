@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 /// What a person sees of a start, in seconds from the start of the process.
 struct Start {
@@ -10,5 +11,6 @@ struct Start {
     double peakMemory; ///< MiB
 };
 
-/// Starts the program with a colourful photo and watches the middle of an otherwise empty screen.
-Start watchStart(const QString& program, const QString& photo);
+/// Starts the program with a colourful photo and watches the middle of the screen, where nothing else may change. Does
+/// what is asked `meanwhile`, once the photo is there, and ends the program.
+Start watchStart(const QString& program, const QString& photo, const std::function<void()>& meanwhile = {});
