@@ -20,13 +20,14 @@ public:
     WideRow(int width, int margin)
         : m_width(std::size_t(std::max(width, 0)))
         , m_margin(std::size_t(margin))
-        , m_values(2 * m_margin + inWholeBlocks(int(m_width)))
+        , m_before((m_margin + lineValues - 1) / lineValues)
+        , m_lines(2 * m_before + inWholeBlocks(int(m_width)) / lineValues)
     {
     }
 
     /// From the first column on; the margin stands before it.
-    float* columns() { return m_values.data() + m_margin; }
-    const float* columns() const { return m_values.data() + m_margin; }
+    float* columns() { return m_lines[m_before].at; }
+    const float* columns() const { return m_lines[m_before].at; }
 
     void setBlock(int x, const Plane& values) { std::copy_n(values.at, blockPixels, columns() + x); }
 
@@ -37,8 +38,15 @@ public:
     }
 
 private:
+    /// A line of the cache. The first column begins one: a vector that lies in two takes twice as long to load.
+    struct alignas(64) Line {
+        float at[16];
+    };
+    static constexpr std::size_t lineValues = 16;
+
     std::size_t m_width, m_margin;
-    std::vector<float> m_values;
+    std::size_t m_before; ///< lines of the margin
+    std::vector<Line> m_lines;
 };
 
 /// The rows of a picture that a pass down it needs at a time, each in the place of one that it no longer needs.
