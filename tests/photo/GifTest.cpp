@@ -26,10 +26,12 @@ QByteArray frame()
         + palette + data + '\0';
 }
 
-QByteArray heading()
+/// With a palette for all pictures, or without.
+QByteArray heading(bool hasPalette = false)
 {
-    const QByteArray comment("\x21\xFE\x04said\0", 8);
-    return QByteArray("GIF89a") + char(width) + '\0' + char(height) + QByteArray("\0\0\0\0", 4) + comment;
+    const QByteArray comment("\x21\xFE\x04said\0", 8), palette(hasPalette ? 3 * 128 : 0, ',');
+    return QByteArray("GIF89a") + char(width) + '\0' + char(height) + '\0' + char(hasPalette ? 0x86 : 0)
+        + QByteArray(2, '\0') + palette + comment;
 }
 
 } // namespace
@@ -42,7 +44,7 @@ class GifTest : public QObject {
 private slots:
     void whatIsCutOffIsMissing()
     {
-        const QByteArray picture = heading() + frame();
+        const QByteArray picture = heading(true) + frame();
         int opened = 0;
         for (qsizetype length = 1; length<picture.size(); length += length> picture.size() - 4 ? 1 : 41) {
             const LoadedPhoto photo = samples::loaded(m_folder, picture.left(length));
@@ -52,9 +54,16 @@ private slots:
         QVERIFY(opened > 20);
     }
 
+    void whatFollowsTheFirstPictureIsNotMissed_data()
+    {
+        QTest::addColumn<bool>("hasPalette");
+        QTest::newRow("a palette for all") << true;
+        QTest::newRow("one of its own") << false;
+    }
     void whatFollowsTheFirstPictureIsNotMissed()
     {
-        const QByteArray picture = heading() + frame(), whole = picture + frame() + ';';
+        QFETCH(bool, hasPalette);
+        const QByteArray picture = heading(hasPalette) + frame(), whole = picture + frame() + ';';
         for (const qsizetype length : {picture.size(), picture.size() + 1, picture.size() + 1000, whole.size()}) {
             const LoadedPhoto photo = samples::loaded(m_folder, whole.left(length));
             QCOMPARE(photo.reason, QString());

@@ -69,7 +69,7 @@ private slots:
     void replacedFileKeepsItsPermissions()
     {
         samples::writeFile(pathOf("old.jpg"), QByteArray(10000, 'o'));
-        for (const mode_t permissions : {0600, 0664, 0755, 01644}) {
+        for (const mode_t permissions : {0600, 0664, 0755, 01644, 02755, 04755}) {
             chmod(pathOf("old.jpg").constData(), permissions);
             QVERIFY(saves(pathOf("old.jpg"), "new"));
             QCOMPARE(samples::readFile(pathOf("old.jpg")), QByteArray("new"));
