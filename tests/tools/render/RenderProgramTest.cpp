@@ -4,6 +4,7 @@
 #include "render/RenderPipeline.h"
 #include "render/Variation.h"
 #include "tests/photo/Samples.h"
+#include "tests/photo/ScarceMemory.h"
 #include "tests/tools/render/RenderRun.h"
 
 #include <QRegularExpression>
@@ -87,8 +88,10 @@ private slots:
         add("--strength -1:", {"--strength=-1", "a.png"});
         add("--size 0:", {"--size", "0", "a.png"});
         add("--size 80%:", {"--size", "80%", "a.png"});
+        add("--size 65501: it takes a whole number from 1 to 65500.", {"--size", "65501", "a.png"});
         add("--random 4294967296:", {"--random", "4294967296", "a.png"});
         add("--jobs 0:", {"--jobs", "0", "a.png"});
+        add("--jobs 1025: it takes a whole number from 1 to 1024.", {"--jobs", "1025", "a.png"});
         add("--output out: several photos need a folder that is there.", {"--output", "out", "a.png", "b.png"});
         add("--output out/: there is no such folder.", {"--output", "out/", "a.png"});
         add("--output needs a name.", {"--output", "", "a.png"});
@@ -299,7 +302,7 @@ private slots:
     {
         makePhoto("a.png");
         makePhoto("b.png", 2);
-        for (const char* folder : {"fixed", "again", "seven", "seven again", "eight"})
+        for (const char* folder : {"fixed", "again", "seven", "seven again", "eight", "greatest"})
             QVERIFY(mkdir(path(folder).constData(), 0700) == 0);
         const auto render = [this](const QByteArray& folder, const QList<QByteArray>& options) {
             const QList<QByteArray> looks = {"--look", "Mono", "--look", "Lightleak", "--output", folder};
@@ -310,6 +313,7 @@ private slots:
         render("seven", {"--random", "7", "a.png", "b.png"});
         render("seven again", {"--random", "7", "--jobs", "2", "b.png", "a.png"});
         render("eight", {"--random", "8", "b.png"});
+        render("greatest", {"--random", "4294967295", "b.png"});
         const auto picture = [this](const QByteArray& folder) { return contents(folder + "/b Mono Lightleak.jpg"); };
         QVERIFY(picture("fixed").size() > 100);
         QVERIFY(picture("again") == picture("fixed"));
@@ -317,6 +321,20 @@ private slots:
         QVERIFY(picture("seven again") == picture("seven"));
         QVERIFY(picture("eight") != picture("seven"));
     }
+
+#ifndef LUMORA_SANITIZE // whose programs end where they find no memory
+    void whatCannotBeEnlargedIsRefused()
+    {
+        makePhoto("a.png");
+        const ScarceMemory memory(500 << 20); // the program has the limit, too
+        const RenderRun::Ended ended = run({"--size", "20000", "a.png"});
+        QCOMPARE(ended.status, 1);
+        QCOMPARE(ended.err,
+            QByteArray("lumora-render: a.png: "
+                       "There is not enough free memory for a picture of 20000 x 15000 pixels.\n"));
+        QCOMPARE(m_folder->names(), Names({"a.png"}));
+    }
+#endif
 
     void pngLosesNothing()
     {
