@@ -24,6 +24,8 @@ bool isSRgb(const QColorSpace& space)
 
 QImage inSRgb(QImage image)
 {
+    if (image.pixelFormat().colorModel() == QPixelFormat::CMYK) // as newer platforms decode inks
+        image.convertTo(QImage::Format_RGB32);
     const QColorSpace sRgb(QColorSpace::SRgb), embedded = image.colorSpace();
     if (embedded.isValid()) {
         if (!isSRgb(embedded))

@@ -8,6 +8,9 @@
 #include "photo/reader/Channel.h"
 #include "photo/reader/Confinement.h"
 #include "photo/reader/Sharing.h"
+#ifdef LUMORA_HEIF
+#include "photo/formats/heif/HeifHandler.h"
+#endif
 
 #include <QBuffer>
 #include <QFile>
@@ -40,6 +43,9 @@ void loadDecoders()
     damagedFile.open(QIODevice::ReadOnly);
     decodePhoto(unknownFile, 1 << 24);
     readMetadata(damagedFile, {});
+#ifdef LUMORA_HEIF
+    HeifHandler::loadLibrary();
+#endif
 }
 
 /// Has the libraries that every photo needs find their files, too.

@@ -67,6 +67,13 @@ void eachLayout()
     QTest::newRow("inks") << samples::jpeg(JpegKind::Cmyk, 200, 160, pixels(200, 160, 4));
 }
 
+/// What the platform's colours may be off: where it leaves the inks of a picture as they are, it mixes them in its own
+/// way.
+int rounding(const QImage& platforms)
+{
+    return platforms.pixelFormat().colorModel() == QPixelFormat::CMYK ? 1 : 0;
+}
+
 } // namespace
 
 class JpegTest : public QObject {
@@ -91,7 +98,8 @@ private slots:
         QFETCH(QByteArray, file);
         const LoadedPhoto photo = samples::loaded(m_folder, file);
         QCOMPARE(photo.reason, QString());
-        QCOMPARE(samples::largestDifference(photo.image, QImage::fromData(file, "jpeg")), 0);
+        const QImage platforms = QImage::fromData(file, "jpeg");
+        QVERIFY(samples::largestDifference(photo.image, platforms) <= rounding(platforms));
         QVERIFY(!photo.restIsMissing);
     }
 
@@ -142,10 +150,9 @@ private slots:
             QVERIFY2(photo.image.isNull() || photo.restIsMissing, qPrintable(QString::number(length)));
         }
         const LoadedPhoto half = samples::loaded(m_folder, file.left((scan + file.size()) / 2));
-        QCOMPARE(
-            samples::largestDifference(half.image,
-                QImage::fromData(file.left((scan + file.size()) / 2), "jpeg").convertToFormat(QImage::Format_RGB32)),
-            0);
+        const QImage platforms = QImage::fromData(file.left((scan + file.size()) / 2), "jpeg");
+        QVERIFY(samples::largestDifference(half.image, platforms.convertToFormat(QImage::Format_RGB32))
+            <= rounding(platforms));
         QVERIFY(!samples::loaded(m_folder, file).restIsMissing);
     }
 

@@ -4,6 +4,7 @@
 #include "photo/PhotoSaver.h"
 #include "photo/formats/ExifItem.h"
 #include "photo/metadata/MetadataReader.h"
+#include "tests/photo/CarriedMetadata.h"
 #include "tests/photo/PhoneSamples.h"
 #include "tests/photo/Samples.h"
 #include "tests/photo/TiffSample.h"
@@ -16,16 +17,11 @@
 
 namespace {
 
-using Image = Exiv2::Image::AutoPtr;
+using Image = decltype(openedImage({}));
 
-/// A copy of the file's bytes.
 Image opened(const QByteArray& file)
 {
-    Exiv2::BasicIo::AutoPtr copy(new Exiv2::MemIo);
-    copy->write(reinterpret_cast<const Exiv2::byte*>(file.constData()), long(file.size()));
-    Image image = Exiv2::ImageFactory::open(copy);
-    image->readMetadata();
-    return image;
+    return openedImage(file);
 }
 
 QByteArray written(Image& image)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo/PhotoSaver.h"
+#include "tests/photo/CarriedMetadata.h"
 #include "tests/photo/Samples.h"
 
 #include <QFile>
@@ -31,10 +32,7 @@ QByteArray warnings(const QString& file)
 QByteArray carrying(const QByteArray& format)
 {
     const QByteArray plain = samples::encoded(samples::quarters(64, 48), format.constData());
-    Exiv2::BasicIo::AutoPtr copy(new Exiv2::MemIo);
-    copy->write(reinterpret_cast<const Exiv2::byte*>(plain.constData()), long(plain.size()));
-    const auto image = Exiv2::ImageFactory::open(copy);
-    image->readMetadata();
+    const auto image = openedImage(plain);
     Exiv2::ExifData& exif = image->exifData();
     exif["Exif.Image.Make"] = "Canon";
     exif["Exif.Image.Copyright"] = "A. Person";

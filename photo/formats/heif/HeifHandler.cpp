@@ -119,6 +119,12 @@ bool HeifHandler::open() const
     return picture != nullptr;
 }
 
+void HeifHandler::loadLibrary()
+{
+    qputenv("LIBHEIF_PLUGIN_PATH", "/proc/empty"); // there is no such folder
+    heif_init(nullptr);
+}
+
 bool HeifHandler::canRead() const
 {
     return open();

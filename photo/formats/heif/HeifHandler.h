@@ -12,6 +12,10 @@ struct heif_image_handle;
 /// on the caller's thread.
 class HeifHandler : public PhotoHandler {
 public:
+    /// Has the library find its files, which it does with the first picture otherwise. It gets none of the decoders
+    /// that systems keep in files of their own: those of this program stand in for them.
+    static void loadLibrary();
+
     bool canRead() const override;
     bool read(QImage* image) override;
     bool supportsOption(ImageOption option) const override { return option == Size || option == ImageFormat; }
