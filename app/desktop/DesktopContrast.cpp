@@ -9,9 +9,9 @@
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop"),
-              path = QStringLiteral("/org/freedesktop/portal/desktop"),
-              interface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString portal = QStringLiteral("org.freedesktop.portal.Desktop"),
+              portalPath = QStringLiteral("/org/freedesktop/portal/desktop"),
+              portalSettings = QStringLiteral("org.freedesktop.portal.Settings");
 
 // The portal's own word for it, and that of GNOME's desktops whose portal does not have it yet.
 const QString appearance = QStringLiteral("org.freedesktop.appearance"), contrast = QStringLiteral("contrast"),
@@ -38,13 +38,14 @@ DesktopContrast::DesktopContrast()
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this, SLOT(ask())); // whichever
+    bus.connect(portal, portalPath, portalSettings, QStringLiteral("SettingChanged"), this, SLOT(ask())); // whichever
     ask();
 }
 
 void DesktopContrast::ask()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(portal, portalPath, portalSettings, QStringLiteral("ReadAll"));
     question << QStringList({appearance, gnome});
     auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
