@@ -65,12 +65,17 @@ void LookStrip::fit()
 {
     if (!isVisible()) // nobody knows yet what the buttons need
         return;
+    widget()->layout()->invalidate(); // which buttons that are about to be shown have not told it
+    fitToButtons();
+}
+
+void LookStrip::fitToButtons()
+{
     const QList<LookButton*> all = buttons();
     const int spacing = widget()->layout()->spacing();
     m_side = thumbnailSide((width() + spacing) / int(all.size()) - spacing, window()->height());
     for (LookButton* button : all)
         button->setIconSize({m_side, m_side});
-    widget()->layout()->invalidate(); // which buttons that are about to be shown have not told it
     widget()->layout()->activate();
     const QSize needed = widget()->minimumSizeHint();
     const bool scrolls = needed.width() > width();
@@ -80,8 +85,8 @@ void LookStrip::fit()
 
 bool LookStrip::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) // as by another font
-        fit();
+    if (watched == widget() && event->type() == QEvent::LayoutRequest && isVisible()) // as by another font
+        fitToButtons(); // which asks for no further layout where nothing has changed
     return QScrollArea::eventFilter(watched, event);
 }
 

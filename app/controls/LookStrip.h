@@ -35,6 +35,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void fitToButtons();
     void showFocused(QWidget* before, QWidget* now);
 
     int m_side = 0;
