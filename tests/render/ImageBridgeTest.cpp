@@ -231,6 +231,9 @@ private slots:
         QTest::newRow("wide, counter-clockwise: on the other side") << QSize(100, 50) << 2 << QRect(5, 0, 45, 60);
         // 50 high, as wide, in the middle and moved by half of the margins' difference: 7.5 to 57.5.
         QTest::newRow("square") << QSize(40, 40) << 3 << QRect(7, 4, 51, 50);
+        // Sides are cut to whole pixels: 52.875 high, in the middle and moved as above; 53.906 wide.
+        QTest::newRow("a little tall") << QSize(40, 47) << 3 << QRect(10, 3, 45, 52);
+        QTest::newRow("a little wide") << QSize(69, 64) << 3 << QRect(6, 4, 53, 50);
     }
     void marginsKeepThePictureOut()
     {
