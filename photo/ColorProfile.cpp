@@ -25,7 +25,7 @@ bool isSRgb(const QColorSpace& space)
 QImage inSRgb(QImage image)
 {
     if (image.pixelFormat().colorModel() == QPixelFormat::CMYK) // as newer platforms decode inks
-        image.convertTo(QImage::Format_RGB32);
+        image.convertTo(QImage::Format_RGBX8888);
     const QColorSpace sRgb(QColorSpace::SRgb), embedded = image.colorSpace();
     if (embedded.isValid()) {
         if (!isSRgb(embedded))
