@@ -62,6 +62,30 @@ private:
 private slots:
     void init() { setPreferences({}); }
 
+    void atRestItAsksForNoLayout()
+    {
+        Try desk;
+        struct Requests : QObject {
+            int count = 0;
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                count += event->type() == QEvent::LayoutRequest;
+                return false;
+            }
+        } requests;
+        const auto turnTheLoop = [] {
+            for (int i = 0; i < 20; i++)
+                QCoreApplication::processEvents();
+        };
+        turnTheLoop();
+        desk.strip->widget()->installEventFilter(&requests);
+        turnTheLoop();
+        QCOMPARE(requests.count, 0);
+        desk.button(Filter::helga)->setMinimumWidth(150); // it sees those that come
+        turnTheLoop();
+        QVERIFY(requests.count > 0);
+    }
+
     void holdsAllLooksInTheirOrder()
     {
         Try desk;
