@@ -9,12 +9,10 @@ namespace lumora {
 
 namespace {
 
-/// float(distance * per255) for a whole distance of 0 .. 255, without doubles. 1/255 is split: the product with its
-/// upper part is exact, and the lower part brings the sum close enough to be rounded alike.
+/// float(distance * per255) for a whole distance of 0 .. 255.
 constexpr float shareOf255(float distance)
 {
-    constexpr float upper = 257.0f / 65536.0f, lower = float(per255 - upper);
-    return distance * upper + distance * lower;
+    return productWithSplit(distance, 257.0f / 65536.0f, per255);
 }
 
 static_assert([] {

@@ -73,26 +73,25 @@ template <class Channel> inline Channel notBelow(Channel v, float floor)
     return larger(Channel(floor), v);
 }
 
+/// float(whole * factor) without a double, for whole numbers whose product with `upper` is exact: `upper` is the factor
+/// cut to a few bits. The product with what was cut off brings the sum close enough to be rounded alike, unless
+/// whole * factor is very near the middle between two floats: evaluate it for every number that can come.
+constexpr float productWithSplit(float whole, float upper, double factor)
+{
+    return whole * upper + whole * float(factor - double(upper));
+}
+
 /// Luminance of Rec. 601 weights, shortened to two places.
 template <class Channel> inline Channel luminance(Colour<Channel> c)
 {
     return rounded(c.r * 0.3 + c.g * 0.59 + c.b * 0.11);
 }
 
-/// A hundredth of a whole number of 0 .. 25500, as a division rounds it, but by products, which take vector code a
-/// fifth of the time. 1/100 is split: the product with its upper part is exact, and the lower part brings the sum close
-/// enough to be rounded alike.
-inline float hundredthOf(float whole)
-{
-    constexpr float upper = 655.0f / 65536.0f, lower = float(0.01 - double(upper));
-    return whole * upper + whole * lower;
-}
-
 /// The same for channels that are whole numbers of 0 .. 255, without a double: 100 times their luminance is a whole
-/// number, and a hundredth of that is far from the middle between two floats.
+/// number of 0 .. 25500.
 inline float byteLuminance(Rgb c)
 {
-    return hundredthOf(c.r * 30.0f + c.g * 59.0f + c.b * 11.0f);
+    return productWithSplit(c.r * 30.0f + c.g * 59.0f + c.b * 11.0f, 655.0f / 65536.0f, 0.01);
 }
 
 /// The shared S-curve on 0 .. 1 through (0.5, 0.5): an exponent above 1 steepens the middle, below 1 flattens it.
