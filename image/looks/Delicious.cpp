@@ -26,9 +26,7 @@ Plane lookedUp(const ChannelCurve& curve, const Plane& values)
     for (int i = 0; i < blockPixels; i++)
         index[i] = int(values.at[i]);
     Plane results;
-#pragma GCC unroll 4 // one value at a time: half of the work would be counting
-    for (int i = 0; i < blockPixels; i++)
-        results.at[i] = curve.at[index[i]];
+    lookUp(curve.at, index, results);
     return results;
 }
 

@@ -23,6 +23,14 @@ struct alignas(64) Plane {
     float at[blockPixels];
 };
 
+/// What a table has for the index of each pixel of a block.
+inline void lookUp(const float* table, const int (&index)[blockPixels], Plane& values)
+{
+#pragma GCC unroll 4 // without vector code, half of the work would be counting
+    for (int i = 0; i < blockPixels; i++)
+        values.at[i] = table[index[i]];
+}
+
 /// The channels of a block's pixels.
 struct Planes {
     Plane r, g, b;

@@ -39,9 +39,7 @@ public:
         int index[blockPixels];
         for (int i = 0; i < blockPixels; i++)
             index[i] = int(block.r.at[i] * 30.0f + block.g.at[i] * 59.0f + block.b.at[i] * 11.0f);
-#pragma GCC unroll 4 // one value at a time: half of the work would be counting
-        for (int i = 0; i < blockPixels; i++)
-            plane.at[i] = m_values[index[i]];
+        lookUp(m_values.get(), index, plane);
     }
 
 private:
