@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <new>
 #include <vector>
 
 namespace lumora {
@@ -13,21 +14,33 @@ namespace lumora {
 // look carries them along in its one walk over the picture and never holds a whole one. Values are whole numbers of
 // 0 .. 255, as floats, in blocks; what stands beyond the last column of a row is never used.
 
+/// Memory that begins a line of the cache, so that no vector lies in two.
+template <class T> struct LineAllocator {
+    using value_type = T;
+    static constexpr std::align_val_t line{64};
+
+    LineAllocator() = default;
+    template <class U> LineAllocator(const LineAllocator<U>&) { }
+
+    T* allocate(std::size_t count) { return static_cast<T*>(::operator new(count * sizeof(T), line)); }
+    void deallocate(T* memory, std::size_t) { ::operator delete(memory, line); }
+    bool operator==(const LineAllocator&) const = default;
+};
+
 /// One value per column of a row, in whole blocks. The row's first and last values repeat over a margin before and
 /// after it.
 class WideRow {
 public:
     WideRow(int width, int margin)
         : m_width(std::size_t(std::max(width, 0)))
-        , m_margin(std::size_t(margin))
-        , m_before((m_margin + lineValues - 1) / lineValues)
-        , m_lines(2 * m_before + inWholeBlocks(int(m_width)) / lineValues)
+        , m_margin(std::size_t(margin + lineValues - 1) / lineValues * lineValues)
+        , m_values(2 * m_margin + inWholeBlocks(int(m_width)))
     {
     }
 
-    /// From the first column on; the margin stands before it.
-    float* columns() { return m_lines[m_before].at; }
-    const float* columns() const { return m_lines[m_before].at; }
+    /// From the first column on, which begins a line of the cache; the margin stands before it.
+    float* columns() { return m_values.data() + m_margin; }
+    const float* columns() const { return m_values.data() + m_margin; }
 
     void setBlock(int x, const Plane& values) { std::copy_n(values.at, blockPixels, columns() + x); }
 
@@ -38,15 +51,10 @@ public:
     }
 
 private:
-    /// A line of the cache. The first column begins one: a vector that lies in two takes twice as long to load.
-    struct alignas(64) Line {
-        float at[16];
-    };
-    static constexpr std::size_t lineValues = 16;
+    static constexpr int lineValues = 16;
 
-    std::size_t m_width, m_margin;
-    std::size_t m_before; ///< lines of the margin
-    std::vector<Line> m_lines;
+    std::size_t m_width, m_margin; ///< the margin in whole lines
+    std::vector<float, LineAllocator<float>> m_values;
 };
 
 /// The rows of a picture that a pass down it needs at a time, each in the place of one that it no longer needs.
