@@ -63,14 +63,14 @@ void LookStrip::showApplied(const LookList& looks, bool multi)
 
 void LookStrip::fit()
 {
-    if (!isVisible()) // nobody knows yet what the buttons need
-        return;
     widget()->layout()->invalidate(); // which buttons that are about to be shown have not told it
     fitToButtons();
 }
 
 void LookStrip::fitToButtons()
 {
+    if (!isVisible()) // nobody knows yet what the buttons need
+        return;
     const QList<LookButton*> all = buttons();
     const int spacing = widget()->layout()->spacing();
     m_side = thumbnailSide((width() + spacing) / int(all.size()) - spacing, window()->height());
@@ -85,7 +85,7 @@ void LookStrip::fitToButtons()
 
 bool LookStrip::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest && isVisible()) // as by another font
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) // as by another font
         fitToButtons(); // which asks for no further layout where nothing has changed
     return QScrollArea::eventFilter(watched, event);
 }
