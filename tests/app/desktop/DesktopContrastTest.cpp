@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/DesktopContrast.h"
+#include "tests/app/desktop/LeaksOfTheBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -30,13 +31,6 @@ public slots:
         return asked;
     }
 };
-
-/// What a bus that ends with the program still held is no leak of ours: libdbus may have a call on its way.
-extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions()
-{
-    return "leak:libdbus-1\n";
-}
 
 /// On a bus of its own, on which the test plays the desktop's part.
 class DesktopContrastTest : public QObject {

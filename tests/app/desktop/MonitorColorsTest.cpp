@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/desktop/MonitorColors.h"
 #include "tests/app/Desk.h"
+#include "tests/app/desktop/LeaksOfTheBus.h"
 
 #include <QColorSpace>
 #include <QDBusConnection>
@@ -51,13 +52,6 @@ class Profile : public QObject {
 public:
     QString name;
 };
-
-/// What a bus that ends with the program still held is no leak of ours: libdbus may have a call on its way.
-extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions()
-{
-    return "leak:libdbus-1\n";
-}
 
 /// On a bus of its own, on which the test plays the desktop's part.
 class MonitorColorsTest : public QObject {
