@@ -19,11 +19,6 @@ namespace {
 
 using Image = decltype(openedImage({}));
 
-Image opened(const QByteArray& file)
-{
-    return openedImage(file);
-}
-
 QByteArray written(Image& image)
 {
     image->writeMetadata();
@@ -90,7 +85,8 @@ QByteArray fileByLibrary(const QByteArray& format)
 {
     Exiv2::XmpProperties::registerNs("https://example.org/drone/", "drone"); // one that the library does not know
     const QImage picture = samples::quarters(64, 48);
-    Image image = opened(format == "psd" ? samples::psd(picture, {}) : samples::encoded(picture, format.constData()));
+    Image image =
+        openedImage(format == "psd" ? samples::psd(picture, {}) : samples::encoded(picture, format.constData()));
     for (const auto& [key, text] : values)
         set(image, key, text);
     for (const auto& [key, text] : places)
@@ -119,7 +115,7 @@ QByteArray richFile(const QByteArray& format)
 
 QByteArray withNote(std::size_t size = 0)
 {
-    Image image = opened(richFile("jpeg"));
+    Image image = openedImage(richFile("jpeg"));
     Exiv2::ExifData& exif = image->exifData();
     exif["Exif.Canon.OwnerName"] = "Somebody with a name of some length";
     exif["Exif.Canon.SerialNumber"] = std::uint32_t(123456);
@@ -180,7 +176,7 @@ private slots:
     void everythingIsKept()
     {
         QFETCH(QByteArray, format);
-        const Image image = opened(saved(richFile(format)));
+        const Image image = openedImage(saved(richFile(format)));
         for (const auto& [key, text] : values)
             QCOMPARE(value(image, key), canHold(format, key) ? text : std::string("none"));
         for (const auto& [key, text] : places)
@@ -194,7 +190,7 @@ private slots:
     void whatNoLongerHoldsIsChanged()
     {
         QFETCH(QByteArray, format);
-        const Image image = opened(saved(richFile(format)));
+        const Image image = openedImage(saved(richFile(format)));
         for (const auto& [key, text] : {std::pair("Exif.Image.Orientation", "1"),
                  std::pair("Exif.Image.Software", "Lumora"), std::pair("Exif.Photo.PixelXDimension", "30"),
                  std::pair("Exif.Photo.PixelYDimension", "20"), std::pair("Xmp.tiff.Orientation", "1"),
@@ -212,7 +208,7 @@ private slots:
     {
         QFETCH(QByteArray, format);
         const QByteArray file = saved(richFile(format), Kept::WithoutPlace);
-        const Image image = opened(file);
+        const Image image = openedImage(file);
         for (const auto& [key, text] : values)
             QCOMPARE(value(image, key), canHold(format, key) ? text : std::string("none"));
         for (const auto& [key, text] : places)
@@ -260,7 +256,7 @@ private slots:
         const QByteArray exif = samples::loaded(m_folder, withNote()).metadata.exif;
         QByteArray file = samples::encoded(samples::quarters(64, 48), "png");
         file.insert(33, samples::pngChunk("eXIf", exif) + samples::pngChunk("tEXt", QByteArray("Comment\0said", 12)));
-        const Image image = opened(saved(file));
+        const Image image = openedImage(saved(file));
         QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
         QCOMPARE(value(image, "Exif.Canon.SerialNumber"), std::string("123456"));
         QCOMPARE(image->comment(), std::string("said"));
@@ -290,7 +286,7 @@ private slots:
         QBuffer device(&file);
         QVERIFY(device.open(QIODevice::ReadOnly));
         const PhotoMetadata metadata = magic == "IIRO" ? metadataByLibrary(file) : readMetadata(device, {});
-        const Image image = opened(encodeJpeg(samples::noise(30, 20), metadata));
+        const Image image = openedImage(encodeJpeg(samples::noise(30, 20), metadata));
         for (const auto& [key, text] : {std::pair("Exif.Image.Make", "Prism"), std::pair("Exif.Image.Model", "Model 7"),
                  std::pair("Exif.Image.Orientation", "1"), std::pair("Exif.Image.ImageWidth", "none"),
                  std::pair("Exif.Image.CFAPattern", "none"), std::pair("Exif.Image.ColorMatrix1", "none")})
@@ -311,7 +307,7 @@ private slots:
         const QByteArray boxes =
             QByteArray::fromHex("85c0b687820f11e08111f4ce462b6a48") + box("CMT1", camera) + box("CMT2", moment);
         const QByteArray file = box("ftyp", QByteArray("crx \0\0\0\1crx isom", 16)) + box("moov", box("uuid", boxes));
-        const Image image = opened(encodeJpeg(samples::noise(30, 20), metadataByLibrary(file)));
+        const Image image = openedImage(encodeJpeg(samples::noise(30, 20), metadataByLibrary(file)));
         for (const auto& [key, text] : {std::pair("Exif.Image.Make", "Prism"), std::pair("Exif.Image.Model", "Model 7"),
                  std::pair("Exif.Photo.ISOSpeedRatings", "800"), std::pair("Exif.Image.Orientation", "1")})
             QCOMPARE(key + value(image, key), key + std::string(text));
@@ -320,13 +316,13 @@ private slots:
     void notesStayWhereTheyWere()
     {
         const QByteArray file = withNote();
-        const Image before = opened(file), after = opened(saved(file));
+        const Image before = openedImage(file), after = openedImage(saved(file));
         for (const char* key : {"Exif.Canon.OwnerName", "Exif.Canon.SerialNumber", "Exif.Canon.FirmwareVersion",
                  "Exif.MakerNote.Offset", "Exif.Photo.MakerNote"})
             QCOMPARE(value(after, key), value(before, key));
         QVERIFY(value(after, "Exif.Canon.SerialNumber") != "none");
         // It may tell the place.
-        QCOMPARE(value(opened(saved(file, Kept::WithoutPlace)), "Exif.Photo.MakerNote"), std::string("none"));
+        QCOMPARE(value(openedImage(saved(file, Kept::WithoutPlace)), "Exif.Photo.MakerNote"), std::string("none"));
     }
 
     void noteThatWouldBreakIsLeftOut()
@@ -341,7 +337,7 @@ private slots:
             return bytes;
         };
         file.replace(file.indexOf(number(inside), block), 4, number(outside));
-        const Image image = opened(saved(file));
+        const Image image = openedImage(saved(file));
         QCOMPARE(value(image, "Exif.Photo.MakerNote"), std::string("none"));
         QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
     }
@@ -349,7 +345,7 @@ private slots:
     void noPreviewIsKept()
     {
         QByteArray file = withNote(1);
-        Image image = opened(file);
+        Image image = openedImage(file);
         const QByteArray preview = samples::encoded(samples::flat(64, 64, Qt::red), "jpeg");
         Exiv2::ExifThumb(image->exifData())
             .setJpegThumbnail(reinterpret_cast<const Exiv2::byte*>(preview.constData()), long(preview.size()));
@@ -374,7 +370,7 @@ private slots:
         QVERIFY(!after.contains("/9j/"));
         QVERIFY(!after.contains("Thumbnails"));
         QVERIFY(!after.contains("8BIM\x04\x0C"));
-        const Image result = opened(after);
+        const Image result = openedImage(after);
         QCOMPARE(value(result, "Exif.Photo.MakerNote"), std::string("none"));
         QCOMPARE(value(result, "Exif.Image.Copyright"), std::string("A. Person"));
         QCOMPARE(value(result, "Xmp.dc.title"), std::string("lang=\"x-default\" A title"));
@@ -386,7 +382,7 @@ private slots:
         photo.metadata.xmp.replace("A title", QByteArray(70000, 't'));
         photo.metadata.comment = QByteArray(65534, 'c');
         const QByteArray file = encodeJpeg(samples::quarters(64, 48), photo.metadata);
-        const Image image = opened(file);
+        const Image image = openedImage(file);
         QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
         QCOMPARE(value(image, "Xmp.xmp.Rating"), std::string("none"));
         QCOMPARE(image->comment(), std::string());
@@ -395,11 +391,11 @@ private slots:
 
     void longestValuesGoUntilTheRestFits()
     {
-        Image image = opened(samples::encoded(samples::quarters(64, 48), "tiff"));
+        Image image = openedImage(samples::encoded(samples::quarters(64, 48), "tiff"));
         image->exifData()["Exif.Image.Copyright"] = "A. Person";
         image->exifData()["Exif.Image.ImageDescription"] = std::string(50000, 'd');
         image->exifData()["Exif.Photo.UserComment"] = std::string(40000, 'u');
-        const Image result = opened(saved(written(image)));
+        const Image result = openedImage(saved(written(image)));
         QCOMPARE(value(result, "Exif.Image.Copyright"), std::string("A. Person"));
         QCOMPARE(value(result, "Exif.Image.ImageDescription"), std::string("none"));
         QVERIFY(value(result, "Exif.Photo.UserComment").size() > 40000 - 10);
