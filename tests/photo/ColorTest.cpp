@@ -230,11 +230,20 @@ private slots:
         QCOMPARE(samples::largestDifference(load(file), source), 0);
     }
 
+    void otherGammaIsConverted_data()
+    {
+        QTest::addColumn<quint32>("gamma"); // its inverse, in hundred thousandths
+        QTest::addColumn<int>("tone"); // of 64
+        QTest::newRow("linear") << quint32(100000) << 137; // a quarter of the light
+        QTest::newRow("1.8, of printers") << quint32(55556) << 81;
+    }
     void otherGammaIsConverted()
     {
+        QFETCH(quint32, gamma);
+        QFETCH(int, tone);
         QByteArray file = samples::encoded(samples::flat(2, 2, QColor(64, 64, 64)), "png");
-        file.insert(33, samples::pngChunk("gAMA", samples::bigEndian(quint32(100000))));
-        compare(load(file), 0, 0, qRgb(137, 137, 137), 1); // a quarter of the light
+        file.insert(33, samples::pngChunk("gAMA", samples::bigEndian(gamma)));
+        compare(load(file), 0, 0, qRgb(tone, tone, tone), 1);
     }
 
     void paletteWithAProfile()

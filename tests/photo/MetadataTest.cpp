@@ -243,6 +243,22 @@ private slots:
         QVERIFY(file.contains(marker));
     }
 
+    void theFirstBlockOfAKindCounts()
+    {
+        const auto segment = [](const QByteArray& payload) {
+            return QByteArray("\xFF\xE1\0", 3) + char(payload.size() + 2) + payload;
+        };
+        const QByteArray exif("Exif\0\0", 6), xmp("http://ns.adobe.com/xap/1.0/\0", 29);
+        QByteArray file("\xFF\xD8");
+        for (const char* text : {"first", "second"})
+            file += segment(exif + text) + segment(xmp + text);
+        QBuffer device(&file);
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        const JpegMarkers found = readJpegMarkers(device);
+        QCOMPARE(found.exif, QByteArray("first"));
+        QCOMPARE(found.xmp, QByteArray("first"));
+    }
+
     void textsOfAPictureAreNoComments()
     {
         QImage picture = samples::noise(30, 20);

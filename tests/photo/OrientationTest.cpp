@@ -2,6 +2,7 @@
 #include "photo/PhotoLoader.h"
 #include "photo/PhotoSaver.h"
 #include "tests/photo/Samples.h"
+#include "tests/photo/TiffSample.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -53,6 +54,19 @@ QByteArray webpWithExif(const QImage& picture, const QByteArray& exif)
     return "RIFF" + littleEndian(chunks.size(), 4) + chunks;
 }
 
+/// Of which the platform's decoder tells the orientation.
+QByteArray tiffOf(const QImage& picture, int orientation)
+{
+    constexpr int orientationTag = 274, copyrightTag = 33432;
+    const QImage rgb = picture.convertToFormat(QImage::Format_RGB888);
+    QByteArray rows;
+    for (int y = 0; y < rgb.height(); y++)
+        rows.append(reinterpret_cast<const char*>(rgb.constScanLine(y)), 3 * qsizetype(rgb.width()));
+    return samples::tiff(samples::tiffPicture(rgb.width(), rgb.height(), 8, 3, 2)
+            << samples::shorts(orientationTag, {orientation}) << samples::text(copyrightTag, "A. Person"),
+        {rows});
+}
+
 /// A file of that format.
 QByteArray fileWithExif(const QByteArray& format, const QImage& picture, int orientation, bool bigEndian)
 {
@@ -61,6 +75,8 @@ QByteArray fileWithExif(const QByteArray& format, const QImage& picture, int ori
         return samples::withCameraExif(samples::encoded(picture, "jpeg"), orientation, bigEndian);
     if (format == "psd")
         return samples::psd(picture, exif);
+    if (format == "tiff")
+        return tiffOf(picture, orientation);
     if (format == "webp")
         return webpWithExif(picture, exif);
     return samples::encoded(picture, "png").insert(33, samples::pngChunk("eXIf", exif));
@@ -77,11 +93,12 @@ private slots:
         QTest::addColumn<QByteArray>("format");
         QTest::addColumn<int>("orientation");
         QTest::addColumn<bool>("bigEndian");
-        for (const char* format : {"jpeg", "png", "webp", "psd"})
+        for (const char* format : {"jpeg", "png", "webp", "psd", "tiff"})
             for (int orientation = 0; orientation <= 9; orientation++)
                 for (const bool bigEndian : {false, true})
-                    QTest::addRow("%s, %d, %s endian", format, orientation, bigEndian ? "big" : "little")
-                        << QByteArray(format) << orientation << bigEndian;
+                    if (!bigEndian || QByteArray(format) != "tiff")
+                        QTest::addRow("%s, %d, %s endian", format, orientation, bigEndian ? "big" : "little")
+                            << QByteArray(format) << orientation << bigEndian;
     }
     void photosOpenAndStayUpright()
     {

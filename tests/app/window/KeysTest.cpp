@@ -299,6 +299,9 @@ private slots:
         QTest::mouseClick(desk.find<QWidget>("btnHelga"), Qt::LeftButton);
         QVERIFY(desk.showsRender());
         QCOMPARE(desk.looks(), Looks{helga});
+        const QImage shown = desk.view->grab().toImage(); // without the word "Before"
+        QTest::keyRelease(desk.view, Qt::Key_Space);
+        QCOMPARE(desk.view->grab().toImage(), shown);
     }
 
     void theWheelPassesAClosedPopUp()
