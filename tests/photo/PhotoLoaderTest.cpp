@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
+#include <cerrno>
 #include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -164,8 +165,8 @@ private slots:
         QTest::newRow("icon") << pathOf("icon") << "The file is not a picture of a kind that can be read.";
         QTest::newRow("pipe that nobody writes to") << pathOf("pipe") << "It is not a file with a picture.";
         QTest::newRow("device") << QByteArray("/dev/zero") << "It is not a file with a picture.";
-        QTest::newRow("link to itself") << pathOf("loop")
-                                        << "The file cannot be opened: Too many levels of symbolic links.";
+        const QString loop = qt_error_string(ELOOP); // in the system's language
+        QTest::newRow("link to itself") << pathOf("loop") << QString("The file cannot be opened: %1.").arg(loop);
     }
     void whatIsNoPhotoIsRefused()
     {

@@ -93,6 +93,7 @@ private slots:
 
     void thePanelSaysWhatIsWritten()
     {
+        QLocale::setDefault(QLocale::English); // not the desktop's
         const LookList looks;
         for (const auto& [bytes, length] : {std::pair(412'345, "412 kB"), std::pair(2'123'456, "2.1 MB")}) {
             SavePanel panel(nullptr, bytes, "photo.png", looks);

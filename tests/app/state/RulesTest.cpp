@@ -10,6 +10,15 @@ class RulesTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QLocale::setDefault(QLocale::English); } // not the desktop's
+    void cleanup() { QLocale::setDefault(QLocale::English); }
+
+    void lengthsAreToldByTheLocale()
+    {
+        QLocale::setDefault(QLocale::German);
+        QCOMPARE(shownLength(2'149'000), "2,1 MB");
+    }
+
     void aSavedFileIsNamedWithoutControlCharacters()
     {
         QCOMPARE(shownLength(0), "0 bytes");
