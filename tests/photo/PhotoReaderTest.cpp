@@ -10,11 +10,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
+#include <poll.h>
 #include <unistd.h>
 
 using End = PhotoReader::End;
 
 namespace {
+
+constexpr int longest = 90'000; ///< milliseconds, many times what a reader may take for a small file
 
 QByteArray contentsOf(const QString& systemFile)
 {
@@ -223,7 +226,7 @@ private slots:
         QTest::newRow("never ends") << QByteArray("HARM loop") << End::TookTooLong;
         QTest::newRow("takes all memory") << QByteArray("HARM memory") << End::Answered; // the decoder was told no
         QTest::newRow("takes all memory for its header") << QByteArray("HARM header memory") << End::Answered;
-        QTest::newRow("never ends in its header") << QByteArray("HARM header loop") << End::TookTooLong;
+        QTest::newRow("waits for ever in its header") << QByteArray("HARM header wait") << End::TookTooLong;
         QTest::newRow("opens a file") << QByteArray("HARM file") << End::TriedFiles;
         QTest::newRow("opens a socket") << QByteArray("HARM socket") << End::TriedNetwork;
     }
@@ -233,7 +236,9 @@ private slots:
         QFETCH(End, end);
         PhotoReader::setProgram(HARMFUL_READER);
         PhotoReader reader;
-        const LoadedPhoto photo = read(reader, write("photo", file));
+        reader.begin(write("photo", file));
+        QVERIFY(reader.isDone(longest));
+        const LoadedPhoto photo = reader.take();
         QVERIFY(photo.image.isNull());
         QCOMPARE(reader.end(), end);
         m_reasons << photo.reason;
@@ -244,6 +249,17 @@ private slots:
         QCOMPARE(m_reasons.size(), 7);
         QVERIFY(!m_reasons.contains(QString()));
         QCOMPARE(QSet<QString>(m_reasons.begin(), m_reasons.end()).size(), 5); // two of them in two places
+    }
+
+    void whatNobodyWatchesEndsItself()
+    {
+        PhotoReader::setProgram(HARMFUL_READER);
+        PhotoReader reader;
+        reader.begin(write("photo", "HARM loop"));
+        pollfd ended = {reader.descriptor(), POLLIN, 0};
+        QCOMPARE(poll(&ended, 1, longest), 1);
+        QVERIFY(reader.take().image.isNull());
+        QCOMPARE(reader.end(), End::TookTooLong);
     }
 
     void readingCanBeCancelled()

@@ -7,6 +7,7 @@
 #include <QImageIOPlugin>
 #include <fcntl.h>
 #include <new>
+#include <poll.h>
 #include <sys/mman.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -35,12 +36,20 @@ bool loop(QImage*)
     return false;
 }
 
-bool eatMemory(QImage*)
+bool waitForever(QImage*)
 {
-    constexpr std::size_t portion = 1 << 26;
-    while (mmap(nullptr, portion, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) != MAP_FAILED)
-        ;
-    throw std::bad_alloc();
+    for (;;)
+        poll(nullptr, 0, -1);
+}
+
+/// More than any machine has. Where that is not refused, there is a picture.
+bool eatMemory(QImage* image)
+{
+    constexpr std::size_t portion = std::size_t(1) << 26, all = std::size_t(1) << 43;
+    for (std::size_t taken = 0; taken < all; taken += portion)
+        if (mmap(nullptr, portion, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) == MAP_FAILED)
+            throw std::bad_alloc();
+    return !image || readPlainly(image);
 }
 
 bool openFile(QImage* image)
@@ -66,7 +75,7 @@ const Harm harms[] = {
     {"HARM loop", loop},
     {"HARM memory", eatMemory},
     {"HARM header memory", eatMemory, true},
-    {"HARM header loop", loop, true},
+    {"HARM header wait", waitForever, true},
     {"HARM file", openFile},
     {"HARM socket", openSocket},
     {"HARM none", readPlainly},
