@@ -48,6 +48,8 @@ private:
     };
 
 private slots:
+    void initTestCase() { QLocale::setDefault(QLocale::English); } // not the desktop's: the order is the language's
+
     void namesFollowEachOtherInTheirNaturalOrder()
     {
         const Folder folder({"IMG_10.jpg", "IMG_9.jpg", "img_2.jpg", "IMG_1.jpg", "\xc3\xa4.jpg", "b.jpg", "z"});
