@@ -241,6 +241,16 @@ private slots:
         QCOMPARE(decoded(path), expected(desk));
     }
 
+    void savingScalesToTheSmallestSize()
+    {
+        Desk desk(makePhoto(300, 200));
+        desk.choose("btnImgSize", "100");
+        const QString path = desk.folder.filePath("small.jpg");
+        const QByteArray printed = printedBy([&] { desk.saveAs(path); });
+        QVERIFY(printed.contains("downsizing image to 100, ended with 100.000000 66.666667\n"));
+        QCOMPARE(decoded(path).size(), QSize(100, 67));
+    }
+
     void savingScalesToTheChosenSizeAlsoUpwards()
     {
         Desk desk(makePhoto(640, 480));
