@@ -134,6 +134,16 @@ private slots:
         }
     }
 
+    void aRenderComesBackWithTheNumbersThatItDrew()
+    {
+        UndoDesk desk(makePhoto(60, 40));
+        desk.window.pressFilterButton(Filter::lightleak);
+        const QImage leaks = desk.shown();
+        desk.click("btnMono");
+        desk.undo();
+        QCOMPARE(desk.shown(), leaks);
+    }
+
     void undoRendersOnce()
     {
         UndoDesk desk(makePhoto(60, 40));
