@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/state/Photo.h"
 
+#include "render/Scaled.h"
 #include "tests/app/Desk.h"
 
 #include <QColorSpace>
@@ -50,6 +51,16 @@ private slots:
         photo.setOriginal(makePhoto(picture.width(), picture.height()), 800, density);
         QTEST(photo.display().size(), "display");
         QTEST(photo.thumb().size(), "thumb");
+    }
+
+    void aThumbnailIsMadeOfTheDisplayCopyWhereThatIsTwiceAsLarge()
+    {
+        Photo photo;
+        const QImage picture = makePhoto(600, 400);
+        photo.setOriginal(picture, 300, 1);
+        QCOMPARE(photo.thumb(), scaledTo(photo.display(), QSize(150, 100)));
+        photo.setOriginal(picture, 299, 1);
+        QCOMPARE(photo.thumb(), scaledTo(picture, QSize(150, 100)));
     }
 
     void anotherPictureReplacesAllOfIt()
