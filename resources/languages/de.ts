@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>foto;bild;look;filter;effekt;rahmen;zuschnitt;sofortbild;retro;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>Vergleichen, genau hinsehen und viele Fotos auf einmal speichern:</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>das Foto neben dem, was es war, zu beiden Seiten einer Linie</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>jedes Pixel, wie es gespeichert wird, bei 50, 100 oder 200 %</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>viele Fotos oder ein ganzer Ordner mit den gewählten Looks</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>Fotos über die Zwischenablage, und aus dem Fenster gezogen</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>Die erste Version.</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>vielen Fotos dieselben Looks geben</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>einem Foto einen Look geben</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>

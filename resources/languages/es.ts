@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>foto;imagen;look;filtro;efecto;borde;recorte;instantánea;retro;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>Comparar, mirar de cerca y guardar muchas fotos a la vez:</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>la foto junto a lo que era, a cada lado de una línea</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>cada píxel tal como se guardará, al 50, 100 o 200 %</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>muchas fotos o una carpeta entera con los efectos elegidos</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>fotos por el portapapeles y arrastradas fuera de la ventana</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>La primera versión.</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>dar los mismos efectos a muchas fotos</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>dar un efecto a una foto</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>

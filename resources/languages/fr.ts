@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>photo;image;look;filtre;effet;bordure;cadrage;instantané;rétro;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>Comparer, regarder de près et enregistrer beaucoup de photos d’un coup :</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>la photo à côté de ce qu’elle était, de part et d’autre d’une ligne</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>chaque pixel tel qu’il sera enregistré, à 50, 100 ou 200 %</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>beaucoup de photos ou tout un dossier avec les effets choisis</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>des photos par le presse-papiers, et glissées hors de la fenêtre</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>La première version.</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>donner les mêmes effets à beaucoup de photos</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>donner un effet à une photo</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>

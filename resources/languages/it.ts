@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>foto;immagine;look;filtro;effetto;bordo;ritaglio;istantanea;retro;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>Confrontare, guardare da vicino e salvare molte foto in una volta:</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>la foto accanto a ciò che era, ai due lati di una linea</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>ogni pixel come verrà salvato, al 50, 100 o 200 %</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>molte foto o un’intera cartella con gli effetti scelti</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>foto attraverso gli appunti e trascinate fuori dalla finestra</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>La prima versione.</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>dare gli stessi effetti a molte foto</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>dare un effetto a una foto</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>

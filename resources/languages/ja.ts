@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>写真;画像;ルック;フィルター;効果;枠;切り抜き;インスタント;レトロ;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>比較、拡大表示、複数の写真の一括保存:</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>線の両側に、写真とその元の姿を並べて表示</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>保存されるとおりの一つ一つのピクセルを 50、100、200 % で表示</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>選んだルックを多くの写真やフォルダー全体に適用</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>クリップボードでの写真の受け渡しと、ウィンドウの外へのドラッグ</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>最初のリリースです。</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>多くの写真に同じルックを与える</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>一枚の写真にルックを与える</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>

@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>zdjęcie;obraz;look;filtr;efekt;ramka;kadr;natychmiastowe;retro;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>Porównywanie, oglądanie z bliska i zapisywanie wielu zdjęć naraz:</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>zdjęcie obok tego, czym było, po obu stronach linii</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>każdy piksel taki, jaki zostanie zapisany, przy 50, 100 lub 200 %</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>wiele zdjęć lub cały folder z wybranymi efektami</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>zdjęcia przez schowek i przeciągane z okna</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>Pierwsze wydanie.</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>nadaje wielu zdjęciom te same efekty</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>nadaje zdjęciu efekt</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>

@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>foto;imagem;look;filtro;efeito;borda;corte;instantânea;retrô;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>Comparar, ver de perto e salvar muitas fotos de uma vez:</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>a foto ao lado do que era, de um lado e do outro de uma linha</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>cada pixel como será salvo, a 50, 100 ou 200 %</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>muitas fotos ou uma pasta inteira com os efeitos escolhidos</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>fotos pela área de transferência e arrastadas para fora da janela</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>A primeira versão.</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>dar os mesmos efeitos a muitas fotos</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>dar um efeito a uma foto</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>

@@ -55,6 +55,38 @@
         <source>photo;picture;look;filter;effect;border;crop;instant;retro;</source>
         <translation>照片;图片;风格;滤镜;效果;边框;裁剪;拍立得;复古;</translation>
     </message>
+    <message>
+        <source>Compare, look closely, and save many photos at once:</source>
+        <translation>对比、细看，并一次保存多张照片：</translation>
+    </message>
+    <message>
+        <source>the photo beside what it was, on either side of a line</source>
+        <translation>在分隔线两侧对照照片与原来的样子</translation>
+    </message>
+    <message>
+        <source>every pixel as it will be saved, at 50, 100 or 200 %</source>
+        <translation>以 50、100 或 200 % 查看将要保存的每个像素</translation>
+    </message>
+    <message>
+        <source>many photos or a whole folder under the looks that are chosen</source>
+        <translation>对多张照片或整个文件夹应用所选滤镜</translation>
+    </message>
+    <message>
+        <source>photos through the clipboard, and dragged out of the window</source>
+        <translation>通过剪贴板传递照片，也可将照片拖出窗口</translation>
+    </message>
+    <message>
+        <source>The first release.</source>
+        <translation>首个版本。</translation>
+    </message>
+    <message>
+        <source>give many photos the same looks</source>
+        <translation>为多张照片加上相同的滤镜</translation>
+    </message>
+    <message>
+        <source>give one photo a look</source>
+        <translation>为一张照片加上滤镜</translation>
+    </message>
 </context>
 <context>
     <name>DragDropImageView</name>
