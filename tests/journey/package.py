@@ -33,7 +33,8 @@ share = os.path.join(root, "usr", "share")
 help_document = os.path.join(share, "lumora", "help.pdf")
 for path in ("applications/com.dovrel.Lumora.desktop", "metainfo/com.dovrel.Lumora.metainfo.xml", "lumora/help.pdf",
              "icons/hicolor/scalable/apps/com.dovrel.Lumora.svg", "icons/hicolor/48x48/apps/com.dovrel.Lumora.png",
-             "man/man1/lumora.1.gz", "man/man1/lumora-render.1.gz", "bash-completion/completions/lumora-render",
+             "man/man1/lumora.1.gz", "man/man1/lumora-render.1.gz", "man/ja/man1/lumora-render.1.gz",
+             "bash-completion/completions/lumora-render",
              "icons/hicolor/128x128/apps/com.dovrel.Lumora.png", "icons/hicolor/256x256/apps/com.dovrel.Lumora.png"):
     assert os.path.getsize(os.path.join(share, path)) > 0, path
 

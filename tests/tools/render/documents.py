@@ -1,13 +1,16 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The manual pages, the completions and --help name the same options: documents.py LUMORA-RENDER LUMORA RESOURCES"""
+"""The manual pages, the completions and --help name the same options, and each language has its manual pages:
+documents.py LUMORA-RENDER LUMORA RESOURCES MANUAL-FOLDER"""
 
+import gzip
 import pathlib
 import re
 import subprocess
 import sys
 
-program, window, resources = sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3])
+program, window = sys.argv[1:3]
+resources, manual = map(pathlib.Path, sys.argv[3:])
 faults = []
 
 
@@ -63,7 +66,23 @@ assert names == {"--help", "--version"}, help_text
 differ("lumora --help and its completion", names, offered("-", by=window))
 differ("names of files", {"lumora.1"}, {pathlib.Path(name).name for name in offered("--", f"{resources}/man/lumora.", by=window)})
 
-for page in sorted((resources / "man").iterdir()):
+# In another language a page has another summary, and nothing else.
+pages = sorted((resources / "man").glob("*.1"))
+languages = sorted(file.stem for file in (resources / "languages").glob("*.ts"))
+assert len(pages) == 2 and languages, (pages, languages)
+for page in pages:
+    lines = page.read_text().splitlines()
+    summaries = set()
+    for language in languages:
+        translated = gzip.open(manual / language / "man1" / f"{page.name}.gz", "rt", encoding="utf-8").read().splitlines()
+        other = [i for i, pair in enumerate(zip(lines, translated, strict=True)) if pair[0] != pair[1]]
+        if other != [lines.index(".SH NAME") + 1] or not translated[other[0]].startswith(f"{page.stem} \\- "):
+            faults.append(f"{language}/{page.name} differs in the lines {other}")
+        summaries.add(translated[lines.index(".SH NAME") + 1])
+    if len(summaries) < len(languages):
+        faults.append(f"{page.name} has the same summary in two languages")
+
+for page in pages:
     run = subprocess.run(["man", "--warnings", "-l", page], capture_output=True, text=True, env={"LC_ALL": "C.UTF-8", "PATH": "/usr/bin:/bin"})
     if run.returncode or run.stderr or "NAME" not in run.stdout:
         faults.append(f"{page}: {run.stderr or run.stdout}")
