@@ -12,9 +12,10 @@ class ReadingTest : public QObject {
 
     QTemporaryDir m_folder;
 
-    QByteArray write(const QByteArray& data)
+    QByteArray write(const QByteArray& data) const { return writeTo(m_folder.filePath("harm"), data); }
+    static QByteArray writeTo(const QString& name, const QByteArray& data)
     {
-        const QByteArray path = QFile::encodeName(m_folder.filePath("harm"));
+        const QByteArray path = QFile::encodeName(name);
         QFile file(QFile::decodeName(path));
         if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size())
             qFatal("cannot write the file");
@@ -107,6 +108,17 @@ private slots:
         QVERIFY(!desk.window.loadImageFromFile(write("HARM loop")));
         QCOMPARE(desk.sheet(), QStringList());
         QVERIFY(desk.isUntouched());
+    }
+
+    void cancellingEndsTheWayToTheNextPhoto()
+    {
+        HarmedDesk desk;
+        writeTo(desk.folder.filePath("q.png"), "HARM loop");
+        writePhoto(desk.folder, "r.png", makePhoto(40, 60));
+        whileItReads(desk, [&] { QTest::keyClick(desk.window.windowHandle(), Qt::Key_Escape); });
+        QTest::keyClick(&desk.window, Qt::Key_PageDown);
+        QVERIFY(desk.isUntouched());
+        QCOMPARE(desk.find<QLabel>("noteText")->text(), QString()); // which would say that it was the last one
     }
 
     void closingTheWindowCancelsReading()
