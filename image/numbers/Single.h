@@ -5,24 +5,59 @@
 namespace lumora {
 
 /// A channel or a share while a recipe is tried: every step is made in single precision, also those that the recipe
-/// itself makes in double. Vector code does twice as many of them at once.
-struct Single {
+/// itself makes in double. Vector code does twice as many of them at once. A sum takes a product as it was before it
+/// was rounded, where the processor does that in one step: then it is no further off.
+class Single {
+public:
     float value;
 
     Single() = default;
     Single(float v)
         : value(v)
+        , m_left(v)
+        , m_right(1.0f)
+        , m_isProduct(false)
     {
     }
     Single(double v)
-        : value(float(v))
+        : Single(float(v))
     {
     }
 
-    friend Single operator+(Single a, Single b) { return a.value + b.value; }
-    friend Single operator-(Single a, Single b) { return a.value - b.value; }
-    friend Single operator*(Single a, Single b) { return a.value * b.value; }
+    friend Single operator+(Single a, Single b)
+    {
+        if (a.m_isProduct)
+            return productPlus(a.m_left, a.m_right, b.value);
+        return b.m_isProduct ? productPlus(b.m_left, b.m_right, a.value) : a.value + b.value;
+    }
+    friend Single operator-(Single a, Single b)
+    {
+        if (a.m_isProduct)
+            return productPlus(a.m_left, a.m_right, -b.value);
+        return b.m_isProduct ? productPlus(-b.m_left, b.m_right, a.value) : a.value - b.value;
+    }
+    friend Single operator*(Single a, Single b)
+    {
+        Single product(a.value * b.value);
+        product.m_left = a.value;
+        product.m_right = b.value;
+        product.m_isProduct = true;
+        return product;
+    }
     friend bool operator<(Single a, Single b) { return a.value < b.value; }
+
+private:
+    static float productPlus(float a, float b, float c)
+    {
+#ifdef FP_FAST_FMAF
+        return std::fma(a, b, c);
+#else
+        return a * b + c;
+#endif
+    }
+
+    float m_left, m_right;
+    bool m_isProduct;
 };
 
 /// The weights of a block's pixels as such.

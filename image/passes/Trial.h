@@ -50,12 +50,7 @@ public:
         Planes trial;
         const Planes* from = &block;
         recipe.forEach([&](const auto& step) {
-            for (int i = 0; i < blockPixels; i++) {
-                const Rgb before = from->colour(i);
-                const Colour<Single> c =
-                    applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights}, i);
-                trial.setColour(i, {c.r.value, c.g.value, c.b.value});
-            }
+            tryStep(step, *from, weights, trial);
             from = &trial;
         });
         alignas(64) unsigned char unsure[blockPixels];
@@ -77,6 +72,18 @@ public:
     }
 
 private:
+    /// Compilers would rather call the many small parts of a step than put them together, if they were not told to.
+    template <class Step>
+    [[gnu::flatten]] static void tryStep(const Step& step, const Planes& from, const float* weights, Planes& to)
+    {
+        for (int i = 0; i < blockPixels; i++) {
+            const Rgb before = from.colour(i);
+            const Colour<Single> c =
+                applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights}, i);
+            to.setColour(i, {c.r.value, c.g.value, c.b.value});
+        }
+    }
+
     void wait(Block& block, const float* weights, int i)
     {
         const int j = m_waiting++;
