@@ -83,9 +83,15 @@ struct Shade {
             placeAt(weights, across, down, count);
             becomeDarkness(weights, count);
         };
-        forEachPixelAround(
-            image, image.width / 2, image.height / 2, {0.0, 1.0}, darknessAt,
-            [*this](auto c, auto dark) { return darkened(c, byteLuminance(c), dark); }, true);
+        const auto darkenedByte = [*this](auto c, auto dark) {
+            // Half a step above a byte that stays is the same byte, and too far from a whole number to leave a trial in
+            // doubt.
+            const auto stays = dark < 0x1p-60f;
+            const auto become = darkened(c, byteLuminance(c), dark);
+            return Colour{select(stays, c.r + 0.5f, become.r), select(stays, c.g + 0.5f, become.g),
+                select(stays, c.b + 0.5f, become.b)};
+        };
+        forEachPixelAround(image, image.width / 2, image.height / 2, {0.0, 1.0}, darknessAt, darkenedByte, true);
     }
 
     /// The same, visiting only the pixels between the inner radius and the end.
