@@ -267,8 +267,12 @@ private slots:
                             QString("“%1” cannot be saved there. %2")
                                 .arg(shown.size() > 99 ? shown + ".jpg" : shown, reason));
                     }
-                    typeName(panel, desk.folder.filePath("out.jpg"));
+                    const Answers answers(button("Cancel"));
+                    typeName(panel, desk.folder.filePath("photo.png")); // which could be replaced
+                    QCOMPARE(answers.asked, QStringList(ownPhoto));
+                    QVERIFY(panel.isVisible());
                     QCOMPARE(lineOf(panel, "“"), QString());
+                    typeName(panel, desk.folder.filePath("out.jpg"));
                 },
                 [&] { desk.click("btnSave"); });
         });
