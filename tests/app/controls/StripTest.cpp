@@ -175,6 +175,26 @@ private slots:
         QVERIFY(desk.isInSight(desk.all[0]));
     }
 
+    void aLookThatIsSwitchedOffUnderThePointerStaysInSight()
+    {
+        Try desk;
+        LookButton* look = desk.button(Filter::blowout);
+        desk.window.pressFilterButton(Filter::blowout);
+        QTRY_VERIFY(Try::isInSight(look));
+        QTest::mouseMove(look);
+        QTRY_VERIFY(desk.strip->underMouse());
+        QTest::mouseClick(look, Qt::LeftButton);
+        QCOMPARE(desk.looks(), Looks());
+        QVERIFY(Try::isInSight(look));
+        // Where the pointer is elsewhere, the strip goes back to its begin.
+        desk.window.pressFilterButton(Filter::blowout);
+        QTRY_VERIFY(Try::isInSight(look));
+        QTest::mouseMove(desk.find<QWidget>("mainImageView"));
+        QTRY_VERIFY(!desk.strip->underMouse());
+        desk.window.pressFilterButton(Filter::blowout);
+        QTRY_VERIFY(Try::isInSight(desk.all[0]));
+    }
+
     void andStaysInSightWhereTheWindowBecomesNarrower()
     {
         Try desk({2560, 900});
