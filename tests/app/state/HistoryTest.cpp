@@ -129,8 +129,13 @@ private slots:
     {
         Model model;
         model.press(1);
+        model.shown.seed = 7; // rendered anew
         model.choose("Same", [](Choices&) {});
         QCOMPARE(model.history.undoName(), QString("Look"));
+        model.shown.seed = 8;
+        model.press(5);
+        model.history.undo();
+        QCOMPARE(model.shown.seed, 7u);
     }
 
     void aRenderBetweenStepsIsWhatUndoBringsBack()
@@ -180,6 +185,7 @@ private slots:
         QCOMPARE(model.photo.original(), turned);
         QCOMPARE(model.shown.choices.looks, std::vector<int>({1}));
         QCOMPARE(model.history.undoName(), QString("Look"));
+        QVERIFY(!model.history.canRedo()); // which would turn it once more
         model.history.undo();
         QVERIFY(model.shown.choices.looks.empty());
     }
