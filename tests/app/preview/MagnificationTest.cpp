@@ -78,6 +78,7 @@ private slots:
         QCOMPARE(view.placed(picture, room).topLeft(), start + QPoint(93, -95));
         view.panBy({1000, 1000}, picture, room);
         QCOMPARE(view.placed(picture, room).topLeft(), QPoint(0, 0));
+        QCOMPARE(view.placed(picture, room - QSize(100, 50)).topLeft(), QPoint(-50, -25)); // the same in the middle
         view.panBy({-3, -4}, picture, room); // at once: nothing is owed
         QCOMPARE(view.placed(picture, room).topLeft(), QPoint(-3, -4));
         view.panBy({-5, 0}, {600, 20}, room); // lower than the room: it stays in the middle

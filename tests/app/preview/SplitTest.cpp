@@ -238,6 +238,8 @@ private slots:
         const int left = area.left(), right = area.right(), width = 90;
         QVERIFY(differs(split.came, left, left + width));
         QVERIFY(differs(split.render, right - width, right));
+        QVERIFY(!differs(split.came, left, left + 5)); // they keep away from the edge
+        QVERIFY(!differs(split.render, right - 5, right));
         // The line covers them with their pictures.
         split.drag(split.lineX(), left);
         QVERIFY(!differs(split.render, left + lineBreadth, left + width));
