@@ -91,6 +91,17 @@ private slots:
         QVERIFY(isJpeg(fileOf(desk, "holiday.webp.jpg")));
     }
 
+    void aProposedNameWithQuotationMarksIsOneName()
+    {
+        Desk desk;
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "a \"b\" c.png", makePhoto(60, 40))));
+        printedBy([&] {
+            desk.withPanel(
+                [&](QFileDialog& panel) { QTest::keyClick(&panel, Qt::Key_Return); }, [&] { desk.click("btnSave"); });
+        });
+        QVERIFY(isJpeg(fileOf(desk, "a 'b' c.png")));
+    }
+
     void thePanelSaysWhatIsWritten()
     {
         QLocale::setDefault(QLocale::English); // not the desktop's
