@@ -126,6 +126,13 @@ private slots:
         QVERIFY(desk.button(Filter::infrared)->icon().cacheKey() != desk.button(Filter::arctic)->icon().cacheKey());
     }
 
+    void largerButtonsHaveLargerThumbnails()
+    {
+        Try desk({2560, 1400});
+        QVERIFY(desk.strip->side() > 100);
+        QTRY_COMPARE(desk.window.getoriginalThumb().height(), desk.strip->side());
+    }
+
     void aClickPressesAndReleases()
     {
         Try desk({2560, 900});
