@@ -5,6 +5,7 @@
 #include "tests/photo/Samples.h"
 #include "tests/photo/ScarceMemory.h"
 
+#include <QColorSpace>
 #include <QStringList>
 #include <QTest>
 #include <cmath>
@@ -69,6 +70,14 @@ private slots:
         QImage clear(30, 20, QImage::Format_ARGB32);
         clear.fill(Qt::transparent);
         QVERIFY(isFlat(render(clear, none, none), qRgb(255, 255, 255)));
+    }
+
+    void theColourSpaceStays()
+    {
+        QImage source = samples::noise(30, 20);
+        source.setColorSpace(QColorSpace::SRgb);
+        QCOMPARE(render(source, square, instant).colorSpace(), source.colorSpace());
+        QCOMPARE(renderPhoto(source, {.filter = mono}).colorSpace(), source.colorSpace());
     }
 
     void squareWithInstantFrame()
