@@ -4,6 +4,7 @@
 #include "tests/photo/Samples.h"
 #include "tests/photo/TiffSample.h"
 
+#include <QColorSpace>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTransform>
@@ -112,6 +113,7 @@ private slots:
         const LoadedPhoto photo = loadPhoto(path);
         QCOMPARE(photo.reason, QString());
         QVERIFY(samples::showsQuarters(photo.image, upright.size()));
+        QCOMPARE(photo.image.colorSpace(), QColorSpace(QColorSpace::SRgb));
 
         // What is saved stands upright too, for a viewer that turns by the orientation and for one that does not.
         const QByteArray saved = encodeJpeg(photo.image, photo.metadata);
