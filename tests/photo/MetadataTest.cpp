@@ -259,6 +259,20 @@ private slots:
         QCOMPARE(found.xmp, QByteArray("first"));
     }
 
+    void aRestartInThePictureIsNoBlock()
+    {
+        QByteArray file("\xFF\xD8" // begin
+                        "\xFF\xDA\0\2" // a scan without a header
+                        "picture\xFF\xD0picture" // with a restart in it
+                        "\xFF\xFE\0\7after",
+            31);
+        QBuffer device(&file);
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        const JpegMarkers found = readJpegMarkers(device);
+        QCOMPARE(found.comment, QByteArray("after"));
+        QCOMPARE(found.scans, 1);
+    }
+
     void textsOfAPictureAreNoComments()
     {
         QImage picture = samples::noise(30, 20);
