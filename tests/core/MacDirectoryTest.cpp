@@ -75,9 +75,10 @@ TEST_F(MacDirectory, FollowsTheDesktopsOwnFolders)
 
 TEST_F(MacDirectory, SurvivesABrokenList)
 {
-    writeUserDirs("XDG_PICTURES_DIR=\"\nXDG_DOCUMENTS_DIR=\"\\");
+    writeUserDirs("XDG_PICTURES_DIR=\"\nXDG_DESKTOP_DIR=\"/data\\\nXDG_DOCUMENTS_DIR=\"\\");
     EXPECT_EQ(textOf(getMacDirectory(pictures)), "/home/someone/Pictures");
     EXPECT_EQ(textOf(getMacDirectory(documents)), "/home/someone/Documents");
+    EXPECT_EQ(textOf(getMacDirectory(desktop)), "/data\\");
 }
 
 TEST_F(MacDirectory, IsEmptyForOtherCodesAndWithoutAHome)
