@@ -101,7 +101,33 @@ private slots:
         QVERIFY(samples::largestDifference(photo.image, samples::flat(64, 64, QColor(137, 137, 137))) <= 3);
     }
 
-    void aCutFileIsRefused_data() { eachKind(); }
+#ifdef LUMORA_HEIF
+    void coloursMayHaveNumbers_data()
+    {
+        QTest::addColumn<int>("primaries");
+        QTest::addColumn<QColor>("colour"); // of (128, 64, 64), by the published matrices to sRGB
+        QTest::newRow("BT.709") << 1 << QColor(128, 64, 64);
+        QTest::newRow("BT.2020") << 9 << QColor(154, 49, 62);
+        QTest::newRow("P3") << 12 << QColor(138, 59, 62);
+    }
+    void coloursMayHaveNumbers()
+    {
+        QFETCH(int, primaries);
+        QFETCH(QColor, colour);
+        QByteArray file = samples::heif(samples::flat(64, 64, QColor(128, 64, 64)), samples::HeifKind::Av1);
+        const qsizetype numbers = file.indexOf("colrnclx");
+        QVERIFY(numbers > 0);
+        file[numbers + 9] = char(primaries);
+        file[numbers + 11] = 13; // the curve of sRGB
+        const LoadedPhoto photo = open(file);
+        QVERIFY(samples::largestDifference(photo.image, samples::flat(64, 64, colour)) <= 3);
+    }
+#endif
+
+    void aCutFileIsRefused_data()
+    {
+        eachKind();
+    }
     void aCutFileIsRefused()
     {
         QFETCH(int, kind);
