@@ -2,6 +2,7 @@
 #include "render/RenderPipeline.h"
 #include "image/CharImage.h"
 #include "render/ImageBridge.h"
+#include "render/Variation.h"
 #include "tests/photo/Samples.h"
 #include "tests/photo/ScarceMemory.h"
 
@@ -9,6 +10,7 @@
 #include <QStringList>
 #include <QTest>
 #include <cmath>
+#include <cstdlib>
 #include <memory>
 
 using namespace lumora;
@@ -52,6 +54,15 @@ class RenderPipelineTest : public QObject {
 
 private slots:
     void init() { CharImage::useRandom = 0; }
+
+    void fixedSettingsDrawTheSameNumbers()
+    {
+        useFixedSettings();
+        const int drawn = std::rand();
+        QVERIFY(std::rand() != drawn);
+        useFixedSettings();
+        QCOMPARE(std::rand(), drawn);
+    }
 
     void nothingChosenGivesThePhotoBack()
     {
