@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <exiv2/exiv2.hpp>
+#include <iterator>
 #include <random>
 
 namespace {
@@ -198,6 +199,41 @@ private slots:
                  std::pair("Xmp.exif.PixelYDimension", "20"), std::pair("Xmp.xmp.CreatorTool", "Lumora"),
                  std::pair("Exif.Image.StripOffsets", "none"), std::pair("Exif.Image.Compression", "none")})
             QCOMPARE(value(image, key), std::string(text));
+    }
+
+    void whatIsWrittenIsInOrder_data()
+    {
+        formats();
+    }
+    void whatIsWrittenIsInOrder()
+    {
+        QFETCH(QByteArray, format);
+        const QByteArray file = saved(richFile(format));
+        const qsizetype begin = file.indexOf(QByteArray("Exif\0\0", 6)) + 6;
+        const bool isBig = file[begin] == 'M';
+        const auto number = [&](quint32 at, int bytes) {
+            quint32 value = 0;
+            for (int i = 0; i < bytes; i++)
+                value |= quint32(quint8(file[begin + at + quint32(i)])) << 8 * (isBig ? bytes - 1 - i : i);
+            return value;
+        };
+        QList<quint32> directories = {number(4, 4)};
+        for (qsizetype i = 0; i < directories.size(); i++) {
+            const quint32 directory = directories[i], count = number(directory, 2);
+            QCOMPARE(directory % 2, 0u);
+            for (quint32 at = directory + 2, last = 0; at < directory + 2 + 12 * count; at += 12) {
+                const quint32 tag = number(at, 2), type = number(at + 2, 2), place = number(at + 8, 4);
+                QVERIFY(tag > last);
+                last = tag;
+                const quint32 sizes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
+                QVERIFY(type < std::size(sizes));
+                if (sizes[type] * number(at + 4, 4) > 4)
+                    QCOMPARE(place % 2, 0u);
+                if (tag == 0x8769 || tag == 0x8825)
+                    directories << place;
+            }
+        }
+        QCOMPARE(directories.size(), 3); // the picture's, the exposure's and the place's
     }
 
     void placeMayStayAway_data()
