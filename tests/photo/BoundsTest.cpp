@@ -2,6 +2,7 @@
 #include "photo/FileBounds.h"
 #include "photo/JpegMarkers.h"
 #include "photo/PhotoDecoder.h"
+#include "photo/TiffReader.h"
 #include "tests/photo/Samples.h"
 
 #include <QBuffer>
@@ -10,11 +11,11 @@
 namespace {
 
 /// What becomes of a file of those bytes.
-LoadedPhoto decoded(QByteArray file)
+LoadedPhoto decoded(QByteArray file, qint64 memory = qint64(8) << 30)
 {
     QBuffer buffer(&file);
     buffer.open(QIODevice::ReadOnly);
-    return decodePhoto(buffer, qint64(8) << 30);
+    return decodePhoto(buffer, memory);
 }
 
 QString refusalOf(QByteArray file)
@@ -149,6 +150,9 @@ private slots:
         const Tiff sides = Tiff(bigEndian, wide).with(widthTag, longType, 3000).with(heightTag, shortType, 2000);
         QCOMPARE(refusalOf(sides.file()), QString());
         QCOMPARE(refusalOf(Tiff(sides).withBits(4, 16).with(samplesTag, shortType, 4).file()), QString());
+        QCOMPARE(refusalOf(Tiff(sides).withBits(5, 8).with(samplesTag, shortType, 64).file()), QString());
+        QVERIFY(refusalOf(Tiff(sides).withBits(5, 19).with(samplesTag, shortType, 27).file())
+                    .contains("27 channels of 19 bits")); // one bit too many
         QVERIFY(refusalOf(Tiff(sides).withBits(5, 8).with(samplesTag, shortType, 65535).file())
                     .contains("65535 channels of 8 bits"));
         QVERIFY(refusalOf(Tiff(sides).withBits(5, 65535).with(samplesTag, shortType, 5).file())
@@ -173,12 +177,35 @@ private slots:
             QCOMPARE(refusalOf(whole.left(length)), QString());
     }
 
+    void bytesBeyondTheEndAreNotThere()
+    {
+        QByteArray file = Tiff(false, false).with(widthTag, longType, 30).file();
+        QBuffer buffer(&file);
+        buffer.open(QIODevice::ReadOnly);
+        TiffReader reader(buffer);
+        QCOMPARE(reader.bytes(2, quint64(file.size()) - 2), file.mid(2));
+        for (const quint64 size : {quint64(file.size()) - 1, quint64(1) << 40, ~quint64(0)})
+            QCOMPARE(reader.bytes(2, size), QByteArray());
+    }
+
     void ordinaryFilesPass()
     {
         const QImage picture = samples::noise(30, 20);
         for (const char* format : {"tiff", "webp", "png", "jpeg", "bmp"}) {
             QCOMPARE(refusalOf(samples::encoded(picture, format)), QString());
             QVERIFY(!decoded(samples::encoded(picture, format)).image.isNull());
+        }
+    }
+
+    void aPixelTakesFourBytesOrMore()
+    {
+        using Format = QImage::Format;
+        for (const auto& [format, bytes] : {std::pair(Format::Format_Mono, 4), std::pair(Format::Format_Grayscale8, 4),
+                 std::pair(Format::Format_RGB888, 4), std::pair(Format::Format_RGBA64, 8)}) {
+            const qint64 memory = qint64(300) * 200 * bytes * blocksPerPhoto;
+            const QByteArray file = samples::encoded(samples::noise(300, 200).convertedTo(format), "png");
+            QVERIFY(!decoded(file, memory).image.isNull());
+            QVERIFY(decoded(file, memory - blocksPerPhoto).reason.contains("enough free memory"));
         }
     }
 

@@ -121,6 +121,7 @@ QByteArray withNote(std::size_t size = 0)
     exif["Exif.Canon.OwnerName"] = "Somebody with a name of some length";
     exif["Exif.Canon.SerialNumber"] = std::uint32_t(123456);
     exif["Exif.Canon.FirmwareVersion"] = "Firmware 1.1.1";
+    exif["Exif.Photo.SpectralSensitivity"] = "four"; // an odd number of bytes, with that at the end
     if (size > 0) {
         const QByteArray preview = samples::encoded(samples::flat(64, 64, Qt::red), "jpeg");
         Exiv2::DataValue data(reinterpret_cast<const Exiv2::byte*>(preview.constData()), long(preview.size()));
@@ -204,11 +205,12 @@ private slots:
     void whatIsWrittenIsInOrder_data()
     {
         formats();
+        QTest::newRow("round a note") << QByteArray();
     }
     void whatIsWrittenIsInOrder()
     {
         QFETCH(QByteArray, format);
-        const QByteArray file = saved(richFile(format));
+        const QByteArray file = saved(format.isEmpty() ? withNote() : richFile(format));
         const qsizetype begin = file.indexOf(QByteArray("Exif\0\0", 6)) + 6;
         const bool isBig = file[begin] == 'M';
         const auto number = [&](quint32 at, int bytes) {
@@ -453,6 +455,40 @@ private slots:
         QCOMPARE(value(image, "Xmp.xmp.Rating"), std::string("none"));
         QCOMPARE(image->comment(), std::string());
         QVERIFY(samples::showsQuarters(QImage::fromData(file), QSize(64, 48)));
+    }
+
+    void aBlockMayFillItsSegment()
+    {
+        const auto lengthWith = [&](qsizetype letters) {
+            Image image = openedImage(richFile("tiff"));
+            image->exifData()["Exif.Image.Copyright"] = std::string(std::size_t(letters), 'c');
+            const QByteArray file = saved(written(image)), heading("Exif\0\0", 6);
+            const qsizetype begin = file.indexOf(heading);
+            return begin < 0 ? 0 : qFromBigEndian<quint16>(file.constData() + begin - 2);
+        };
+        const qsizetype letters = 60000 + 0xFFFF - lengthWith(60000);
+        QCOMPARE(lengthWith(letters), 0xFFFF);
+        QVERIFY(lengthWith(letters + 1) < 10000); // without the longest value
+    }
+
+    void recordsTakeAnEvenNumberOfBytes()
+    {
+        for (const char* words : {"one", "four"}) {
+            const QByteArray record = QByteArray("\x1C\x02\x78\0", 4) + char(qstrlen(words)) + words;
+            LoadedPhoto photo = samples::loaded(m_folder, samples::encoded(samples::quarters(64, 48), "jpeg"));
+            photo.metadata.iptc = record;
+            const QByteArray file = encodeJpeg(samples::quarters(64, 48), photo.metadata);
+            const qsizetype begin = file.indexOf("Photoshop 3.0"), records = file.indexOf(record);
+            QVERIFY(begin > 0 && records > begin);
+            const qsizetype end = begin - 2 + qFromBigEndian<quint16>(file.constData() + begin - 2);
+            QCOMPARE(end, records + record.size() + record.size() % 2);
+        }
+    }
+
+    void whatNoJpegHoldsStaysNothing()
+    {
+        const LoadedPhoto photo = samples::loaded(m_folder, richFile("jpeg"));
+        QCOMPARE(encodeJpeg(QImage(65501, 1, QImage::Format_RGBX8888), photo.metadata), QByteArray());
     }
 
     void longestValuesGoUntilTheRestFits()

@@ -39,6 +39,14 @@ class PngTest : public QObject {
     LoadedPhoto loadData(const QByteArray& data) { return samples::loaded(m_folder, data); }
 
 private slots:
+    void aPictureThatIsTooLargeSaysSoWithAColourToo()
+    {
+        QByteArray data = keyedPng(rgb, 16, {0}, QByteArray(6, 'k'));
+        const QByteArray sides = bigEndian(quint32(30000)) + bigEndian(quint32(20000));
+        data.replace(8, 25, pngChunk("IHDR", sides + char(16) + rgb + QByteArray(3, 0)));
+        QVERIFY(loadData(data).reason.startsWith("The picture is too large: 30000 x 20000 pixels."));
+    }
+
     void transparentColourIsLaidOnWhite_data()
     {
         QTest::addColumn<QByteArray>("data");

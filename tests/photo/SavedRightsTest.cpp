@@ -182,7 +182,10 @@ private slots:
         const QByteArray path = pathOf("old.jpg"), value("a\0b", 3);
         QVERIFY(setxattr(path.constData(), "user.xdg.comment", value.constData(), 3, 0) == 0);
         QVERIFY(setxattr(path.constData(), "user.empty", "", 0, 0) == 0);
+        // Those of the system are not to be handed on, not even by the superuser, who alone can set them.
+        QVERIFY(setxattr(path.constData(), "trusted.label", "t", 1, 0) == 0 || errno == EPERM);
         QVERIFY(saves(path, "new"));
+        QCOMPARE(attribute(path, "trusted.label"), QByteArray("none"));
         QCOMPARE(attribute(path, "user.xdg.comment"), value);
         QCOMPARE(attribute(path, "user.empty"), QByteArray());
     }
