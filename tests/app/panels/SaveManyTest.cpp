@@ -237,6 +237,31 @@ private slots:
         verifyWhole();
     }
 
+    void nothingBeginsUnderThePanel()
+    {
+        Desk desk(makePhoto(90, 60));
+        desk.click("btnMono");
+        const qint64 photo = desk.window.getoriginalImage().cacheKey(), render = desk.render();
+        bool waited = false;
+        QTimer::singleShot(0, &desk.window, [&] {
+            auto* many = qobject_cast<SaveManyPanel*>(QApplication::activeModalWidget());
+            waited = many != nullptr;
+            desk.find<QAbstractButton>("btnHelga")->toggle(); // as a screen reader does
+            desk.find<QAbstractButton>("btnRight")->click();
+            desk.find<QAbstractButton>("btnFlatten")->click();
+            if (many)
+                many->reject();
+        });
+        action(desk, "Save &Many…").trigger();
+        QVERIFY(waited);
+        QCOMPARE(desk.looks(), std::vector<int>{5});
+        QCOMPARE(desk.pressedButtons(), QStringList("Mono"));
+        QCOMPARE(desk.render(), render);
+        QCOMPARE(desk.window.getoriginalImage().cacheKey(), photo);
+        desk.click("btnHelga"); // nothing waits any more
+        QCOMPARE(desk.looks(), std::vector<int>{1});
+    }
+
     void aProgramThatIsMissingIsTold()
     {
         makePhotos(1, 30);

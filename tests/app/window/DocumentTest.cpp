@@ -314,6 +314,21 @@ private slots:
         QVERIFY(!desk.find<QCheckBox>("chkRandomness")->isChecked() && CharImage::useRandom == 0);
     }
 
+    void atActualSizeAPressHasTheStepsOfBothRenders()
+    {
+        Desk desk;
+        QVERIFY(desk.window.loadImageFromFile(writePhoto(desk.folder, "large.png", makePhoto(2600, 1700))));
+        auto* view = desk.find<DragDropImageView>("mainImageView");
+        QTest::keyClick(view, Qt::Key_Z);
+        QVERIFY(view->closeup().isOn());
+        Watch watch(desk.window, *desk.find<QProgressBar>("progressBar"));
+        desk.click("btnMono");
+        QCOMPARE(watch.steps, QStringList({"Fit", "Mono", "Border", "Fit", "Mono", "Border"}));
+        QCOMPARE(watch.places,
+            QStringList({"0 of 600", "100 of 600", "200 of 600", "300 of 600", "400 of 600", "500 of 600"}));
+        QCOMPARE(desk.looks(), std::vector<int>{5});
+    }
+
     void aSwitchPressedDuringTheFirstWorkStaysAsItWasSaved()
     {
         setPreferences("[General]\nPrefsVersion=2\nUseMultiFilter=true\n");

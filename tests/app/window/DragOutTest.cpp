@@ -102,6 +102,41 @@ private slots:
         QCOMPARE(desk.looks(), std::vector<int>{1});
     }
 
+    void nothingBeginsWhileItIsDragged()
+    {
+        /// Whoever meddles once the drag is there.
+        class Meddler : public QObject {
+        public:
+            explicit Meddler(Desk& desk)
+                : m_desk(desk)
+            {
+            }
+            int drags = 0;
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                if (event->type() != QEvent::ChildAdded)
+                    return false;
+                drags++;
+                m_desk.window.pressFilterButton(lumora::Filter::mono);
+                m_desk.window.rotateImageRight();
+                return false;
+            }
+
+        private:
+            Desk& m_desk;
+        };
+        Desk desk(makePhoto(300, 200));
+        desk.click("btnHelga");
+        const qint64 render = desk.render();
+        Meddler meddler(desk);
+        desk.find<DragDropImageView>("mainImageView")->installEventFilter(&meddler);
+        drag(desk);
+        QCOMPARE(meddler.drags, 1);
+        QCOMPARE(desk.looks(), std::vector<int>{1});
+        QCOMPARE(desk.render(), render);
+        QCOMPARE(desk.window.getoriginalImage().size(), QSize(300, 200));
+    }
+
     void nothingIsRenderedBeforeATargetAsks()
     {
         Desk desk(makePhoto(300, 200));

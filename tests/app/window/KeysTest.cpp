@@ -222,6 +222,20 @@ private slots:
         QCOMPARE(desk.looks(), Looks{});
     }
 
+    void aKeyOfNoKnownMomentActsEachTime()
+    {
+        Try desk;
+        for (const Looks& looks : {Looks{helga}, Looks{}, Looks{helga}})
+            for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                if (type == QEvent::KeyPress && qt_sendShortcutOverrideEvent(desk.view, 0, Qt::Key_2, {}, "2"))
+                    continue;
+                QKeyEvent event(type, Qt::Key_2, {}, "2");
+                QCOMPARE(event.timestamp(), 0u);
+                QApplication::sendEvent(desk.view, &event);
+                QCOMPARE(desk.looks(), looks);
+            }
+    }
+
     void aHeldDigitChoosesNoItem()
     {
         Try desk;
