@@ -148,9 +148,9 @@ inline int truncateToInt(float value)
 /// 0.
 inline int truncateAndClamp(float value)
 {
-    const float notBelow = value > 0.0f ? value : 0.0f;
-    const float held = notBelow < 255.0f ? notBelow : 255.0f;
-    return int(value < 2147483648.0f ? held : 0.0f);
+    const int whole = int(std::fabs(value) < 2147483648.0f ? value : 0.0f);
+    const int notBelow = whole > 0 ? whole : 0;
+    return notBelow < 255 ? notBelow : 255;
 }
 
 /// Truncates toward zero, then wraps modulo 256. NaN, infinities and values beyond an int give 0.

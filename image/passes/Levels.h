@@ -30,7 +30,8 @@ struct Levels {
     {
         const float x = placeOf(v);
         const float notBelow = x > floor ? x : floor;
-        return int(notBelow < ceiling ? notBelow : ceiling);
+        const float held = notBelow < ceiling ? notBelow : ceiling; // cast below: one instruction holds a vector then
+        return int(held);
     }
 
 private:
