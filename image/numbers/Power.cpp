@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "image/numbers/Power.h"
 
-#include "image/numbers/Plane.h"
+#include "image/numbers/Marked.h"
 
 #include <algorithm>
 #include <bit>
@@ -136,7 +136,7 @@ template <class Function> void raiseBy(float* values, int count, float exponent,
 {
     const Bases bases = Bases::of(exponent);
     Plane result;
-    unsigned char unsure[blockPixels];
+    unsigned char unsure[blockPixels] = {};
     for (int i = 0; i < count; i++) {
         const float base = values[i];
         const Rounded rounded = roundedBothWays(power(base));
@@ -145,13 +145,7 @@ template <class Function> void raiseBy(float* values, int count, float exponent,
         result.at[i] = zero ? 0.0f : rounded.below;
         unsure[i] = sure ? 0 : 1;
     }
-    for (int i = 0; i < count; i += 8) {
-        std::uint64_t any;
-        std::memcpy(&any, unsure + i, sizeof any);
-        for (int j = i; any != 0 && j < i + 8; j++)
-            if (unsure[j])
-                result.at[j] = std::pow(values[j], exponent);
-    }
+    forEachMarked(unsure, count, [&](int i) { result.at[i] = std::pow(values[i], exponent); });
     std::copy_n(result.at, count, values);
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
+#include "image/numbers/Marked.h"
 #include "image/numbers/Single.h"
 #include "image/passes/Block.h"
-#include "image/passes/Marked.h"
 #include "image/passes/Recipe.h"
 #include "image/passes/TrialError.h"
 
