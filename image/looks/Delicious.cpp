@@ -16,7 +16,8 @@ constexpr int faintestEdge = 120; ///< leaves no ink; every stronger one does
 void flattenShadows(Block& block)
 {
     block.fillPlanes();
-    workBlock(block, Steps([](Rgb c) { return byteLuminance(c) < 50.0f ? grey(outlineGrey) : c; }));
+    const auto flattened = [](Rgb c) { return byteLuminance(c) < 50.0f ? grey(outlineGrey) : c; };
+    workBlock(block, Steps(flattened), nullptr, [](float v) { return int(v); });
 }
 
 /// What a curve makes of whole values of 0 .. 255.

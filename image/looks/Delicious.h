@@ -7,9 +7,8 @@ namespace lumora {
 /// The squared S-curve, twice as steep in the middle, of a byte: 255 times what it becomes, which is a whole number.
 inline float steepened(float v)
 {
-    const bool dark = v < 128.0f;
-    const float fromEnd = dark ? v : 255.0f - v, square = 2.0f * fromEnd * fromEnd;
-    return dark ? square : 65025.0f - square;
+    const float fromEnd = smaller(v, 255.0f - v), square = 2.0f * fromEnd * fromEnd;
+    return v < 128.0f ? square : 65025.0f - square;
 }
 
 /// The brightness of a colour of bytes after steepening, truncated: 0 .. 255.
@@ -47,10 +46,10 @@ struct Recoloured {
         const Colour<Single> relit =
             eachChannel(c, [=](Single v) { return Single(l * 255.0f + (v.value + v.value - sum) * (growth * 0.5f)); });
         const Colour<Single> doubled = withSaturation(relit, 2.0f);
-        // What comes out grey would be a whole number, too, but can be decided here: its exact way is short. Half a
-        // step is added to the byte, so that the trial is in no doubt.
+        // What comes out grey would be a whole number, too, but can be decided here: it becomes the byte of the
+        // lightness, whichever that is. Half a step is added, so that the trial is in no doubt.
         const bool isGrey = (c.g.value == c.b.value) & !(c.r.value < c.g.value);
-        const Single certain = float(truncateAndClamp(withSaturation(grey(l * 255.0f), 2.0f).r)) + 0.5f;
+        const Single certain = l * 255.0f + 0.5f;
         return eachChannel(
             doubled, [=](Single v) { return select(isGrey, certain, select(growth > mostGrowth, Single(255.0f), v)); });
     }

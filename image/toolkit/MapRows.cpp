@@ -42,8 +42,7 @@ GrowArray<float> printedKernel(int size, float exponent)
 /// A sum as a byte, truncated and wrapped; a value that would change too much stays as it was.
 inline float settled(float sum, float value, float keptChange)
 {
-    const bool keeps = (sum - value >= keptChange) | (value - sum >= keptChange);
-    const float settling = keeps ? value : sum;
+    const float settling = std::fabs(sum - value) >= keptChange ? value : sum;
     return float(int(settling) & 255);
 }
 

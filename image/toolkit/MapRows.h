@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <new>
 #include <vector>
 
@@ -69,7 +70,8 @@ public:
     /// The edge rows repeat beyond the picture.
     WideRow& operator[](long long y)
     {
-        return m_rows[std::size_t(std::clamp<long long>(y, 0, m_lastRow)) % m_rows.size()];
+        // Divisions of 32 bits take half as long as those of 64.
+        return m_rows[std::uint32_t(std::clamp<long long>(y, 0, m_lastRow)) % std::uint32_t(m_rows.size())];
     }
 
 private:
