@@ -40,8 +40,8 @@ void CharImage::applyCrossProcessFilter()
     if (prints)
         std::printf("powers %s %s %s\n", sixPlaces(p.exponent[0]).c_str(), sixPlaces(p.exponent[1]).c_str(),
             sixPlaces(p.exponent[2]).c_str());
-    forEachPixel(
-        *this, filmCurve(p.exponent[0]), filmCurve(p.exponent[1]), filmCurve(p.exponent[2]), [](Rgb c) { return c; });
+    forEachPixel(*this, ByteCurve(filmCurve(p.exponent[0])), ByteCurve(filmCurve(p.exponent[1])),
+        ByteCurve(filmCurve(p.exponent[2])));
 }
 
 } // namespace lumora

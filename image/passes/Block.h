@@ -73,6 +73,16 @@ public:
         for (int i = 0; i < blockPixels; i++)
             setBytes(to + 4 * i, bytesOf(i));
     }
+
+    /// Takes the channels of each pixel through a curve of their own; the planes are not needed.
+    void takeThrough(const ByteCurve& forRed, const ByteCurve& forGreen, const ByteCurve& forBlue)
+    {
+        for (int i = 0; i < blockPixels; i++) {
+            unsigned char* pixel = m_bytes + 4 * i;
+            setBytes(pixel, {forRed.at[pixel[0]], forGreen.at[pixel[1]], forBlue.at[pixel[2]]});
+        }
+    }
+
     /// Where the image has a pixel.
     unsigned char* pixel(int i) const { return m_pixels + 4 * i; }
 

@@ -2,6 +2,8 @@
 #pragma once
 #include "image/numbers/Arithmetic.h"
 
+#include <algorithm>
+
 namespace lumora {
 
 /// What each value of a channel becomes as a float: a per-channel curve needs no more than 256 evaluations.
@@ -16,6 +18,13 @@ template <class Function> ChannelCurve channelCurve(Function f)
         curve.at[v] = f(v);
     return curve;
 }
+
+/// The same, as a byte each.
+struct ByteCurve {
+    unsigned char at[256];
+
+    explicit ByteCurve(const ChannelCurve& curve) { std::transform(curve.at, curve.at + 256, at, truncateAndClamp); }
+};
 
 /// The curve of one channel of a film: the S-curve on the byte's share of 255, held off pure black and pure white at
 /// 20 .. 250.

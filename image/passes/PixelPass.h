@@ -78,6 +78,12 @@ template <class Function> void forEachPixel(CharImage& image, const Levels& leve
     passOver(image, source, stepsOf(function));
 }
 
+/// Each channel becomes what its curve makes of it.
+inline void forEachPixel(CharImage& image, const ByteCurve& red, const ByteCurve& green, const ByteCurve& blue)
+{
+    forEachBlock(image, [&](Block& block) { block.takeThrough(red, green, blue); });
+}
+
 /// Each pixel becomes `function(colour)`, the colour taken through a curve per channel first.
 template <class Function>
 void forEachPixel(
