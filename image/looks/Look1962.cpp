@@ -29,8 +29,8 @@ void CharImage::apply1962Filter()
 {
     const Look1962Parameters p = currentParameters<Look1962Parameters>();
     const Levels levels = levelsOf(*this, {p.darkFraction, p.brightFraction, p.darkLevel, 245.0f, false, false});
-    forEachPixel(*this, levels, [=](Rgb c) {
-        const float level = luminance(Rgb{c.r * p.gain[0], c.g * p.gain[1], c.b * p.gain[2]});
+    forEachPixel(*this, levels, [=](auto c) {
+        const auto level = luminance(Colour{c.r * p.gain[0], c.g * p.gain[1], c.b * p.gain[2]});
         return p.contrast * (level - p.pivot) + p.pivot;
     });
 }

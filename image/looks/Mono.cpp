@@ -25,9 +25,9 @@ MonoParameters MonoParameters::varied(const float* random)
 void CharImage::applyMonoFilter()
 {
     const MonoParameters p = currentParameters<MonoParameters>();
-    const auto weighted = [=](Rgb c) {
-        const auto share = [](float v, float weight) { return float(v * weight * per255); };
-        return luminance(Rgb{share(c.r, p.gain[0]), share(c.g, p.gain[1]), share(c.b, p.gain[2])});
+    const auto weighted = [=](auto c) {
+        const auto share = [](auto v, float weight) { return rounded(v * weight * per255); };
+        return luminance(Colour{share(c.r, p.gain[0]), share(c.g, p.gain[1]), share(c.b, p.gain[2])});
     };
     forEachPixel(*this, weighted, Stretch{0.01f, 0.01f, 0.0f, 255.0f, true, true});
 }

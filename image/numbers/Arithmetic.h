@@ -24,7 +24,7 @@ template <class Channel> Colour(Channel, Channel, Channel) -> Colour<Channel>;
 using Rgb = Colour<float>;
 
 /// A neutral colour.
-inline Rgb grey(float level)
+template <class Channel> inline Colour<Channel> grey(Channel level)
 {
     return {level, level, level};
 }
@@ -33,6 +33,11 @@ inline Rgb grey(float level)
 template <class Channel, class Function> inline auto eachChannel(Colour<Channel> c, Function f)
 {
     return Colour{f(c.r), f(c.g), f(c.b)};
+}
+/// A neutral colour may be one channel alone.
+template <class Channel, class Function> inline auto eachChannel(Channel neutral, Function f)
+{
+    return f(neutral);
 }
 
 /// Where a recipe rounds a step in double.
@@ -66,19 +71,15 @@ template <class Channel> inline Channel smallest(Colour<Channel> c)
 {
     return smaller(smaller(c.r, c.g), c.b);
 }
+inline int smallest(int neutral)
+{
+    return neutral;
+}
 
 /// What is no number becomes the floor, too.
 template <class Channel> inline Channel notBelow(Channel v, float floor)
 {
     return larger(Channel(floor), v);
-}
-
-/// float(whole * factor) without a double, for whole numbers whose product with `upper` is exact: `upper` is the factor
-/// cut to a few bits. The product with what was cut off brings the sum close enough to be rounded alike, unless
-/// whole * factor is very near the middle between two floats: evaluate it for every number that can come.
-constexpr float productWithSplit(float whole, float upper, double factor)
-{
-    return whole * upper + whole * float(factor - double(upper));
 }
 
 /// Luminance of Rec. 601 weights, shortened to two places.
@@ -88,10 +89,13 @@ template <class Channel> inline Channel luminance(Colour<Channel> c)
 }
 
 /// The same for channels that are whole numbers of 0 .. 255, without a double: 100 times their luminance is a whole
-/// number of 0 .. 25500.
+/// number of 0 .. 25500. Its product with the first bits of 0.01 is exact, and the product with the other bits brings
+/// the sum close enough to be rounded alike: a test walks all these numbers.
 inline float byteLuminance(Rgb c)
 {
-    return productWithSplit(c.r * 30.0f + c.g * 59.0f + c.b * 11.0f, 655.0f / 65536.0f, 0.01);
+    constexpr float firstBits = 655.0f / 65536.0f, otherBits = float(0.01 - double(firstBits));
+    const float whole = c.r * 30.0f + c.g * 59.0f + c.b * 11.0f;
+    return whole * firstBits + whole * otherBits;
 }
 
 /// The shared S-curve on 0 .. 1 through (0.5, 0.5): an exponent above 1 steepens the middle, below 1 flattens it.

@@ -18,10 +18,11 @@ inline std::size_t inWholeBlocks(int pixels)
     return (std::size_t(pixels) + blockPixels - 1) / blockPixels * blockPixels;
 }
 
-/// A float per pixel of a block.
-struct alignas(64) Plane {
-    float at[blockPixels];
+/// A float per pixel of a block, or of a group of another size.
+template <int pixels> struct alignas(64) PlaneOf {
+    float at[pixels];
 };
+using Plane = PlaneOf<blockPixels>;
 
 /// What a table has for the index of each pixel of a block.
 inline void lookUp(const float* table, const int (&index)[blockPixels], Plane& values)
@@ -31,9 +32,9 @@ inline void lookUp(const float* table, const int (&index)[blockPixels], Plane& v
         values.at[i] = table[index[i]];
 }
 
-/// The channels of a block's pixels.
-struct Planes {
-    Plane r, g, b;
+/// The channels of such pixels. Of neutral colours, the red ones alone count.
+template <int pixels> struct PlanesOf {
+    PlaneOf<pixels> r, g, b;
 
     Rgb colour(int i) const { return {r.at[i], g.at[i], b.at[i]}; }
     void setColour(int i, Rgb c)
@@ -42,6 +43,8 @@ struct Planes {
         g.at[i] = c.g;
         b.at[i] = c.b;
     }
+    void setColour(int i, float neutral) { r.at[i] = neutral; }
 };
+using Planes = PlanesOf<blockPixels>;
 
 } // namespace lumora

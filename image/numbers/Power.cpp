@@ -7,7 +7,6 @@
 #include <bit>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 
 namespace lumora {
 

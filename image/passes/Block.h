@@ -66,7 +66,7 @@ public:
             setColour(i, {forRed.at[m_bytes[4 * i]], forGreen.at[m_bytes[4 * i + 1]], forBlue.at[m_bytes[4 * i + 2]]});
     }
 
-    /// Stores `bytesOf(i)`, a Colour of 0 .. 255, for each pixel; the spare bytes stay.
+    /// Stores `bytesOf(i)`, a Colour of 0 .. 255 or one level for all channels, for each pixel; the spare bytes stay.
     template <class BytesOf> void storeBytes(BytesOf bytesOf)
     {
         unsigned char* __restrict to = m_bytes;
@@ -93,6 +93,7 @@ public:
             | std::uint32_t(c.g) << greenShift | std::uint32_t(c.b) << blueShift;
         std::memcpy(pixel, &w, 4);
     }
+    static void setBytes(unsigned char* pixel, int level) { setBytes(pixel, {level, level, level}); }
 
     /// Copies the colours of `count` pixels; the spare bytes stay.
     static void copyColours(unsigned char* __restrict to, const unsigned char* __restrict from, int count)
@@ -101,21 +102,6 @@ public:
             const std::uint32_t w = (wordAt(to + 4 * i) & ~colourMask) | (wordAt(from + 4 * i) & colourMask);
             std::memcpy(to + 4 * i, &w, 4);
         }
-    }
-
-    /// Stores the planes as bytes, `toByte(value)` giving 0 .. 255.
-    template <class ToByte> void storePlanes(ToByte toByte)
-    {
-        storeBytes([&](int i) { return eachChannel(colour(i), toByte); });
-    }
-
-    /// Stores the red plane in all three channels.
-    template <class ToByte> void storeGrey(ToByte toByte)
-    {
-        storeBytes([&](int i) {
-            const int level = toByte(r.at[i]);
-            return Colour{level, level, level};
-        });
     }
 
 private:

@@ -14,15 +14,9 @@ void workBlock(Block& block, const Recipe& recipe, const float* weights = nullpt
 {
     recipe.forEach([&](const auto& step) {
         for (int i = 0; i < blockPixels; i++)
-            if constexpr (isNeutral<Recipe>)
-                block.r.at[i] = applied(step, block.colour(i), weights, i);
-            else
-                block.setColour(i, applied(step, block.colour(i), weights, i));
+            block.setColour(i, applied(step, block.colour(i), weights, i));
     });
-    if constexpr (isNeutral<Recipe>)
-        block.storeGrey(toByte);
-    else
-        block.storePlanes(toByte);
+    block.storeBytes([&](int i) { return eachChannel(resultOf<Recipe>(block, i), toByte); });
 }
 
 /// Works a recipe into the bytes of one block after another, with a trial where that is worth while.

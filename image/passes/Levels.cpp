@@ -125,7 +125,7 @@ void CharImage::fillHistogram(
     withByteOf(levels, [this](auto byteOf) {
         forEachBlock(*this, [=](Block& block) {
             block.fillPlanes();
-            block.storePlanes(byteOf);
+            block.storeBytes([&](int i) { return eachChannel(block.colour(i), byteOf); });
         });
     });
 }

@@ -65,8 +65,9 @@ void withRowsOf(CharImage& image, Function function, const Stretch& stretch, Use
     const double error = errorOfTrial(recipe, source.inputs());
     withByteOf(levelsAfter(image, source, recipe, error, stretch), [&](auto byteOf) {
         use([&, toByte = LevelsOnBytes<decltype(byteOf)>{byteOf}](int y) {
-            forEachBlockOfRow(
-                image, y, [&](Block& block, int) { workBlock(block, recipe, source.fill(block), toByte); });
+            BlockWork work(recipe, error, toByte);
+            forEachBlockOfRow(image, y, [&](Block& block, int) { work.on(block, source.fill(block)); });
+            work.finish();
         });
     });
 }

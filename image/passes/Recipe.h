@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
-#include "image/numbers/Arithmetic.h"
+#include "image/numbers/Plane.h"
 
 #include <tuple>
 #include <type_traits>
@@ -8,7 +8,8 @@
 namespace lumora {
 
 // What a look does to one pixel is a function of its colour, or of its colour and a weight that the pass knows (a tone,
-// how far out it stands). A longer recipe is several of them, one after the other.
+// how far out it stands). A longer recipe is several of them, one after the other. One that gives a neutral colour may
+// be a single function that gives one channel.
 
 /// A recipe in steps. Each is worked on a whole block before the next: the processor sees further ahead in short loops
 /// than in a long one.
@@ -44,11 +45,21 @@ inline auto applied(const Step& step, Colour<Channel> c, const Weights& weights,
         return step(c);
 }
 
+/// What a step gives, in three channels.
+template <class Channel> inline Colour<Channel> asColour(Colour<Channel> c)
+{
+    return c;
+}
+template <class Channel> inline Colour<Channel> asColour(Channel neutral)
+{
+    return grey(neutral);
+}
+
 /// The whole recipe on one colour.
 template <class Channel, class Weights, class... Step>
 inline Colour<Channel> applied(const Steps<Step...>& steps, Colour<Channel> c, const Weights& weights, int i)
 {
-    steps.forEach([&](const auto& step) { c = applied(step, c, weights, i); });
+    steps.forEach([&](const auto& step) { c = asColour(applied(step, c, weights, i)); });
     return c;
 }
 
@@ -59,10 +70,19 @@ inline constexpr bool isMadeFor<Channel, Steps<Step...>> = ((
     std::is_invocable_v<const Step&,
         Colour<Channel>> || std::is_invocable_v<const Step&, Colour<Channel>, Channel>)&&...);
 
-/// Whether a recipe gives a neutral colour as one float: its only step does.
+/// Whether a recipe gives a neutral colour as one channel: its only step does.
 template <class Recipe> inline constexpr bool isNeutral = false;
 template <class Step>
 inline constexpr bool isNeutral<Steps<Step>> =
     std::is_same_v<decltype(applied(std::declval<const Step&>(), Rgb{}, std::declval<const float*>(), 0)), float>;
+
+/// What a recipe has made of a pixel: a colour, or a float for a neutral one.
+template <class Recipe, int pixels> inline auto resultOf(const PlanesOf<pixels>& planes, int i)
+{
+    if constexpr (isNeutral<Recipe>)
+        return planes.r.at[i];
+    else
+        return planes.colour(i);
+}
 
 } // namespace lumora

@@ -55,8 +55,8 @@ public:
         });
         alignas(64) unsigned char unsure[blockPixels];
         block.storeBytes([&, reach = m_reach](int i) {
-            const Colour<int> parts = eachChannel(trial.colour(i), inParts);
-            const Colour<int> beyondWhole = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
+            const auto parts = eachChannel(resultOf<Recipe>(trial, i), inParts);
+            const auto beyondWhole = eachChannel(parts, [=](int v) { return (v + reach) & (partsOfOne - 1); });
             unsure[i] = smallest(beyondWhole) < 2 * reach ? 1 : 0;
             return eachChannel(parts, [&](int v) { return toByte.ofWhole(v >> partBits); });
         });
@@ -78,9 +78,8 @@ private:
     {
         for (int i = 0; i < blockPixels; i++) {
             const Rgb before = from.colour(i);
-            const Colour<Single> c =
-                applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights}, i);
-            to.setColour(i, {c.r.value, c.g.value, c.b.value});
+            const auto c = applied(step, Colour<Single>{before.r, before.g, before.b}, SingleWeights{weights}, i);
+            to.setColour(i, eachChannel(c, [](Single v) { return v.value; }));
         }
     }
 
@@ -88,9 +87,7 @@ private:
     {
         const int j = m_waiting++;
         m_bytes[j] = block.pixel(i);
-        m_r[j] = block.r.at[i];
-        m_g[j] = block.g.at[i];
-        m_b[j] = block.b.at[i];
+        m_colours.setColour(j, block.colour(i));
         m_weight[j] = weights ? weights[i] : 0.0f;
         if (m_waiting == groupPixels)
             decide();
@@ -100,28 +97,22 @@ private:
     /// results are not stored.
     void decide()
     {
-        float r[groupPixels], g[groupPixels], b[groupPixels];
-        std::copy_n(m_r, groupPixels, r);
-        std::copy_n(m_g, groupPixels, g);
-        std::copy_n(m_b, groupPixels, b);
+        PlanesOf<groupPixels> group = m_colours;
         recipe.forEach([&](const auto& step) {
 #pragma GCC unroll 1 // eight iterations written out would not become vector code
-            for (int j = 0; j < groupPixels; j++) {
-                const Rgb c = applied(step, Rgb{r[j], g[j], b[j]}, m_weight, j);
-                r[j] = c.r;
-                g[j] = c.g;
-                b[j] = c.b;
-            }
+            for (int j = 0; j < groupPixels; j++)
+                group.setColour(j, applied(step, group.colour(j), m_weight, j));
         });
         for (int j = 0; j < m_waiting; j++)
-            Block::setBytes(m_bytes[j], eachChannel(Rgb{r[j], g[j], b[j]}, toByte));
+            Block::setBytes(m_bytes[j], eachChannel(resultOf<Recipe>(group, j), toByte));
         m_waiting = 0;
     }
 
     const int m_reach;
     int m_waiting = 0;
     unsigned char* m_bytes[groupPixels];
-    float m_r[groupPixels] = {}, m_g[groupPixels] = {}, m_b[groupPixels] = {}, m_weight[groupPixels] = {};
+    PlanesOf<groupPixels> m_colours = {};
+    float m_weight[groupPixels] = {};
 };
 
 } // namespace lumora

@@ -122,6 +122,8 @@ TEST(Trial, KnowsHowFarEachKindOfStepIsOff)
         const auto gain = lightnessOf(c) + 1.0f;
         return eachChannel(c, [=](auto v) { return v * gain; });
     }));
+    // A neutral colour as one channel.
+    expectErrorHolds(Steps([](auto c) { return luminance(c) * 0.7f - larger(c.g - 140.0f, 140.0f - c.g) * 0.3f; }));
 }
 
 TEST(Trial, KnowsHowFarTheShortWayPastTheHueIsOff)
@@ -171,6 +173,10 @@ TEST(Trial, GivesTheBytesOfTheExactRecipe)
     // A third of a byte is rarely a whole number; three times that third nearly always is one.
     expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return rounded(v * (1.0 / 3.0)); }); },
         [](auto c) { return eachChannel(c, [](auto v) { return rounded(v * 2.9999999); }); }));
+    // Neutral colours as one channel.
+    expectPassIsExact(Steps([](auto c) { return rounded(c.g * 0.1 + 3.7); }));
+    expectPassIsExact(
+        Steps([](auto c) { return luminance(c) * 1.7f - 60.0f; }), Levels{12.0f, 1.7f, 5.0f, 5.0f, 255.0f});
     // Results far below 0 and far beyond 255.
     expectPassIsExact(Steps([](auto c) { return eachChannel(c, [](auto v) { return withContrast(v, 9.7); }); }));
     // Behind levels, ordinary ones and those of a flat picture.
