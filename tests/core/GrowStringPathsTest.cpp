@@ -87,5 +87,6 @@ TEST(GrowStringPaths, FindsFiles)
     EXPECT_EQ(textOf(GrowString::findExistingFile("there.txt", directory + '/')), there);
     EXPECT_EQ(textOf(GrowString::findExistingFile(there.c_str(), "")), there);
     EXPECT_EQ(textOf(GrowString::findExistingFile(there.c_str(), "/nowhere")), there); // found by itself
+    EXPECT_EQ(textOf(GrowString::findExistingFile(".", directory)), textOf(directory + "/.")); // not the one here
     EXPECT_EQ(textOf(GrowString::findExistingFile("nowhere.txt", directory)), "");
 }

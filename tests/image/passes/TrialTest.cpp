@@ -134,6 +134,21 @@ TEST(Trial, KnowsHowFarTheShortWayPastTheHueIsOff)
     expectErrorHolds(Steps(spread, darkened));
 }
 
+TEST(Trial, IsAsFarOffAsItsWorstChannel)
+{
+    const auto errorIn = [](int channel) {
+        return errorOf(Steps([channel](auto c) {
+            auto& one = channel == 0 ? c.r : channel == 1 ? c.g : c.b;
+            one = withContrast(one, 1.51);
+            return c;
+        }),
+            bytes(1.0f));
+    };
+    EXPECT_GT(errorIn(2), 0.0);
+    EXPECT_EQ(errorIn(0), errorIn(2));
+    EXPECT_EQ(errorIn(1), errorIn(2));
+}
+
 TEST(Trial, LeavesTheUnclearHuesToTheExactRecipe)
 {
     // Neutral colours, a hue that falls short of a full turn by a hair, and a value of 0.

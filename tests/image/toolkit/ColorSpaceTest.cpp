@@ -3,6 +3,7 @@
 
 #include "tests/reference/Toolkit.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -103,6 +104,21 @@ TEST(ColorSpace, TurnsHslBack)
     EXPECT_EQ(fromHsl(-0.2f, 1, 0.5f), (Three{127.5f, 127.5f, 127.5f}));
     EXPECT_EQ(fromHsl(0, 1, 0.5f), (Three{255, 0, 0}));
     EXPECT_EQ(fromHsl(0.5f, 1, 0.5f), (Three{0, 255, 255}));
+}
+
+TEST(ColorSpace, AWholeTurnIsNone)
+{
+    const float little = std::nextafter(100.0f, 101.0f); // so little more blue that its hue is 360 in single precision
+    EXPECT_EQ(hsv(255, 100, little).a, 0.0f);
+}
+
+TEST(ColorSpace, HuesMayBeFarAway)
+{
+    for (const float h : {5.2e8f, -5.2e8f, 1e12f, -1e30f}) {
+        float rgb[3];
+        reference::hsvToRgb(h, 0.5f, 100, rgb);
+        EXPECT_EQ(fromHsv(h, 0.5f, 100), (Three{rgb[0], rgb[1], rgb[2]})) << h;
+    }
 }
 
 TEST(ColorSpace, ReadsBeforeItWrites)
