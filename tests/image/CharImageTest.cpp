@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <utility>
 
 using namespace lumora;
 
@@ -16,6 +17,16 @@ TEST(CharImage, IsEmptyByDefault)
     EXPECT_EQ(image.bytesPerPixel, 0);
     EXPECT_EQ(image.data, nullptr);
     EXPECT_EQ(image.pixelCount(), 0u);
+}
+
+TEST(CharImage, HasNoPixelsWithoutBothSides)
+{
+    for (const auto& [width, height] : {std::pair(3, 0), std::pair(3, -2), std::pair(0, 3), std::pair(-3, -2)}) {
+        CharImage image;
+        image.width = width;
+        image.height = height;
+        EXPECT_EQ(image.pixelCount(), 0u);
+    }
 }
 
 TEST(CharImage, AdoptsABlockAndRaisesItsSides)

@@ -36,3 +36,13 @@ TEST(Arctic, DarkensAMidGreyIntoBlue)
     // k = 1 - (35/135)^1.1 = 0.773; r1 = g1 = 68.80, b1 = 86.22; saturated: 53.0 and 67.8.
     expectBeforeLevels(Filter::arctic, {100, 100, 100}, {53, 53, 67}, {0, 0, 0}, white, arcticLevels);
 }
+
+TEST(Arctic, MatchesItsTwinInAMillionColours)
+{
+    CharImage::useRandom = 0;
+    Picture twin = randomPicture(1000, 1000, 3);
+    const auto image = imageOf(twin);
+    reference::arctic(twin);
+    image->applyFilter(Filter::arctic);
+    expectSame(*image, twin, "a million colours");
+}

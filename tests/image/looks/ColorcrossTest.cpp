@@ -70,6 +70,12 @@ TEST(Colorcross, SetsApartExponentsThatAreTooAlike)
     float high[3] = {2.5f, 2.6f, 2.7f};
     setApart(high, 0.0f);
     EXPECT_EQ(high[0], 1.25f);
+    float nearly[3] = {1.0f, 1.0f, 1.44f}; // 0.293 from their mean at most
+    setApart(nearly, 0.0f);
+    EXPECT_EQ(nearly[0], 1.6f);
+    float justApart[3] = {1.0f, 1.0f, 1.46f}; // 0.307
+    setApart(justApart, 0.0f);
+    EXPECT_EQ(justApart[0], 1.0f);
     float apart[3] = {1.0f, 1.5f, 2.0f};
     setApart(apart, 0.0f);
     EXPECT_EQ(apart[0], 1.0f);

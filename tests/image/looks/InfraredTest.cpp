@@ -73,3 +73,12 @@ TEST(Infrared, BlursByAHundredthOfTheLongerSide)
         expectSame(*image, twin, std::to_string(width) + " x " + std::to_string(height));
     }
 }
+
+TEST(Infrared, MatchesItsTwinInAMillionColours)
+{
+    Picture twin = randomPicture(1000, 1000, 1);
+    const auto image = imageOf(twin);
+    reference::infrared(twin);
+    image->applyFilter(Filter::infrared);
+    expectSame(*image, twin, "a million colours");
+}

@@ -50,3 +50,14 @@ TEST(Lightleak, DrawsThreeNumbersInOrder)
     image->applyFilter(Filter::lightleak);
     EXPECT_EQ(std::rand(), fourth);
 }
+
+TEST(Lightleak, RoundsItsRadiusOnce)
+{
+    Picture twin = photoLikePicture(60, 40);
+    const auto image = imageOf(twin);
+    std::srand(36); // a radius that a single factor would put one step aside, and a pixel that shows it
+    reference::lightleak(twin);
+    std::srand(36);
+    image->applyFilter(Filter::lightleak);
+    expectSame(*image, twin, "seed 36");
+}
