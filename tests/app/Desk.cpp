@@ -58,7 +58,7 @@ QImage pixelsOf(QImage image)
 QByteArray writePhoto(const QTemporaryDir& folder, const char* name, const QImage& photo)
 {
     const QString path = folder.filePath(QFile::decodeName(name));
-    if (!photo.save(path, "PNG"))
+    if (!photo.save(path, "PNG", 100))
         qFatal("cannot write %s", name);
     return QFile::encodeName(path);
 }
