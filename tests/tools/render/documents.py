@@ -72,13 +72,14 @@ languages = sorted(file.stem for file in (resources / "languages").glob("*.ts"))
 assert len(pages) == 2 and languages, (pages, languages)
 for page in pages:
     lines = page.read_text().splitlines()
+    summary = lines.index(".SH NAME") + 1
     summaries = set()
     for language in languages:
         translated = gzip.open(manual / language / "man1" / f"{page.name}.gz", "rt", encoding="utf-8").read().splitlines()
         other = [i for i, pair in enumerate(zip(lines, translated, strict=True)) if pair[0] != pair[1]]
-        if other != [lines.index(".SH NAME") + 1] or not translated[other[0]].startswith(f"{page.stem} \\- "):
+        if other != [summary] or not translated[summary].startswith(f"{page.stem} \\- "):
             faults.append(f"{language}/{page.name} differs in the lines {other}")
-        summaries.add(translated[lines.index(".SH NAME") + 1])
+        summaries.add(translated[summary])
     if len(summaries) < len(languages):
         faults.append(f"{page.name} has the same summary in two languages")
 
