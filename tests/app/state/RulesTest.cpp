@@ -10,8 +10,7 @@ class RulesTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QLocale::setDefault(QLocale::English); } // not the desktop's
-    void cleanup() { QLocale::setDefault(QLocale::English); }
+    void init() { QLocale::setDefault(QLocale::English); } // not the desktop's, nor that of the test before
 
     void lengthsAreToldByTheLocale()
     {
