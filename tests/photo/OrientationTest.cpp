@@ -55,7 +55,7 @@ QByteArray webpWithExif(const QImage& picture, const QByteArray& exif)
     return "RIFF" + littleEndian(chunks.size(), 4) + chunks;
 }
 
-/// Of which the platform's decoder tells the orientation.
+/// A file whose orientation the platform's own decoder tells.
 QByteArray tiffOf(const QImage& picture, int orientation)
 {
     constexpr int orientationTag = 274, copyrightTag = 33432;
