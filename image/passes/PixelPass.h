@@ -8,7 +8,7 @@ namespace lumora {
 
 // Passes over the pixels of an image. A look gives what happens to one pixel; the loops and the byte conversions live
 // here. A pixel function should choose between values rather than branch, so that a whole block becomes vector code. It
-// gives an Rgb, or a float for a neutral colour; the result is truncated and clamped to bytes.
+// gives a colour, or one channel for a neutral one; the result is truncated and clamped to bytes.
 
 /// Each pixel becomes what the recipe makes of it.
 template <class Source, class Recipe, class ToByte = NoLevels>
