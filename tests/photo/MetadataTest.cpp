@@ -202,6 +202,40 @@ private slots:
             QCOMPARE(value(image, key), std::string(text));
     }
 
+    void whatTheFileSaysOfItsColoursIsTrue()
+    {
+        const std::pair<const char*, const char*> told[] = {{"Exif.Photo.ColorSpace", "1"},
+            {"Exif.Iop.InteroperabilityIndex", "R98"}, {"Exif.Image.YCbCrPositioning", "1"},
+            {"Xmp.exif.ColorSpace", "1"}, {"Xmp.photoshop.ICCProfile", "sRGB"}, {"Xmp.tiff.Software", "Lumora"}};
+        Image image = openedImage(fileByLibrary("jpeg"));
+        image->exifData()["Exif.Photo.ColorSpace"] = std::uint16_t(65535);
+        image->exifData()["Exif.Iop.InteroperabilityIndex"] = "R03";
+        image->exifData()["Exif.Image.YCbCrPositioning"] = std::uint16_t(2);
+        image->xmpData()["Xmp.exif.ColorSpace"] = "65535";
+        image->xmpData()["Xmp.photoshop.ICCProfile"] = "Adobe RGB (1998)";
+        image->xmpData()["Xmp.tiff.Software"] = "Another program";
+        const Image changed = openedImage(saved(written(image)));
+        for (const auto& [key, text] : told)
+            QCOMPARE(value(changed, key), std::string(text));
+        const Image plain = openedImage(saved(fileByLibrary("jpeg"))); // where nothing is said, nothing is added
+        for (const char* key : {"Exif.Photo.ColorSpace", "Exif.Iop.InteroperabilityIndex", "Xmp.exif.ColorSpace",
+                 "Xmp.photoshop.ICCProfile", "Xmp.tiff.Software"})
+            QCOMPARE(value(plain, key), std::string("none"));
+    }
+
+    void whatTellsOfAGainMapGoesAndAShortTextStays()
+    {
+        LoadedPhoto photo = samples::loaded(m_folder, samples::encoded(samples::quarters(64, 48), "jpeg"));
+        photo.metadata.xmp =
+            "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+            "<rdf:Description rdf:about=\"\" xmlns:hdrgm=\"http://ns.adobe.com/hdr-gain-map/1.0/\" "
+            "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" hdrgm:Version=\"1.0\" xmp:Label=\"/9j/\"/>"
+            "</rdf:RDF></x:xmpmeta>";
+        const QByteArray file = encodeJpeg(samples::quarters(64, 48), photo.metadata);
+        QVERIFY(!file.contains("hdrgm"));
+        QCOMPARE(value(openedImage(file), "Xmp.xmp.Label"), std::string("/9j/"));
+    }
+
     void whatIsWrittenIsInOrder_data()
     {
         formats();
@@ -328,6 +362,9 @@ private slots:
         QCOMPARE(value(image, "Exif.Image.Copyright"), std::string("A. Person"));
         QCOMPARE(value(image, "Exif.Canon.SerialNumber"), std::string("123456"));
         QCOMPARE(image->comment(), std::string("said"));
+        file.replace(samples::pngChunk("tEXt", QByteArray("Comment\0said", 12)),
+            samples::pngChunk("zTXt", QByteArray("Comment\0\0", 9) + qCompress("packed").mid(4)));
+        QCOMPARE(samples::loaded(m_folder, file).metadata.comment, QByteArray()); // its bytes are no words
     }
 
     void anItemTellsWhereItsBlockBegins()

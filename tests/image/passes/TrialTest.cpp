@@ -149,6 +149,17 @@ TEST(Trial, IsAsFarOffAsItsWorstChannel)
     EXPECT_EQ(errorIn(1), errorIn(2));
 }
 
+TEST(Trial, IsAsFarOffAsTheWorseOfTwoWays)
+{
+    const auto errorWith = [](auto way) {
+        return errorOf(Steps([way](auto c) { return eachChannel(c, way); }), bytes(1.0f));
+    };
+    const double error = errorWith([](auto v) { return withContrast(v, 1.51); });
+    EXPECT_GT(error, 0.0);
+    EXPECT_EQ(errorWith([](auto v) { return select(v < 128.0f, v, withContrast(v, 1.51)); }), error);
+    EXPECT_EQ(errorWith([](auto v) { return select(v < 128.0f, withContrast(v, 1.51), v); }), error);
+}
+
 TEST(Trial, LeavesTheUnclearHuesToTheExactRecipe)
 {
     // Neutral colours, a hue that falls short of a full turn by a hair, and a value of 0.
