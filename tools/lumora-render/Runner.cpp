@@ -94,6 +94,7 @@ public:
     int doAll(std::size_t jobs, const std::function<void(const Result&)>& tell)
     {
         std::size_t next = 0;
+        bool isCutShort = false;
         while (true) {
             while (interrupt() == 0 && next < m_tasks.size() && m_workers.size() < jobs) {
                 const QString refusal = begin(next);
@@ -102,10 +103,12 @@ public:
                 next++;
             }
             if (m_workers.empty())
-                return next < m_tasks.size() ? interrupt() : 0;
+                return isCutShort || next < m_tasks.size() ? interrupt() : 0;
             for (const Result& result : wait())
-                if (interrupt() == 0 || result.outcome.reason.isEmpty()) // the others have been ended
+                if (interrupt() == 0 || result.outcome.reason.isEmpty())
                     tell(result);
+                else // it has been ended
+                    isCutShort = true;
         }
     }
 

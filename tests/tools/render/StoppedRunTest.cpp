@@ -69,6 +69,14 @@ class StoppedRunTest : public QObject {
         return ended;
     }
 
+    /// The processes of its photos.
+    static QList<QByteArray> children(const RenderRun& run)
+    {
+        const QByteArray process = QByteArray::number(run.process());
+        const QByteArray listed = samples::readFile("/proc/" + process + "/task/" + process + "/children").trimmed();
+        return listed.isEmpty() ? QList<QByteArray>() : listed.split(' ');
+    }
+
 private slots:
     void goesOnWhereItStopped()
     {
@@ -130,14 +138,43 @@ private slots:
         verifyWhole(folder);
     }
 
+    void interruptedAtItsLastPhotoItSaysSo()
+    {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            const ByteFolder folder;
+            RenderRun run(folder.path(), {"--output", "out.jpg", "-"}, RenderRun::Input::Open);
+            QTRY_VERIFY(!children(run).isEmpty()); // it waits for its photo
+            run.send(signal);
+            QCOMPARE(run.wait().status, 128 + signal);
+            QCOMPARE(folder.names(), Names());
+        }
+    }
+
+    void oneThatTakesLongHoldsUpNoOther()
+    {
+        const ByteFolder folder;
+        QVERIFY(mkdir(folder.path("out").constData(), 0700) == 0);
+        samples::writeFile(folder.path("a.png"), samples::encoded(samples::noise(3000, 2000), "png"));
+        for (const char* name : {"b.png", "c.png"})
+            samples::writeFile(folder.path(name), samples::encoded(samples::noise(24, 16), "png"));
+        RenderRun run(folder.path(), {"--jobs", "2", "--output", "out/", "a.png", "b.png", "c.png"});
+        QTRY_VERIFY(!children(run).isEmpty());
+        const int first = children(run).first().toInt();
+        QVERIFY(kill(first, SIGSTOP) == 0);
+        const Names others = {"b.jpg", "c.jpg"};
+        const bool areDone = QTest::qWaitFor([&] { return folder.names("out") == others; }, 30000);
+        QVERIFY(kill(first, SIGCONT) == 0);
+        QVERIFY(areDone);
+        QCOMPARE(run.wait().status, 0);
+        QCOMPARE(folder.names("out"), Names({"a.jpg", "b.jpg", "c.jpg"}));
+    }
+
     void noProcessOutlivesTheRun()
     {
         const ByteFolder folder;
         RenderRun run(folder.path(), {"--output", "out.jpg", "-"}, RenderRun::Input::Open);
-        const QByteArray process = QByteArray::number(run.process());
-        QByteArray child;
-        QTRY_VERIFY(
-            !(child = samples::readFile("/proc/" + process + "/task/" + process + "/children").trimmed()).isEmpty());
+        QTRY_VERIFY(!children(run).isEmpty());
+        const QByteArray child = children(run).first();
         QVERIFY(kill(run.process(), SIGKILL) == 0); // it alone
         QTRY_VERIFY(samples::readFile("/proc/" + child + "/stat").isEmpty()
             || samples::readFile("/proc/" + child + "/stat").contains(") Z "));
