@@ -5,6 +5,7 @@
 #include "tests/photo/SaveFolder.h"
 
 #include <QTest>
+#include <csignal>
 #include <fcntl.h>
 #include <memory>
 #include <sys/file.h>
@@ -50,6 +51,14 @@ class AtomicWriteTest : public QObject {
 
 private slots:
     void init() { m_folder = std::make_unique<SaveFolder>(); }
+    void theSignalOfTheSizeLimitIsAsBefore()
+    {
+        const auto handler = [](int) {};
+        const auto before = std::signal(SIGXFSZ, handler);
+        QVERIFY(saves(pathOf("new.jpg"), "data"));
+        QVERIFY(std::signal(SIGXFSZ, before) == static_cast<void (*)(int)>(handler));
+    }
+
     void cleanup() { fileSystem = {}; }
 
     void namesAreBytes_data()

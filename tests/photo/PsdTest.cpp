@@ -245,6 +245,8 @@ private slots:
     {
         const QString reason = "The picture is damaged or of a kind that cannot be read.";
         QCOMPARE(open(psd({multichannel, 8, 3}, ramps)).reason, reason);
+        QCOMPARE(open(psd({grey, 8, 56}, ramps)).reason, QString());
+        QCOMPARE(open(psd({grey, 8, 57}, ramps)).reason, reason); // more channels than there may be
         QCOMPARE(open(psd({rgb, 8, 2}, ramps)).reason, reason);
         QCOMPARE(open(psd({rgb, 1, 3}, ramps)).reason, reason);
         QByteArray zip = psd({rgb, 8, 3}, ramps);
