@@ -129,7 +129,7 @@ private slots:
         QFETCH(int, bits);
         QFETCH(int, mapBits);
         for (int corner = 0; corner < 4; corner++)
-            for (int first : {0, 3}) {
+            for (int first : {0, bits == 16 ? 300 : 3}) {
                 const LoadedPhoto photo = open(tga({.type = type,
                     .bits = bits,
                     .fromRight = (corner & 1) != 0,
