@@ -65,20 +65,7 @@ Cell cellBetween(const std::array<std::array<double, 3>, 8>& corners, const std:
     return cell;
 }
 
-#ifdef __x86_64__
-
-QRgb mixed(const Cell& cell, std::uint64_t ways)
-{
-    const auto loaded = [](const std::int16_t* from) { return _mm_load_si128(reinterpret_cast<const __m128i*>(from)); };
-    const __m128i all = _mm_cvtsi64_si128(std::int64_t(ways));
-    const __m128i sum = _mm_add_epi32(_mm_madd_epi16(_mm_shuffle_epi32(all, 0), loaded(cell.alongRedAndGreen)),
-        _mm_madd_epi16(_mm_shuffle_epi32(all, 0x55), loaded(cell.alongBlueAndBegin)));
-    const __m128i levels = _mm_packs_epi32(_mm_srai_epi32(sum, riseBits), _mm_setzero_si128());
-    return 0xff000000u | QRgb(_mm_cvtsi128_si32(_mm_packus_epi16(levels, levels)));
-}
-
-#else
-
+/// One pixel. `ways` in lanes of 16 bits: those along the three, and beginTimes.
 QRgb mixed(const Cell& cell, std::uint64_t ways)
 {
     QRgb pixel = 0xff000000u;
@@ -91,6 +78,16 @@ QRgb mixed(const Cell& cell, std::uint64_t ways)
     return pixel;
 }
 
+#ifdef __x86_64__
+/// The levels of one pixel, blue first, each in 32 bits and not yet cut to 0 .. 255.
+__m128i levelsOf(const Cell& cell, std::uint64_t ways)
+{
+    const auto loaded = [](const std::int16_t* from) { return _mm_load_si128(reinterpret_cast<const __m128i*>(from)); };
+    const __m128i all = _mm_cvtsi64_si128(std::int64_t(ways));
+    const __m128i sum = _mm_add_epi32(_mm_madd_epi16(_mm_shuffle_epi32(all, 0), loaded(cell.alongRedAndGreen)),
+        _mm_madd_epi16(_mm_shuffle_epi32(all, 0x55), loaded(cell.alongBlueAndBegin)));
+    return _mm_srai_epi32(sum, riseBits);
+}
 #endif
 
 struct Table {
@@ -106,12 +103,22 @@ void Table::convert(QRgb* pixels, int count) const
 {
     const auto &red = places[0], &green = places[1], &blue = places[2];
     const Cell* all = cells.data();
-    constexpr std::uint64_t ways = 0xffff'ffff'ffff;
-    for (int i = 0; i < count; i++) {
-        const QRgb pixel = pixels[i];
-        const std::uint64_t place = red[pixel >> 16 & 0xff] + green[pixel >> 8 & 0xff] + blue[pixel & 0xff];
-        pixels[i] = mixed(all[place >> 48], (place & ways) | beginTimes << 48);
+    const auto made = [&](int i, auto byCell) {
+        const std::uint64_t place = red[pixels[i] >> 16 & 0xff] + green[pixels[i] >> 8 & 0xff] + blue[pixels[i] & 0xff];
+        constexpr std::uint64_t ways = 0xffff'ffff'ffff;
+        return byCell(all[place >> 48], (place & ways) | beginTimes << 48);
+    };
+    int i = 0;
+#ifdef __x86_64__
+    for (; i + 4 <= count; i += 4) { // which share the steps from levels to bytes
+        const __m128i two = _mm_packs_epi32(made(i, levelsOf), made(i + 1, levelsOf));
+        const __m128i other = _mm_packs_epi32(made(i + 2, levelsOf), made(i + 3, levelsOf));
+        const __m128i four = _mm_or_si128(_mm_packus_epi16(two, other), _mm_set1_epi32(int(0xff000000u)));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(pixels + i), four);
     }
+#endif
+    for (; i < count; i++)
+        pixels[i] = made(i, mixed);
 }
 
 } // namespace

@@ -153,6 +153,8 @@ class ScreenColorsTest : public QObject {
 private slots:
     void coloursAreThoseOfTheProfile_data();
     void coloursAreThoseOfTheProfile();
+    void aPixelIsTheSameWhereverItStands_data();
+    void aPixelIsTheSameWhereverItStands();
     void exchangedPrimaries();
     void onlyScreensThatDiffer_data();
     void onlyScreensThatDiffer();
@@ -190,6 +192,26 @@ void ScreenColorsTest::coloursAreThoseOfTheProfile()
     QVERIFY2(apart.largest <= tolerance && apart.mean < 0.3,
         qPrintable(QStringLiteral("%1 at most, %2 in the mean").arg(apart.largest).arg(apart.mean)));
     QVERIFY(distance(picture, shown).largest > 8);
+}
+
+void ScreenColorsTest::aPixelIsTheSameWhereverItStands_data()
+{
+    QTest::addColumn<QByteArray>("profile");
+    QTest::newRow("primaries") << screen(p3, 2.2);
+    QTest::newRow("tables") << screenOfTables(screen(pale, 2.2));
+}
+
+/// Pixels may be converted several at a time: a strip of three is narrower than that.
+void ScreenColorsTest::aPixelIsTheSameWhereverItStands()
+{
+    QFETCH(QByteArray, profile);
+    const auto colors = ScreenColors::of(profile);
+    QVERIFY(colors);
+    const QImage picture = manyColours(), shown = colors->shown(picture);
+    for (int x = 0; x < picture.width(); x += 3) {
+        const QRect strip = QRect(x, 0, 3, picture.height()) & picture.rect();
+        QCOMPARE(colors->shown(picture.copy(strip)), shown.copy(strip));
+    }
 }
 
 void ScreenColorsTest::exchangedPrimaries()
