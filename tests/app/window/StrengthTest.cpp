@@ -64,12 +64,22 @@ private slots:
     void withoutALookThereIsNothingToWeaken()
     {
         StrengthDesk desk;
-        QVERIFY(!desk.slider().isEnabled());
+        const auto verify = [&](bool isEnabled) {
+            QCOMPARE(desk.slider().isEnabled(), isEnabled);
+            int entries = 0;
+            for (const QAction* action : desk.window.findChildren<QAction*>())
+                if (action->text() == "&Weaker" || action->text() == "&Stronger") {
+                    QCOMPARE(action->isEnabled(), isEnabled);
+                    entries++;
+                }
+            QCOMPARE(entries, 2);
+        };
+        verify(false);
         desk.click("btnMono");
-        QVERIFY(desk.slider().isEnabled());
+        verify(true);
         QCOMPARE(desk.slider().value(), 100);
         desk.click("btnMono");
-        QVERIFY(!desk.slider().isEnabled());
+        verify(false);
     }
 
     void bracketsWeakenAndStrengthenByTenPerCent()
