@@ -71,6 +71,7 @@ void MainWindowController::setShown(const Shown& shown)
     for (const int look : choices.looks)
         filterIDs.add(look);
     showStrength(choices.strength);
+    doMultiFiltering = choices.multi;
     showAppliedFilters();
     showSwitch(*m_ui->chkMultiFilter, choices.multi);
     showSwitch(*m_ui->chkRandomness, choices.varied);

@@ -182,6 +182,12 @@ private slots:
         QVERIFY(desk.looks().empty());
         desk.redo();
         QCOMPARE(desk.looks(), std::vector<int>({1}));
+        desk.click("chkMultiFilter");
+        const QString several = desk.breadcrumb();
+        desk.undo();
+        QVERIFY(desk.breadcrumb() != several);
+        desk.redo();
+        QCOMPARE(desk.breadcrumb(), several);
         QVERIFY(desk.shown().isNull());
     }
 
