@@ -249,11 +249,13 @@ private slots:
             desk.find<QAbstractButton>("btnHelga")->toggle(); // as a screen reader does
             desk.find<QAbstractButton>("btnRight")->click();
             desk.find<QAbstractButton>("btnFlatten")->click();
+            action(desk, "&Next photo").trigger();
             if (many)
                 many->reject();
         });
         action(desk, "Save &Many…").trigger();
         QVERIFY(waited);
+        QVERIFY(!desk.find<QLabel>("noteText")->isVisible()); // nor says that there is no other photo
         QCOMPARE(desk.looks(), std::vector<int>{5});
         QCOMPARE(desk.pressedButtons(), QStringList("Mono"));
         QCOMPARE(desk.render(), render);
