@@ -250,6 +250,7 @@ private slots:
             desk.find<QAbstractButton>("btnRight")->click();
             desk.find<QAbstractButton>("btnFlatten")->click();
             action(desk, "&Next photo").trigger();
+            desk.find<QSlider>("sldStrength")->setValue(40);
             if (many)
                 many->reject();
         });
@@ -258,6 +259,7 @@ private slots:
         QVERIFY(!desk.find<QLabel>("noteText")->isVisible()); // nor says that there is no other photo
         QCOMPARE(desk.looks(), std::vector<int>{5});
         QCOMPARE(desk.pressedButtons(), QStringList("Mono"));
+        QCOMPARE(desk.find<QSlider>("sldStrength")->value(), 100);
         QCOMPARE(desk.render(), render);
         QCOMPARE(desk.window.getoriginalImage().cacheKey(), photo);
         desk.click("btnHelga"); // nothing waits any more

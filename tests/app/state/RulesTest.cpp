@@ -22,6 +22,7 @@ private slots:
     {
         QCOMPARE(shownLength(0), "0 bytes");
         QCOMPARE(shownLength(999'400), "999 kB");
+        QCOMPARE(shownLength(1'000'000), "1.0 MB");
         QCOMPARE(shownLength(2'149'000), "2.1 MB");
         QCOMPARE(savedLine("over\nHelga.jpg", QSize(1600, 1067), 412'345), "Saved over Helga.jpg, 1600 x 1067, 412 kB");
     }
@@ -52,6 +53,15 @@ private slots:
         QCOMPARE(bitmapSize(displaySize({2000, 3000}, 800)), QSize(533, 800));
         QCOMPARE(displaySize({640, 480}, 800), QSizeF(640, 480));
         QCOMPARE(displaySize({2000, 2000}, 800), QSizeF(2000, 2000));
+    }
+
+    void aThumbnailTakesNoMoreThanANinthOfTheWindow()
+    {
+        QCOMPARE(thumbnailSide(1000, 900), 100);
+        QCOMPARE(thumbnailSide(1000, 899), 99);
+        QCOMPARE(thumbnailSide(100, 900), 92); // nor than its button
+        QCOMPARE(thumbnailSide(1000, 2000), 120);
+        QCOMPARE(thumbnailSide(10, 10), 72);
     }
 
     void thumbnailHasAShorterSideOf100()

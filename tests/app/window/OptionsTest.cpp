@@ -473,7 +473,7 @@ private slots:
 
     void foreignKeysAreKept()
     {
-        setPreferences("[General]\nSomebodysKey=theirs\n\n[Other]\nToo=1\n");
+        setPreferences("[General]\n; a remark\nSomebodysKey=theirs\n\n[Other]\nToo=1\n");
         {
             Desk desk;
             desk.window.applicationWillTerminate();
@@ -481,6 +481,13 @@ private slots:
         const QByteArray kept = contentsOf(QFile::encodeName(preferencesFile()));
         QVERIFY(
             kept.contains("SomebodysKey=theirs") && kept.contains("[Other]\nToo=1") && kept.contains("PrefsVersion=2"));
+    }
+
+    void textsOfOtherLettersAreNone()
+    {
+        setPreferences("[General]\nText=caf\xc3\xa9\nPlain=cafe\n");
+        QCOMPARE(getPreferenceString("Text").cString(), "");
+        QCOMPARE(getPreferenceString("Plain").cString(), "cafe");
     }
 
     void preferencesKeepTextNumbersAndTruth()
