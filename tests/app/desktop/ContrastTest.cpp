@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QSlider>
+#include <QStyleOptionSlider>
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -141,6 +142,18 @@ private slots:
             if (high)
                 CLEAR(contrast(framed.pixel(0, framed.height() / 2), qRgb(51, 51, 51)), QString("frame of ") + name);
         }
+        if (high) {
+            auto* slider = desk.find<QSlider>("sldStrength");
+            QStyleOptionSlider option;
+            option.initFrom(slider);
+            option.maximum = slider->maximum();
+            option.sliderPosition = option.sliderValue = slider->value();
+            const QRect handle =
+                slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider);
+            // The handle is light without one, but not as light.
+            QCOMPARE(painted(*slider).pixelColor(handle.left(), handle.center().y()),
+                slider->palette().color(QPalette::WindowText));
+        }
 
         // Marks: a tick, and the sign of an applied look.
         auto* box = desk.find<QCheckBox>("chkRandomness");
@@ -212,6 +225,8 @@ private slots:
         QLineEdit field;
         field.setPlaceholderText("Name");
         field.resize(200, field.sizeHint().height());
+        if (high)
+            CLEAR(contrast(painted(field).pixel(0, field.height() / 2), qRgb(51, 51, 51)), "frame of a field");
         CLEAR(contrastOfSigns(painted(field).copy(4, 4, 190, field.height() - 8)), "hint in a field");
         field.setText("Name");
         CLEAR(contrastOfSigns(painted(field).copy(4, 4, 190, field.height() - 8)), "field");
