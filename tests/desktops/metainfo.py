@@ -15,7 +15,7 @@ FORMER = "dovrel.lumora.desktop"
 # Desktops ask for the capital letter of the program's name, and the validator, at its most pedantic, against it.
 EXPECTED = f"P: {identity}:3: cid-contains-uppercase-letter {identity}"
 run = subprocess.run([appstreamcli, "validate", "--pedantic", "--no-net", "--no-color", metainfo], capture_output=True, text=True,
-                     env=os.environ | {"LC_ALL": "C.UTF-8"})
+                     env=os.environ | {"LC_ALL": "C.UTF-8", "LANGUAGE": ""})
 # Newer validators know another way to tell who made it, which older ones do not.
 words = [line for line in run.stdout.splitlines()
          if line.strip() and line != EXPECTED and not (line.startswith("I: ") and "developer-" in line)]
